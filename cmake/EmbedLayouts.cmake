@@ -1,0 +1,10 @@
+# Writes OUT: a C++ file that returns the text of each layout file by its base name.
+set(text "// Made by cmake/EmbedLayouts.cmake.\n#include \"presentation/LayoutText.h\"\n\nnamespace kv {\n")
+string(APPEND text "std::string_view LayoutText(std::string_view screen) {\n")
+foreach(layout ${LAYOUTS})
+  get_filename_component(name ${layout} NAME_WE)
+  file(READ ${layout} json)
+  string(APPEND text "  if (screen == \"${name}\") return R\"kvjson(${json})kvjson\";\n")
+endforeach()
+string(APPEND text "  return screen.substr(0, 0);\n}\n}  // namespace kv\n")
+file(WRITE ${OUT} "${text}")

@@ -1,0 +1,102 @@
+# Build rules that every folder shares.
+#
+# A folder of src/ becomes one or two static libraries. Rules folders (cards, ai, profile, match) are
+# split: files named frm… or ctl… may use Qt and go to kv_<folder>_ui; all others go to kv_<folder>, which
+# never sees Qt's include paths. In platform/ the real forms (Qt…, Sdl…) go to kv_platform_ui.
+
+add_library(kv_options INTERFACE)
+target_include_directories(kv_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+target_compile_options(kv_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror)
+if(KV_SANITIZE)
+  target_compile_options(kv_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+                                              -fno-omit-frame-pointer)
+  target_link_options(kv_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(KV_FUZZ)
+  target_compile_options(kv_options INTERFACE -fsanitize=fuzzer-no-link,address,undefined
+                                              -fno-sanitize-recover=all)
+  target_link_options(kv_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# kv_add_floor(name): declares the libraries of src/<name>.
+function(kv_add_floor name)
+  set(folder ${PROJECT_SOURCE_DIR}/src/${name})
+  file(GLOB all CONFIGURE_DEPENDS ${folder}/*.cpp)
+  if(name STREQUAL "presentation" OR name STREQUAL "app")
+    set(ui ${all})
+  else()
+    set(ui ${all})
+    list(FILTER ui INCLUDE REGEX "/(frm|ctl|Qt|Sdl)[^/]*\\.cpp$")
+  endif()
+  set(plain ${all})
+  list(REMOVE_ITEM plain ${ui} ${folder}/main.cpp)
+  list(REMOVE_ITEM ui ${folder}/main.cpp)
+  if(plain)
+    add_library(kv_${name} STATIC ${plain})
+    target_link_libraries(kv_${name} PUBLIC kv_options)
+  else()
+    add_library(kv_${name} INTERFACE)
+    target_link_libraries(kv_${name} INTERFACE kv_options)
+  endif()
+  if(ui)
+    add_library(kv_${name}_ui STATIC ${ui})
+    target_link_libraries(kv_${name}_ui PUBLIC kv_${name} kv_options Qt6::Widgets)
+    target_compile_definitions(kv_${name}_ui PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
+  else()
+    add_library(kv_${name}_ui INTERFACE)
+    target_link_libraries(kv_${name}_ui INTERFACE kv_${name} kv_options)
+  endif()
+endfunction()
+
+# kv_floor_uses(name [lib...]): links every library of a floor to the libraries below it.
+function(kv_floor_uses target)
+  get_target_property(type ${target} TYPE)
+  if(type STREQUAL "INTERFACE_LIBRARY")
+    target_link_libraries(${target} INTERFACE ${ARGN})
+  else()
+    target_link_libraries(${target} PUBLIC ${ARGN})
+  endif()
+endfunction()
+
+# kv_link_floors(): a floor links only the floors below it.
+function(kv_link_floors)
+  kv_floor_uses(kv_cards kv_platform)
+  kv_floor_uses(kv_ai kv_cards)
+  kv_floor_uses(kv_profile kv_cards)
+  kv_floor_uses(kv_match kv_ai kv_profile)
+  kv_floor_uses(kv_cards_ui kv_platform_ui)
+  kv_floor_uses(kv_presentation_ui kv_cards_ui kv_profile kv_layouts)
+  kv_floor_uses(kv_match_ui kv_match kv_presentation_ui)
+  kv_floor_uses(kv_app_ui kv_match_ui)
+  kv_embed_layouts()
+  if(TARGET kv_platform_ui)
+    pkg_check_modules(SDL2_MIXER REQUIRED IMPORTED_TARGET SDL2_mixer)
+    kv_floor_uses(kv_platform_ui PkgConfig::SDL2_MIXER)
+  endif()
+endfunction()
+
+# kv_embed_layouts(): every src/**/<screen>.json is compiled in as text, found by kv::LayoutText(screen).
+function(kv_embed_layouts)
+  file(GLOB_RECURSE layouts CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/*.json)
+  set(out ${PROJECT_BINARY_DIR}/layouts/LayoutText.cpp)
+  add_custom_command(
+    OUTPUT ${out}
+    COMMAND ${CMAKE_COMMAND} -DOUT=${out} "-DLAYOUTS=${layouts}" -P ${PROJECT_SOURCE_DIR}/cmake/EmbedLayouts.cmake
+    DEPENDS ${layouts} ${PROJECT_SOURCE_DIR}/cmake/EmbedLayouts.cmake
+    COMMENT "Embedding screen layouts"
+    VERBATIM)
+  add_library(kv_layouts STATIC ${out})
+  target_link_libraries(kv_layouts PUBLIC kv_options)
+endfunction()
+
+# kv_add_test(folder [lib...]): one test program for tests/<folder>.
+function(kv_add_test folder)
+  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${folder}/*.cpp)
+  if(sources)
+    add_executable(test-${folder} ${sources})
+    target_include_directories(test-${folder} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    target_link_libraries(test-${folder} PRIVATE ${ARGN} GTest::gmock)
+    add_test(NAME ${folder} COMMAND test-${folder})
+    set_tests_properties(${folder} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;SDL_AUDIODRIVER=dummy;KV_ASSETS=${PROJECT_BINARY_DIR}/bin")
+  endif()
+endfunction()

@@ -1,0 +1,21 @@
+// A sound device that holds preloaded buffers and starts any of them at once. A missing or lost device is
+// silence, never a fault. The real form is SdlSoundDevice; tests record what is played.
+#pragma once
+
+#include <string>
+
+namespace kv {
+
+class SoundDevice {
+ public:
+  virtual ~SoundDevice() = default;
+  /// Loads a wave file into a new buffer and returns its number (from 0 upwards), or -1 when the file is
+  /// missing or broken (noted on standard error).
+  virtual int LoadBuffer(const std::string& wavePath) = 0;
+  /// Rewinds the buffer and plays it once; a number that is not a buffer plays nothing.
+  virtual void PlayBuffer(int buffer) = 0;
+  /// Plays one wave file once, without keeping it; a missing file plays nothing.
+  virtual void PlayOnce(const std::string& wavePath) = 0;
+};
+
+}  // namespace kv

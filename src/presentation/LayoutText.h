@@ -1,0 +1,11 @@
+// The layout files of the screens, compiled in. Only Layout reads them.
+#pragma once
+
+#include <string_view>
+
+namespace kv {
+
+/// The JSON text of the layout file named after `screen` ("frmGame"), or an empty view when there is none.
+[[nodiscard]] std::string_view LayoutText(std::string_view screen);
+
+}  // namespace kv
