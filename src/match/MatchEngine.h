@@ -20,61 +20,17 @@
 #include <string>
 #include <vector>
 
-#include "ai/AiOperations.h"
 #include "ai/Strategy.h"
 #include "cards/clsDeckArray.h"
 #include "match/MatchPartners.h"
+#include "match/MatchState.h"
 #include "match/MatchView.h"
+#include "match/SideOperations.h"
 #include "match/clsGame.h"
 #include "platform/Dialogs.h"
 #include "platform/Random.h"
 
 namespace kv {
-
-class clsPlayer;
-
-inline constexpr int kTableSize = 9;
-inline constexpr int kSetsToWin = 3;
-inline constexpr int kTargetTotal = 20;
-
-/// What the game timer does on its next tick; the numbers are the product's own.
-enum class GameStep : std::uint8_t {
-  None = 0,
-  PlayerTurn = 1,
-  OpponentTurn = 2,
-  SetTied = 10,
-  OpponentWins = 11,
-  PlayerWins = 12,
-};
-
-/// The options of the player record that a match follows, taken when it opens.
-struct MatchOptions {
-  int speed = 1;             // GameSpeed_Opt: 0 slow, 1 normal, 2 fast; anything else is taken as normal
-  bool emberStyle = false;   // Interface_Opt is "Ember"
-  int turnMode = 2;          // TurnMode_Opt: 0 random, 1 the player begins, 2 alternating
-  bool autoTurn = false;     // AutoTurn_Opt
-  bool autoDialogs = false;  // AutoDialogs_Opt
-};
-[[nodiscard]] MatchOptions MatchOptionsOf(const clsPlayer& player);
-
-/// What the person may use at the moment. A hand card is usable when hand is set and its slot is not empty.
-struct MatchControls {
-  bool endTurn = false;
-  bool stand = false;
-  bool forfeit = false;
-  bool hand = false;         // the player's hand cards and flip buttons
-  bool opponentHand = true;  // false dims the opponent's face-down cards
-  bool titlebar = true;
-  std::array<bool, 2> table{true, true};  // by Seat; false dims the cards of that table
-  friend bool operator==(const MatchControls&, const MatchControls&) = default;
-};
-
-struct MatchBanner {
-  bool visible = false;
-  bool buttonEnabled = false;
-  std::string text;
-  std::string caption = "continue";
-};
 
 class MatchEngine {
  public:
@@ -94,13 +50,13 @@ class MatchEngine {
   void GameTick();
   void AutoDialogsTick();
   void NetWaitTick();
-  /// The banner's button: the next set, or leaving the screen.
+  /// The banner's button, while it is enabled: the next set, or leaving the screen.
   void Continue();
   /// The screen is closing for good: timers stop, later calls do nothing.
   void Close();
 
   // --- The person at this screen; each does nothing while its control is disabled
-  // -----------------------------
+  // ---------------------------
   void EndTurn();
   void Stand();
   void PlayHandCard(int slot);
@@ -158,28 +114,10 @@ class MatchEngine {
   [[nodiscard]] std::string WagerText() const;
 
  private:
-  /// One side's operations as its strategy sees them. They go dead when the turn is over.
-  class SideOperations final : public AiOperations {
-   public:
-    SideOperations(MatchEngine& engine, Seat seat) : engine_(engine), seat_(seat) {}
-    [[nodiscard]] int AI_CardCount() const override;
-    [[nodiscard]] int AI_FindCard(int change) override;
-    [[nodiscard]] int AI_FindCardType(std::string_view type) const override;
-    [[nodiscard]] int AI_TestInvert(int a, int b) const override;
-    void AI_PlayCard(int slot) override;
-    void AI_EndTurn() override;
-    void AI_Stand() override;
-    [[nodiscard]] int Total() const override { return engine_.Total(seat_); }
-    [[nodiscard]] int TableCount() const override;
-    void SetHandCode(int slot, const CardCode& code) override;
+  friend class SideOperations;
 
-   private:
-    /// Over 20 at the end of a turn both sides have stood: the set is settled as a bust.
-    void SettleBust();
-
-    MatchEngine& engine_;
-    Seat seat_;
-  };
+  /// What follows once the peer's "[Play]" has arrived.
+  enum class PeerWait : std::uint8_t { None, NextSet, Leave };
 
   struct Side {
     Side(MatchEngine& engine, Seat seat) : operations(engine, seat) { table.reserve(kTableSize); }
@@ -201,14 +139,15 @@ class MatchEngine {
   void PlayerTurn();
   void OpponentTurn();
   void RunStrategy(Strategy& strategy, Seat seat);
+  void OpenPlayerTurn();
   [[nodiscard]] bool EndsTurnByItself() const;
   void EndPlayerTurn();
   void StandPlayer();
   [[nodiscard]] CardCode DrawMainCard();
   void DrawFor(Seat seat);
   void InvertTable(Seat seat, int a, int b);
+  void EmptyHandSlot(Seat seat, int slot);
   [[nodiscard]] static int TableTotal(std::span<const CardCode> table);
-  void ShowTotal(Seat seat);
 
   // The end of a set and of the match
   bool CheckSetEnd(Seat closing, bool tableFull);
@@ -217,8 +156,10 @@ class MatchEngine {
   void BustWin();
   void BustLose();
   void AddSetWin(bool isOpponent);
-  void WaitForPeer(int purpose);
+  void GoOn();
+  void WaitForPeer(PeerWait next);
   void StopMatch();
+  void SettleBust(Seat seat);
 
   // Small steps
   void SetLights(bool player, bool opponent);
@@ -248,10 +189,12 @@ class MatchEngine {
   bool autoStood_ = false;
   bool stopped_ = false;
   bool closed_ = false;
-  int waitPurpose_ = 0;
-  int speedOffset_ = 0;      // milliseconds
-  int turnDelay_ = 0;        // milliseconds
-  std::uint32_t epoch_ = 0;  // moves on whenever a running turn loses its ground
+  PeerWait peerWait_ = PeerWait::None;
+  int speedOffset_ = 0;              // milliseconds
+  int turnDelay_ = 0;                // milliseconds
+  std::uint32_t epoch_ = 0;          // moves on whenever a running turn loses its ground
+  std::uint32_t strategyEpoch_ = 0;  // the epoch in which the running strategy was asked
+  bool strategyRuns_ = false;
 };
 
 }  // namespace kv

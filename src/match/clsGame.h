@@ -63,8 +63,6 @@ class clsGame {
   void LoadPortraits(int yourPicture, int opponentPicture);
 
  private:
-  void SetArcadeOpponent();
-
   clsPlayer* player_ = nullptr;
   PortraitSource portraits_;
   std::shared_ptr<clsDeckArray> arcadeDeck_;
