@@ -7,6 +7,8 @@
 add_library(kv_options INTERFACE)
 target_include_directories(kv_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 target_compile_options(kv_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror)
+# gcc 12 warns wrongly of overlapping copies in std::string's operator+ (GCC bug 105651).
+target_compile_options(kv_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 if(KV_SANITIZE)
   target_compile_options(kv_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
                                               -fno-omit-frame-pointer)
@@ -70,8 +72,10 @@ function(kv_link_floors)
   kv_floor_uses(kv_app_ui kv_match_ui)
   kv_embed_layouts()
   if(TARGET kv_platform_ui)
-    pkg_check_modules(SDL2_MIXER REQUIRED IMPORTED_TARGET SDL2_mixer)
-    kv_floor_uses(kv_platform_ui PkgConfig::SDL2_MIXER)
+    # Only the mixer's headers: the library itself is loaded by name after the first window stands.
+    pkg_check_modules(SDL2_MIXER REQUIRED SDL2_mixer)
+    target_include_directories(kv_platform_ui SYSTEM PRIVATE ${SDL2_MIXER_INCLUDE_DIRS})
+    kv_floor_uses(kv_platform_ui ${CMAKE_DL_LIBS})
   endif()
 endfunction()
 

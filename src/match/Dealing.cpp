@@ -39,19 +39,20 @@ std::array<int, kHandSize> DrawPositions(Random& random) {
 
 }  // namespace
 
-void DealYourHand(clsGame& game, Random& random) {
-  game.SideDeck = std::make_shared<clsDeckArray>();
+std::shared_ptr<clsDeckArray> DealHand(const clsDeckArray& deck, Random& random) {
+  auto hand = std::make_shared<clsDeckArray>();
   int slot = 1;
-  for (const int position : DrawPositions(random)) {
-    game.SideDeck->setValue(slot++, game.DeckRef->Value(position).InHand());
-  }
+  for (const int position : DrawPositions(random)) hand->setValue(slot++, deck.Value(position).InHand());
+  return hand;
+}
+
+void DealYourHand(clsGame& game, Random& random) {
+  game.SideDeck = DealHand(*game.DeckRef, random);
 }
 
 void SetupCompHand(clsGame& game, Random& random) {
-  const clsDeckArray deck = OpponentDeck(game.OppName);
-  game.CompDeck = std::make_shared<clsDeckArray>();
-  int slot = 1;
-  for (const int position : DrawPositions(random)) game.CompDeck->setValue(slot++, deck.Value(position));
+  // The decks stand in the form of a hand already: dealing changes no code of theirs.
+  game.CompDeck = DealHand(OpponentDeck(game.OppName), random);
   if (game.OppName == "Yourself") game.CompDeck->CopyArray(*game.SideDeck);
   AI_SortDeck(*game.CompDeck);
 }

@@ -11,6 +11,10 @@ namespace kv {
 
 class clsGame;
 
+/// A hand of four different positions of a deck of ten, drawn at random, in the form in which a hand holds
+/// them.
+[[nodiscard]] std::shared_ptr<clsDeckArray> DealHand(const clsDeckArray& deck, Random& random);
+
 /// SideDeck becomes four different positions of DeckRef, drawn at random, in the form in which a hand holds
 /// them.
 void DealYourHand(clsGame& game, Random& random);

@@ -66,12 +66,12 @@ void MatchEngine::Reset() {
   banner_.caption = "continue";
   mainDeckCount_.fill(0);
   controls_.table = {true, true};
-  for (const Seat seat : {Seat::Player, Seat::Opponent}) {
-    side(seat).stood = false;
-    side(seat).total = 0;
-    side(seat).table.clear();
-    view_.TableChanged(seat, 0);
+  for (Side& each : sides_) {
+    each.stood = false;
+    each.total = 0;
+    each.table.clear();
   }
+  for (const Seat seat : {Seat::Player, Seat::Opponent}) view_.TableChanged(seat, 0);
   view_.ControlsChanged();
   if (!Wait(kSetPause - speedOffset_ / 2.0)) return;
   gameState_ = playerStarts_ ? GameStep::PlayerTurn : GameStep::OpponentTurn;

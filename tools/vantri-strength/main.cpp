@@ -1,0 +1,121 @@
+// vantri-strength: plays strategies against each other and prints how often each wins.
+#include <charconv>
+#include <chrono>
+#include <cstdio>
+#include <exception>
+#include <map>
+
+#include "vantri-strength/Tournament.h"
+
+namespace {
+
+constexpr const char* kUsage =
+    "vantri-strength [--first S] [--second S] [--first-deck D] [--second-deck D] [--matches N] [--seed N]\n"
+    "                [--threads N] [--check] [--table]\n"
+    "  S: standard, ember, careless, standard-rescue-ends, standard-rescue-stands\n"
+    "  D: arcade, campaign, network, or a circuit opponent such as \"H6-J8\"\n"
+    "  Half of the matches are played with the seats changed. --check proves the rules at every step.\n"
+    "  --table plays standard and ember against each other and against a careless player with several "
+    "decks.\n";
+
+void PrintHeading() {
+  std::puts(
+      "| first | second | matches | first wins | 95 % | as player | as opponent | sets per match | ties | "
+      "busts per match (first / second) |");
+  std::puts("|---|---|---|---|---|---|---|---|---|---|");
+}
+
+void PrintRow(const kv::TournamentPlan& plan, const kv::TournamentResult& result) {
+  const auto matches = static_cast<double>(result.matches);
+  const kv::Interval interval = kv::WilsonInterval(result.wins[0], result.matches);
+  const auto percent = [&](std::int64_t part, double whole) {
+    return 100.0 * static_cast<double>(part) / whole;
+  };
+  std::printf(
+      "| %s, %s | %s, %s | %lld | %.2f %% | %.2f to %.2f %% | %.2f %% | %.2f %% | %.2f | %.2f %% | %.3f / "
+      "%.3f |\n",
+      plan.first.strategy.c_str(), plan.first.deck.c_str(), plan.second.strategy.c_str(),
+      plan.second.deck.c_str(), static_cast<long long>(result.matches), percent(result.wins[0], matches),
+      100 * interval.low, 100 * interval.high, percent(result.winsAsPlayer[0], matches / 2),
+      percent(result.wins[0] - result.winsAsPlayer[0], matches / 2),
+      static_cast<double>(result.sets) / matches, percent(result.ties, static_cast<double>(result.sets)),
+      static_cast<double>(result.busts[0]) / matches, static_cast<double>(result.busts[1]) / matches);
+}
+
+void Run(const kv::TournamentPlan& plan) {
+  PrintRow(plan, kv::PlayTournament(plan));
+  std::fflush(stdout);
+}
+
+void RunTable(kv::TournamentPlan plan) {
+  for (const char* deck : {"arcade", "campaign", "network"}) {
+    plan.first.deck = plan.second.deck = deck;
+    for (const auto& [first, second] : {std::pair{"standard", "ember"}, std::pair{"standard", "careless"},
+                                        std::pair{"ember", "careless"}}) {
+      plan.first.strategy = first;
+      plan.second.strategy = second;
+      Run(plan);
+    }
+  }
+}
+
+bool ReadNumber(const std::string& text, std::uint64_t& number) {
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  return error == std::errc() && end == text.data() + text.size();
+}
+
+/// Reads the words of the command line; false when one is not understood.
+bool ReadPlan(int count, char** words, kv::TournamentPlan& plan, bool& table) {
+  std::uint64_t matches = static_cast<std::uint64_t>(plan.matches);
+  std::uint64_t threads = 0;
+  const std::map<std::string, std::string*> texts = {{"--first", &plan.first.strategy},
+                                                     {"--second", &plan.second.strategy},
+                                                     {"--first-deck", &plan.first.deck},
+                                                     {"--second-deck", &plan.second.deck}};
+  const std::map<std::string, std::uint64_t*> numbers = {
+      {"--matches", &matches}, {"--seed", &plan.seed}, {"--threads", &threads}};
+  for (int i = 1; i < count; ++i) {
+    const std::string word = words[i];
+    if (word == "--check") {
+      plan.checkInvariants = true;
+    } else if (word == "--table") {
+      table = true;
+    } else if (i + 1 == count) {
+      return false;
+    } else if (const auto text = texts.find(word); text != texts.end()) {
+      *text->second = words[++i];
+    } else if (const auto number = numbers.find(word);
+               number == numbers.end() || !ReadNumber(words[++i], *number->second)) {
+      return false;
+    }
+  }
+  plan.matches = static_cast<std::int64_t>(matches);
+  plan.threads = static_cast<unsigned>(threads);
+  return plan.matches > 0;
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+  kv::TournamentPlan plan{.first = {"standard", "arcade"}, .second = {"ember", "arcade"}};
+  bool table = false;
+  if (!ReadPlan(count, words, plan, table)) {
+    std::fputs(kUsage, stderr);
+    return 2;
+  }
+  try {
+    const auto start = std::chrono::steady_clock::now();
+    PrintHeading();
+    if (table) {
+      RunTable(plan);
+    } else {
+      Run(plan);
+    }
+    const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
+    std::fprintf(stderr, "%.1f s\n", seconds.count());
+  } catch (const std::exception& fault) {
+    std::fprintf(stderr, "%s\n", fault.what());
+    return 1;
+  }
+  return 0;
+}
