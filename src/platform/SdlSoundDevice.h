@@ -36,7 +36,6 @@ class SdlSoundDevice : public SoundDevice {
   void Sleep();
   bool OpenDevice();
   void Play(int channel, Buffer& buffer);
-  void Note(const std::string& text);
 
   Scheduler& scheduler_;
   std::unique_ptr<Mixer> mixer_;
