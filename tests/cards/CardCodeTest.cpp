@@ -1,0 +1,88 @@
+#include <gtest/gtest.h>
+
+#include "cards/CardCode.h"
+
+namespace kv {
+namespace {
+
+struct Shown {
+  const char* code;
+  int value;
+  const char* caption;
+  int slot;
+};
+
+TEST(CardCode, EveryTypeHasItsValueCaptionAndFace) {
+  for (const Shown& card :
+       {Shown{"no7", 7, "7", 2},     Shown{"no-4", -4, "-4", 2},   Shown{"ps3", 3, "+3", 3},
+        Shown{"ms3", -3, "-3", 4},   Shown{"ms-3", -3, "-3", 4},   Shown{"pi3", -3, "-3", 3},
+        Shown{"mi3", 3, "+3", 4},    Shown{"fl3", 3, "±3", 5},     Shown{"fp3", 3, "+3", 5},
+        Shown{"fm-3", -3, "-3", 6},  Shown{"fm3", -3, "-3", 6},    Shown{"fi3", -3, "-3", 5},
+        Shown{"fj3", 3, "+3", 6},    Shown{"s199", 99, "±1T", 7},  Shown{"s10", 0, "±1T", 7},
+        Shown{"s11", 1, "+1T", 7},   Shown{"s1-1", -1, "-1T", 7},  Shown{"s12", 2, "", 7},
+        Shown{"s299", 99, "D", 7},   Shown{"s27", 7, "7", 7},      Shown{"s399", 99, "2&&4", 7},
+        Shown{"s300", 0, "0", 7},    Shown{"s499", 99, "3&&6", 7}, Shown{"s400", 0, "0", 7},
+        Shown{"s599", 99, "1±2", 7}, Shown{"s52", 2, "+2", 7},     Shown{"s5-1", -1, "-1", 7},
+        Shown{"s63", 3, "", 7},      Shown{"un", 0, "", 1},        Shown{"--", 0, "OOO", 1},
+        Shown{"--5", 0, "OOO", 1},   Shown{"00", 0, "", 1},        Shown{"", 0, "", 1},
+        Shown{"PS3", 3, "+3", 3}}) {
+    const CardCode code(card.code);
+    EXPECT_EQ(code.text(), card.code);
+    EXPECT_EQ(code.cardValue(), card.value) << card.code;
+    EXPECT_EQ(code.Caption(), card.caption) << card.code;
+    EXPECT_EQ(code.pictureSlot(), card.slot) << card.code;
+  }
+  EXPECT_TRUE(CardCode("un").captionHidden());
+}
+
+TEST(CardCode, UnreadableNumbersCountAsNothing) {
+  for (const char* code : {"ps", "ps+3", "ps3x", "ps 3", "ps--3", "ps1.5", "ps99999", "p", "ps-"}) {
+    EXPECT_EQ(CardCode(code).cardValue(), 0) << code;
+    EXPECT_EQ(CardCode(code).text(), code);
+  }
+  EXPECT_EQ(CardCode("ms-32768").cardValue(), -32768);
+  EXPECT_EQ(CardCode(CardType::Tiebreaker, -32768).FirstFlip().cardValue(), 32767);
+}
+
+TEST(CardCode, SignsTurnUnderAnInvertingCard) {
+  const std::pair<const char*, const char*> turned[] = {
+      {"no4", "no-4"}, {"no-4", "no4"}, {"ps4", "pi4"}, {"ms-4", "mi4"}, {"pi4", "ps4"}, {"mi4", "ms4"},
+      {"fp4", "fi4"},  {"fm-4", "fj4"}, {"fi4", "fp4"}, {"fj4", "fm4"},  {"s24", "s24"}, {"s52", "s52"}};
+  for (const auto& [before, after] : turned) EXPECT_EQ(CardCode(before).Inverted().text(), after);
+}
+
+TEST(CardCode, FlipButtonsTurnHandCards) {
+  EXPECT_EQ(CardCode("fp3").FirstFlip().text(), "fm3");
+  EXPECT_EQ(CardCode("fm3").FirstFlip().text(), "fp3");
+  EXPECT_EQ(CardCode("s11").FirstFlip().text(), "s1-1");
+  EXPECT_EQ(CardCode("s5-2").FirstFlip().text(), "s52");
+  EXPECT_EQ(CardCode("s51").SecondFlip().text(), "s52");
+  EXPECT_EQ(CardCode("s5-2").SecondFlip().text(), "s5-1");
+  EXPECT_EQ(CardCode("ps3").FirstFlip().text(), "ps3");
+  EXPECT_FALSE(CardCode("s299").hasFirstFlip());
+  EXPECT_FALSE(CardCode("s11").hasSecondFlip());
+}
+
+TEST(CardCode, AHandHoldsChosenSigns) {
+  EXPECT_EQ(CardCode("fl3").InHand().text(), "fp3");
+  EXPECT_EQ(CardCode("s199").InHand().text(), "s11");
+  EXPECT_EQ(CardCode("s599").InHand().text(), "s51");
+  EXPECT_EQ(CardCode("s299").InHand().text(), "s299");
+  EXPECT_EQ(CardCode("ms4").InHand().text(), "ms4");
+}
+
+TEST(CardPrice, FollowsTheTable) {
+  EXPECT_EQ(CardPrice(1, 1), 600);
+  EXPECT_EQ(CardPrice(2, 1), 660);
+  EXPECT_EQ(CardPrice(3, 5), 420);
+  EXPECT_EQ(CardPrice(4, 5), 2500);
+  EXPECT_EQ(CardPrice(4, 6), 0);
+  EXPECT_EQ(CardPrice(203, 2), CardPrice(1, 2));
+  EXPECT_EQ(CardPrice(207, 1), CardPrice(4, 1));
+  for (const auto& [kind, value] : {std::pair{206, 1}, {0, 1}, {5, 1}, {1, 0}, {1, 7}, {-1, 3}}) {
+    EXPECT_EQ(CardPrice(kind, value), 0);
+  }
+}
+
+}  // namespace
+}  // namespace kv
