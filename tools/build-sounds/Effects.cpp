@@ -7,9 +7,12 @@ namespace kv::sound {
 namespace {
 
 // Loudness by mute category. Hover comes with every movement of the mouse, so it is barely there; the events
-// carry the match and stand out.
-constexpr double kHighlight = -35;
+// carry the match and stand out. Within the buttons the aims differ a little, so that the short low ones and
+// the long bright ones are alike both to the ear's measure and to the plain mean of the samples.
+constexpr double kHighlight = -38;
 constexpr double kButtons = -24;
+constexpr double kLowButtons = kButtons - 1.3;
+constexpr double kBrightButtons = kButtons + 1.4;
 constexpr double kCards = -23.5;
 constexpr double kEvents = -20;
 
@@ -137,8 +140,8 @@ Stereo Click() {
   sound.Add(Burst(0.02, 1600, 8000, 0.0035, 41), 0, 0.8);
   sound.Add(Thump(150, 90, 0.08, 0.02), 0.001, 0.6);
   sound.Add(Burst(0.015, 2400, 9000, 0.0025, 42), 0.052, 0.35);
-  Room(sound, 0.12, 0.4, 0.1);
-  sound.setSeconds(0.18);
+  Room(sound, 0.15, 0.5, 0.25);
+  sound.setSeconds(0.36);
   return sound;
 }
 
@@ -158,8 +161,8 @@ Stereo Check() {
   sound.Add(Strike(980, 0.12, kSwitch, 0.0008), 0, 0.8, -0.1);
   sound.Add(Burst(0.02, 2200, 9000, 0.003, 51), 0, 0.7);
   sound.Add(Strike(1470, 0.1, kTick, 0.001), 0.045, 0.6, 0.1);
-  Room(sound, 0.15, 0.4, 0.1);
-  sound.setSeconds(0.18);
+  Room(sound, 0.18, 0.5, 0.25);
+  sound.setSeconds(0.36);
   return sound;
 }
 
@@ -192,7 +195,7 @@ Stereo Buy() {
     sound.Add(Thump(420, 260, 0.05, 0.012), hit.at, hit.gain * 0.4, hit.pan);
   }
   Room(sound, 0.18, 0.6, 0.2);
-  sound.setSeconds(0.75);
+  sound.setSeconds(0.56);
   return sound;
 }
 
@@ -325,7 +328,7 @@ Stereo LevelUp() {
 }
 
 constexpr std::array<Effect, 17> kEffects = {{{"turn", Turn, kCards, 0.04},
-                                              {"click", Click, kButtons, 0.03},
+                                              {"click", Click, kLowButtons, 0.08},
                                               {"hover", Hover, kHighlight, 0.02},
                                               {"draw", Draw, kCards, 0.04},
                                               {"bust", Bust, kEvents, 0.25},
@@ -335,10 +338,10 @@ constexpr std::array<Effect, 17> kEffects = {{{"turn", Turn, kCards, 0.04},
                                               {"losematch", LoseMatch, kEvents, 0.5},
                                               {"winmatch", WinMatch, kEvents, 0.5},
                                               {"tie", Tie, kEvents, 0.3},
-                                              {"check", Check, kButtons, 0.03},
+                                              {"check", Check, kLowButtons, 0.08},
                                               {"propose", Propose, kEvents, 0.25},
                                               {"accept", Accept, kButtons, 0.12},
-                                              {"buy", Buy, kButtons, 0.15},
+                                              {"buy", Buy, kBrightButtons, 0.15},
                                               {"levelup", LevelUp, kEvents, 0.5},
                                               {"panel", Panel, kButtons, 0.06}}};
 

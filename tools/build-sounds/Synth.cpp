@@ -8,6 +8,7 @@ namespace kv::sound {
 namespace {
 
 constexpr double kHighest = 18000;  // hertz
+constexpr double kRelease = 0.08;   // seconds in which a wave's end is let go, so that it does not click
 
 std::size_t Samples(double seconds) {
   return static_cast<std::size_t>(std::lround(seconds * kRate));
@@ -189,9 +190,15 @@ void Stereo::Add(const Wave& wave, double at, double gain, double pan) {
   const double angle = (pan + 1) * kPi / 4;
   const double toLeft = gain * std::cos(angle) * std::sqrt(2.0);
   const double toRight = gain * std::sin(angle) * std::sqrt(2.0);
+  const std::size_t release = std::min(Samples(kRelease), wave.size() / 4);
   for (std::size_t i = 0; i < wave.size(); ++i) {
-    left[start + i] += toLeft * wave[i];
-    right[start + i] += toRight * wave[i];
+    const std::size_t rest = wave.size() - 1 - i;
+    const double fade =
+        rest >= release
+            ? 1
+            : 0.5 - 0.5 * std::cos(kPi * static_cast<double>(rest) / static_cast<double>(release));
+    left[start + i] += toLeft * fade * wave[i];
+    right[start + i] += toRight * fade * wave[i];
   }
 }
 

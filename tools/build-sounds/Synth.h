@@ -57,7 +57,8 @@ struct Stereo {
   Wave left;
   Wave right;
 
-  /// Lays a wave in at `at` seconds; `pan` from -1 (left) to 1 (right) with equal power.
+  /// Lays a wave in at `at` seconds and lets its end go softly; `pan` from -1 (left) to 1 (right) with equal
+  /// power.
   void Add(const Wave& wave, double at, double gain, double pan = 0);
   /// Sets the length, cutting or filling with silence.
   void setSeconds(double seconds);
