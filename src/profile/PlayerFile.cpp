@@ -112,13 +112,13 @@ void StoreContent(const PlayerFileContent& content, PlayerFields& fields) {
 }
 
 std::optional<std::string> FormatPlayerFile(const PlayerFields& fields, std::string_view saveTime,
-                                            Random& random, int versionNumber) {
+                                            Random& random) {
   const std::string pin = ToWindows1252(fields.PIN);
   const std::string version = ToWindows1252(fields.Version);
   std::string file;
   bool fits =
       AppendRecord(file, version) && AppendRecord(file, EncodeBytes(version, VersionKey(pin), random));
-  for (const FileEntry& entry : EntriesOf(versionNumber)) {
+  for (const FileEntry& entry : EntriesOf(kProgramVersionNumber)) {
     const std::string text = entry.marker + WriteEntry(fields, entry);
     fits = fits && AppendRecord(file, EncodeBytes(text, pin + entry.keySuffix, random));
   }

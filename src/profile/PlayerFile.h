@@ -38,11 +38,10 @@ struct PlayerFileContent {
 /// Stores the content of a file into the fields; those that the file does not hold keep their values.
 void StoreContent(const PlayerFileContent& content, PlayerFields& fields);
 
-/// The file that holds `fields`, scrambled under `fields.PIN`, in the layout of the given version (0 to 255):
-/// without the records that came later. Nothing when a text is too long for a record (65,532 bytes).
+/// The file that holds `fields`, scrambled under `fields.PIN`. Nothing when a text is too long for a record
+/// (65,532 bytes).
 [[nodiscard]] std::optional<std::string> FormatPlayerFile(const PlayerFields& fields,
-                                                          std::string_view saveTime, Random& random,
-                                                          int versionNumber = kProgramVersionNumber);
+                                                          std::string_view saveTime, Random& random);
 
 /// First, third and last character of a version text as a number from 0 to 255; nothing if it is none.
 [[nodiscard]] std::optional<int> VersionNumber(std::string_view version);
