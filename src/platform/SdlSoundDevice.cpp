@@ -1,6 +1,6 @@
 #include "platform/SdlSoundDevice.h"
 
-#include <SDL_hints.h>
+#include <SDL.h>
 #include <SDL_mixer.h>
 #include <dlfcn.h>
 
@@ -50,6 +50,7 @@ void Note(const std::string& text) {
 /// The library stays loaded to the end of the program: its libraries keep threads and exit handlers.
 struct SdlSoundDevice::Mixer {
   decltype(&SDL_SetHint) setHint = nullptr;
+  decltype(&SDL_QuitSubSystem) quitSubSystem = nullptr;
   decltype(&SDL_RWFromConstMem) fromMemory = nullptr;
   decltype(&Mix_OpenAudioDevice) open = nullptr;
   decltype(&Mix_CloseAudio) close = nullptr;
@@ -68,12 +69,13 @@ struct SdlSoundDevice::Mixer {
       function = reinterpret_cast<std::remove_reference_t<decltype(function)>>(dlsym(library, name));
       return function != nullptr;
     };
-    const bool whole = find(mixer->setHint, "SDL_SetHint") && find(mixer->fromMemory, "SDL_RWFromConstMem") &&
-                       find(mixer->open, "Mix_OpenAudioDevice") && find(mixer->close, "Mix_CloseAudio") &&
-                       find(mixer->allocateChannels, "Mix_AllocateChannels") &&
-                       find(mixer->loadWave, "Mix_LoadWAV_RW") && find(mixer->freeChunk, "Mix_FreeChunk") &&
-                       find(mixer->play, "Mix_PlayChannelTimed") && find(mixer->halt, "Mix_HaltChannel") &&
-                       find(mixer->playing, "Mix_Playing");
+    const bool whole =
+        find(mixer->setHint, "SDL_SetHint") && find(mixer->quitSubSystem, "SDL_QuitSubSystem") &&
+        find(mixer->fromMemory, "SDL_RWFromConstMem") && find(mixer->open, "Mix_OpenAudioDevice") &&
+        find(mixer->close, "Mix_CloseAudio") && find(mixer->allocateChannels, "Mix_AllocateChannels") &&
+        find(mixer->loadWave, "Mix_LoadWAV_RW") && find(mixer->freeChunk, "Mix_FreeChunk") &&
+        find(mixer->play, "Mix_PlayChannelTimed") && find(mixer->halt, "Mix_HaltChannel") &&
+        find(mixer->playing, "Mix_Playing");
     if (!whole) return {};
     HushAlsa();
     mixer->setHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Kelm Vantri");
@@ -180,8 +182,11 @@ bool SdlSoundDevice::Wake() {
 
 bool SdlSoundDevice::OpenDevice() {
   if (mixer_ == nullptr) mixer_ = Mixer::Load();
+  if (mixer_ == nullptr) return false;
   // No change of format is allowed: the buffers' samples outlive the open device.
-  return mixer_ != nullptr && mixer_->open(kRate, AUDIO_S16SYS, kChannels, kBlock, nullptr, 0) == 0;
+  if (mixer_->open(kRate, AUDIO_S16SYS, kChannels, kBlock, nullptr, 0) == 0) return true;
+  mixer_->quitSubSystem(SDL_INIT_AUDIO);
+  return false;
 }
 
 void SdlSoundDevice::Sleep() {
@@ -189,6 +194,8 @@ void SdlSoundDevice::Sleep() {
   rest_->setEnabled(false);
   mixer_->halt(-1);
   mixer_->close();
+  // Opening started SDL's audio part, whose search for new devices would go on waking the processor.
+  mixer_->quitSubSystem(SDL_INIT_AUDIO);
 }
 
 }  // namespace kv

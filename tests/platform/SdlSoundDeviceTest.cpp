@@ -1,0 +1,170 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
+#include <thread>
+
+#include "platform/SdlSoundDevice.h"
+#include "platform/Waves.h"
+#include "support/TempFolder.h"
+
+namespace kv {
+namespace {
+
+/// A clock that a test moves, and timers that tick when a test says so.
+class TestScheduler final : public Scheduler {
+ public:
+  class TestTimer final : public Timer {
+   public:
+    TestTimer(TestScheduler& owner, std::function<void()> tick) : tick_(std::move(tick)), owner_(owner) {
+      owner_.timers_.push_back(this);
+    }
+    ~TestTimer() override { std::erase(owner_.timers_, this); }
+    void setInterval(int) override {}
+    [[nodiscard]] int Interval() const override { return 1; }
+    void setEnabled(bool enabled) override { enabled_ = enabled; }
+    [[nodiscard]] bool Enabled() const override { return enabled_; }
+    void Tick() const { tick_(); }
+
+   private:
+    std::function<void()> tick_;
+    TestScheduler& owner_;
+    bool enabled_ = false;
+  };
+
+  [[nodiscard]] std::uint32_t timeGetTime() const override { return now; }
+  [[nodiscard]] std::unique_ptr<Timer> NewTimer(int, std::function<void()> tick) override {
+    return std::make_unique<TestTimer>(*this, std::move(tick));
+  }
+  [[nodiscard]] bool Pause(int, const Lifetime&) override { return true; }
+  [[nodiscard]] int PauseDepth() const override { return 0; }
+
+  void TickAll() {
+    std::vector<TestTimer*> due;
+    std::ranges::copy_if(timers_, std::back_inserter(due), &TestTimer::Enabled);
+    for (const TestTimer* timer : due) timer->Tick();
+  }
+  [[nodiscard]] bool AnyEnabled() const {
+    return std::ranges::any_of(timers_, [](const TestTimer* timer) { return timer->Enabled(); });
+  }
+
+  std::uint32_t now = 0;
+
+ private:
+  std::vector<TestTimer*> timers_;
+};
+
+/// Polls, for at most some seconds: the mixer plays on a thread of its own.
+template <class Condition>
+bool Soon(Condition condition) {
+  for (int i = 0; i < 5000; ++i) {
+    if (condition()) return true;
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  }
+  return false;
+}
+
+class SdlSoundDeviceTest : public testing::Test {
+ protected:
+  void UseDriver(const char* name) { ::setenv("SDL_AUDIODRIVER", name, 1); }
+  void TearDown() override { UseDriver("dummy"); }
+
+  [[nodiscard]] std::string PutWave(const char* name) const {
+    folder.Put(name, WaveParts{}.Bytes());
+    return folder / name;
+  }
+  /// Uses the driver that writes what would be heard into a file, faster than it would be heard.
+  void UseDiskDriver() {
+    UseDriver("disk");
+    ::setenv("SDL_DISKAUDIOFILE", (folder / "heard.raw").c_str(), 1);
+    ::setenv("SDL_DISKAUDIODELAY", "1", 1);
+  }
+  [[nodiscard]] bool Heard() const {
+    const std::string samples = folder.Get("heard.raw");
+    return samples.find_first_not_of('\0') != std::string::npos;
+  }
+
+  const TempFolder folder;
+  TestScheduler scheduler;
+};
+
+TEST_F(SdlSoundDeviceTest, APlayedBufferComesOutAndTheDeviceThenSleeps) {
+  UseDiskDriver();
+  SdlSoundDevice device(scheduler);
+  const int buffer = device.LoadBuffer(PutWave("a.wav"));
+  ASSERT_EQ(buffer, 0);
+  EXPECT_FALSE(device.Awake()) << "opened before the first window stands";
+
+  // The second round proves that the samples outlive the closed device.
+  for (int round = 0; round < 2; ++round) {
+    device.PlayBuffer(buffer);
+    EXPECT_TRUE(Soon([this] { return Heard(); })) << round;
+    EXPECT_TRUE(Soon([&] {
+      scheduler.TickAll();
+      return !device.Awake();
+    }));
+    EXPECT_FALSE(scheduler.AnyEnabled()) << "something still ticks while nothing sounds";
+    folder.Put("heard.raw", "");
+  }
+
+  device.PlayOnce(folder / "nothing.wav");
+  EXPECT_FALSE(device.Awake());
+  device.PlayOnce(PutWave("once.wav"));
+  EXPECT_TRUE(Soon([this] { return Heard(); }));
+}
+
+TEST_F(SdlSoundDeviceTest, WakesEarlySoThatTheFirstSoundIsNotLate) {
+  UseDriver("dummy");
+  SdlSoundDevice device(scheduler);
+  EXPECT_FALSE(scheduler.AnyEnabled());
+  EXPECT_EQ(device.LoadBuffer(PutWave("a.wav")), 0);
+  EXPECT_EQ(device.LoadBuffer(PutWave("b.wav")), 1);
+  scheduler.TickAll();
+  EXPECT_TRUE(device.Awake());
+  EXPECT_EQ(device.LoadBuffer(PutWave("late.wav")), 2);
+  device.PlayBuffer(2);
+  EXPECT_TRUE(device.Awake());
+}
+
+TEST_F(SdlSoundDeviceTest, WithoutADeviceThereIsSilenceAndOneNote) {
+  UseDriver("no-such-driver");
+  SdlSoundDevice device(scheduler);
+  const int buffer = device.LoadBuffer(PutWave("a.wav"));
+  testing::internal::CaptureStderr();
+  for (int i = 0; i < 5; ++i) {
+    device.PlayBuffer(buffer);
+    device.PlayOnce(folder / "a.wav");
+    scheduler.TickAll();
+    scheduler.now += 20000;
+  }
+  const std::string noted = testing::internal::GetCapturedStderr();
+  EXPECT_EQ(std::ranges::count(noted, '\n'), 1) << noted;
+  EXPECT_FALSE(device.Awake());
+
+  // Headphones plugged in later are found.
+  UseDriver("dummy");
+  scheduler.now += 60000;
+  device.PlayBuffer(buffer);
+  EXPECT_TRUE(device.Awake());
+}
+
+TEST_F(SdlSoundDeviceTest, AMissingOrBrokenWaveIsNoBufferAndIsNoted) {
+  UseDriver("dummy");
+  SdlSoundDevice device(scheduler);
+  folder.Put("empty.wav", "");
+  folder.Put("text.wav", "this is not a sound");
+  folder.Put("cut.wav", WaveParts{}.Bytes().substr(0, 200));
+  for (const char* name : {"missing.wav", "empty.wav", "text.wav", "cut.wav"}) {
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(device.LoadBuffer(folder / name), -1) << name;
+    EXPECT_NE(testing::internal::GetCapturedStderr().find(name), std::string::npos);
+    device.PlayOnce(folder / name);
+  }
+  device.PlayBuffer(-1);
+  device.PlayBuffer(0);
+  EXPECT_FALSE(device.Awake());
+}
+
+}  // namespace
+}  // namespace kv
