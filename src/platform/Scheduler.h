@@ -6,6 +6,8 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace kv {
 
@@ -29,11 +31,37 @@ class Timer {
 /// The life of a screen, as its pauses see it: once closed, every pause that names it ends.
 class Lifetime {
  public:
-  void Close() { closing_ = true; }
+  Lifetime() = default;
+  Lifetime(const Lifetime&) = delete;
+  Lifetime& operator=(const Lifetime&) = delete;
+
+  /// For good: a closed life never opens again. Wakes the pauses that wait for it.
+  void Close() {
+    closing_ = true;
+    for (const Waker* waker : std::vector<const Waker*>(wakers_)) waker->wake_();
+  }
   [[nodiscard]] bool closing() const { return closing_; }
+
+  /// What a scheduler hangs on a life for the time of one pause; it must go before the life does.
+  class Waker {
+   public:
+    /// `wake` only notes that it was called: it must not end the life or the waker.
+    Waker(const Lifetime& life, std::function<void()> wake) : life_(life), wake_(std::move(wake)) {
+      life_.wakers_.push_back(this);
+    }
+    Waker(const Waker&) = delete;
+    Waker& operator=(const Waker&) = delete;
+    ~Waker() { std::erase(life_.wakers_, this); }
+
+   private:
+    friend class Lifetime;
+    const Lifetime& life_;
+    std::function<void()> wake_;
+  };
 
  private:
   bool closing_ = false;
+  mutable std::vector<const Waker*> wakers_;
 };
 
 class Scheduler {
