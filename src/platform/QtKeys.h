@@ -1,0 +1,18 @@
+// From the toolkit's keys to the virtual-key codes of the key bindings, and from those to names.
+#pragma once
+
+#include <QString>
+
+class QKeyEvent;
+
+namespace kv {
+
+/// The virtual-key code of a pressed key, or 0 for a key that has none. Letters and digits go by their place
+/// on the keyboard where the layout gives another character (a shifted digit, a Cyrillic letter).
+[[nodiscard]] int VirtualKey(const QKeyEvent& event);
+/// The same for a Qt::Key alone; `keypad` tells whether it is on the number block.
+[[nodiscard]] int VirtualKey(int qtKey, bool keypad);
+/// What the key is called on the options screen ("A", "Space", "Num 4"); empty for a code without a key.
+[[nodiscard]] QString KeyName(int virtualKey);
+
+}  // namespace kv
