@@ -132,7 +132,7 @@ class Turn {
       case clsAI_Normal::AfterRescue::StandWhenAhead:
         break;
     }
-    return side_.Total() >= 17 && side_.Total() >= oppTotal_;
+    return side_.Total() >= 18 && side_.Total() >= oppTotal_;
   }
 
   // Rule 9: nineteen is good enough when no big minus card is left to save a later bust.
