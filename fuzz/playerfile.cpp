@@ -7,7 +7,7 @@
 #include <array>
 #include <cstdint>
 #include <cstdlib>
-#include <cstring>
+#include <random>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -165,6 +165,6 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
     }
   }
   if (file.size() > maxSize) file.resize(maxSize);
-  std::memcpy(data, file.data(), file.size());
+  std::copy(file.begin(), file.end(), data);
   return file.size();
 }

@@ -14,6 +14,8 @@ namespace kv {
 namespace {
 
 namespace fs = std::filesystem;
+using test::OpenFiles;
+using test::TempFolder;
 using testing::ElementsAre;
 using testing::IsEmpty;
 

@@ -16,7 +16,7 @@ class DamagedFile : public ProfileTest {
     player.FileName.clear();
     EXPECT_EQ(Snapshot(player), before) << what;
     EXPECT_EQ(folder.Get("p.vnt"), bytes) << what;
-    EXPECT_THAT(dialogs.boxes, IsEmpty()) << what;
+    EXPECT_THAT(Told(dialogs), IsEmpty()) << what;
   }
 
   /// The quick form, in memory.
@@ -60,7 +60,7 @@ TEST_F(DamagedFile, AnyByteChangedIsRefusedOrReadWhole) {
     EXPECT_EQ(folder.Get("p.vnt"), changed) << at;
   }
   EXPECT_GT(loaded, 128 * 3);  // padding may change, and some texts and digits
-  EXPECT_THAT(dialogs.boxes, IsEmpty());
+  EXPECT_THAT(Told(dialogs), IsEmpty());
 }
 
 TEST_F(DamagedFile, OneValueThatDoesNotConvert) {
@@ -116,7 +116,7 @@ TEST_F(DamagedFile, OddValuesThatStillConvertAreLoaded) {
     EXPECT_FALSE(LoadBytes(player, sample.Bytes(""))) << number << " = " << text;
   }
   EXPECT_FALSE(LoadBytes(player, SampleFile().Bytes("") + "whatever follows"));
-  EXPECT_THAT(dialogs.boxes, IsEmpty());
+  EXPECT_THAT(Told(dialogs), IsEmpty());
 }
 
 TEST_F(DamagedFile, VersionsThatAreNoNumber) {
@@ -152,7 +152,7 @@ TEST_F(DamagedFile, RecordHeaders) {
 }
 
 TEST_F(DamagedFile, WhatIsNoFile) {
-  const int filesOpen = OpenFiles();
+  const int filesOpen = test::OpenFiles();
   std::filesystem::create_directory(folder / "dir.vnt");
   folder.Put("zeros.vnt", "");
   std::filesystem::resize_file(folder / "zeros.vnt", std::uintmax_t{1} << 32U);
@@ -162,8 +162,8 @@ TEST_F(DamagedFile, WhatIsNoFile) {
     EXPECT_EQ(player.FileName, name);
   }
   for (int i = 0; i < 20; ++i) EXPECT_TRUE(LoadBytes(player, "junk"));
-  EXPECT_EQ(OpenFiles(), filesOpen);
-  EXPECT_THAT(dialogs.boxes, IsEmpty());
+  EXPECT_EQ(test::OpenFiles(), filesOpen);
+  EXPECT_THAT(Told(dialogs), IsEmpty());
 }
 
 }  // namespace

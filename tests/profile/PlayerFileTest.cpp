@@ -26,7 +26,7 @@ ps1 ms2 ms-3 fl4 fp5 fm6 no7 s199 s299 s599
 s399 s499 fl1 fl2 fl3 fl4 fl5 fl6 sp1 s61 
 ms1 ms2 ms3 ms4 ms5 ms6 ps2 ps3 ps4 ps5 
 )");
-  EXPECT_THAT(dialogs.boxes, IsEmpty());
+  EXPECT_THAT(Told(dialogs), IsEmpty());
 }
 
 /// The file cut into the contents of its records.
@@ -84,7 +84,7 @@ TEST_F(PlayerFileTest, WhatIsSavedIsLoadedBack) {
   player.WritePlayerFile();
   ASSERT_FALSE(player.LoadPlayerFile(path));
   EXPECT_EQ(player.Name.size(), 60000U);
-  EXPECT_THAT(dialogs.boxes, IsEmpty());
+  EXPECT_THAT(Told(dialogs), IsEmpty());
 }
 
 TEST_F(PlayerFileTest, LoadingFillsTheBoxesThatAMatchAlreadyHolds) {
@@ -111,7 +111,7 @@ TEST_F(PlayerFileTest, AWrongPinIsRefusedInSilence) {
     EXPECT_EQ(Snapshot(other), untouched) << pin;
   }
   EXPECT_EQ(folder.Get("p.vnt"), file);
-  EXPECT_THAT(dialogs.boxes, IsEmpty());
+  EXPECT_THAT(Told(dialogs), IsEmpty());
 }
 
 TEST_F(PlayerFileTest, VersionsAreThreeDigits) {
@@ -139,7 +139,7 @@ TEST_F(PlayerFileTest, OldFilesKeepDefaultsForWhatTheyLackAndAreRewritten) {
                           Case{"1.2.3", 123, true, true, true, true, true, true}}) {
     SampleFile sample;
     sample.setVersion(old.version);
-    BoxLog boxes;
+    test::ScriptedDialogs boxes;
     clsPlayer loaded(boxes, random);
     loaded.PIN = kPin;
     ASSERT_FALSE(LoadBytes(loaded, sample.Bytes(kPin, old.number))) << old.version;
@@ -152,14 +152,14 @@ TEST_F(PlayerFileTest, OldFilesKeepDefaultsForWhatTheyLackAndAreRewritten) {
     EXPECT_EQ(loaded.Keys->Value(1, 1), old.keys ? 101 : 32);
     EXPECT_EQ(loaded.Cards_MP->Value(4, 6), -32745) << "records after the missing ones stay in step";
     EXPECT_EQ(loaded.Version, "1.2.4");
-    EXPECT_THAT(boxes.boxes, ElementsAre("i Kelm Vantri: Your player file has been updated from v" +
+    EXPECT_THAT(Told(boxes), ElementsAre("i Kelm Vantri: Your player file has been updated from v" +
                                          std::string(old.version) + " to v1.2.4."));
 
     player.PIN = kPin;
     ASSERT_FALSE(player.LoadPlayerFile(path));  // now a file of today
     EXPECT_EQ(Snapshot(player), Snapshot(loaded));
   }
-  EXPECT_THAT(dialogs.boxes, IsEmpty());
+  EXPECT_THAT(Told(dialogs), IsEmpty());
 }
 
 TEST_F(PlayerFileTest, NewerFilesAreRefusedWithAMessage) {
@@ -170,7 +170,7 @@ TEST_F(PlayerFileTest, NewerFilesAreRefusedWithAMessage) {
     const std::string file = sample.Bytes("");
     dialogs.boxes.clear();
     EXPECT_TRUE(LoadBytes(player, file));
-    EXPECT_THAT(dialogs.boxes,
+    EXPECT_THAT(Told(dialogs),
                 ElementsAre("! Kelm Vantri: Error: This version of Kelm Vantri is older than the player file "
                             "version!"));
     EXPECT_EQ(folder.Get("p.vnt"), file);

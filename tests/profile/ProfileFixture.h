@@ -1,4 +1,4 @@
-// A player with a folder of its own, whose boxes are written down.
+// A player with a folder of its own, whose boxes are remembered.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -9,24 +9,22 @@
 
 #include "profile/SampleFile.h"
 #include "profile/clsPlayer.h"
+#include "support/ScriptedDialogs.h"
 #include "support/TempFolder.h"
 
 namespace kv {
 
-/// Remembers each box as "title: text" with a mark for its icon, "!" for critical and "i" for information.
-class BoxLog final : public Dialogs {
- public:
-  void Message(const std::string& text, const std::string& title, DialogIcon icon) override {
-    const char* mark = icon == DialogIcon::Critical ? "! " : icon == DialogIcon::Information ? "i " : "? ";
-    boxes.push_back(mark + title + ": " + text);
+/// Each box as "title: text" with a mark for its icon, "!" for critical and "i" for information.
+[[nodiscard]] inline std::vector<std::string> Told(const test::ScriptedDialogs& dialogs) {
+  std::vector<std::string> told;
+  for (const auto& box : dialogs.boxes) {
+    const char* mark = box.icon == DialogIcon::Critical      ? "! "
+                       : box.icon == DialogIcon::Information ? "i "
+                                                             : "? ";
+    told.push_back(mark + box.title + ": " + box.text);
   }
-  bool AskYesNo(const std::string&, const std::string&, DialogIcon) override { return false; }
-  std::optional<std::string> AskText(const std::string&, const std::string&, const std::string&) override {
-    return std::nullopt;
-  }
-
-  std::vector<std::string> boxes;
-};
+  return told;
+}
 
 inline constexpr const char* kSaveFailed =
     "! Kelm Vantri: Error: Error saving player file! Keep playing and if this error occurs again try "
@@ -41,9 +39,9 @@ class ProfileTest : public testing::Test {
     return into.LoadPlayerFile(path);
   }
 
-  const TempFolder folder;
+  const test::TempFolder folder;
   const std::string path = folder / "p.vnt";
-  BoxLog dialogs;
+  test::ScriptedDialogs dialogs;
   SeededRandom random{7};
   clsPlayer player{dialogs, random};
 };

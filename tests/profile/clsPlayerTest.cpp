@@ -5,6 +5,7 @@
 #include "profile/FileEntries.h"
 #include "profile/ProfileFixture.h"
 #include "profile/clsPlayer.h"
+#include "support/ScriptedRandom.h"
 
 namespace kv {
 namespace {
@@ -76,31 +77,21 @@ TEST_F(Player, CipherRepeatsTheKey) {
   EXPECT_EQ(clsPlayer::Cipher("", "1"), "");
 }
 
-/// Draws the numbers it was given, over and over.
-class Draws final : public Random {
- public:
-  explicit Draws(std::vector<double> numbers) : numbers_(std::move(numbers)) {}
-  void Randomize() override {}
-  double Rnd() override { return numbers_[next_++ % numbers_.size()]; }
-
- private:
-  std::vector<double> numbers_;
-  std::size_t next_ = 0;
-};
-
 TEST_F(Player, EncodePadsAndScramblesUnderThePin) {
-  Draws lowest({0.0, 0.05});
-  Draws highest({0.9999999, 0.9999999});
-  clsPlayer low(dialogs, lowest);
-  clsPlayer high(dialogs, highest);
-  EXPECT_EQ(clsPlayer::Cipher(low.Encode("hi"), "7"), "%hi05");
-  low.PIN = "31";
-  EXPECT_EQ(clsPlayer::Cipher(low.Encode("hi"), "317"), "%hi05");
-  EXPECT_EQ(clsPlayer::Cipher(high.Encode("", "key"), "key7"), "/99");
-  EXPECT_EQ(low.Decode(low.Encode("hi")), "hi");
-  EXPECT_EQ(high.Decode(low.Encode("hi", "k"), "k"), "hi");
-  EXPECT_EQ(low.Decode(low.Encode("")), "");
-  EXPECT_FALSE(low.Decode("ab"));
+  test::ScriptedRandom draws({0.0, 0.05, 0.9999999, 0.9999999, 0.0, 0.0});
+  clsPlayer scripted(dialogs, draws);
+  scripted.PIN = "31";
+  EXPECT_EQ(clsPlayer::Cipher(scripted.Encode("hi"), "317"), "%hi05");
+  EXPECT_EQ(clsPlayer::Cipher(scripted.Encode("", "key"), "key7"), "/99");
+  scripted.PIN.clear();
+  EXPECT_EQ(clsPlayer::Cipher(scripted.Encode("hi"), "7"), "%hi00");
+
+  player.PIN = "4711";
+  for (const char* text : {"", "hi", "longer than its key"}) {
+    EXPECT_EQ(player.Decode(player.Encode(text)), text);
+    EXPECT_EQ(scripted.Decode(player.Encode(text, "k"), "k"), text);
+  }
+  EXPECT_FALSE(player.Decode("ab"));
 }
 
 TEST_F(Player, CardCodesOfASideDeck) {
@@ -116,7 +107,7 @@ TEST_F(Player, CardCodesOfASideDeck) {
 TEST_F(Player, AFailedSaveTellsAndChangesNothing) {
   ASSERT_FALSE(LoadBytes(player, SampleFile().Bytes("")));
   const std::string file = folder.Get("p.vnt");
-  const int filesOpen = OpenFiles();
+  const int filesOpen = test::OpenFiles();
   std::filesystem::create_directory(folder / "dir.vnt");
   for (const std::string& bad : {folder / "gone/p.vnt", folder / "dir.vnt", folder / std::string(300, 'n'),
                                  path + "/x.vnt", std::string()}) {
@@ -124,7 +115,7 @@ TEST_F(Player, AFailedSaveTellsAndChangesNothing) {
     const std::string before = Snapshot(player);
     dialogs.boxes.clear();
     player.WritePlayerFile();
-    EXPECT_THAT(dialogs.boxes, ElementsAre(kSaveFailed)) << bad;
+    EXPECT_THAT(Told(dialogs), ElementsAre(kSaveFailed)) << bad;
     EXPECT_EQ(Snapshot(player), before);
     EXPECT_FALSE(player.WRITING);
   }
@@ -132,10 +123,10 @@ TEST_F(Player, AFailedSaveTellsAndChangesNothing) {
   player.Name = std::string(65533, 'n');  // more than a record holds
   dialogs.boxes.clear();
   player.WritePlayerFile();
-  EXPECT_THAT(dialogs.boxes, ElementsAre(kSaveFailed));
+  EXPECT_THAT(Told(dialogs), ElementsAre(kSaveFailed));
   EXPECT_EQ(folder.Get("p.vnt"), file);
   EXPECT_EQ(folder.Count(), 2);
-  EXPECT_EQ(OpenFiles(), filesOpen);
+  EXPECT_EQ(test::OpenFiles(), filesOpen);
 }
 
 /// While it lives no file of this process may have more than `bytes` bytes: a disk that is full.
@@ -170,7 +161,7 @@ TEST_F(Player, AnUpdateThatCannotBeSavedStillLoadsAndClaimsNothing) {
   }
   EXPECT_FALSE(failed);
   EXPECT_EQ(player.Name, "Zoë €");
-  EXPECT_THAT(dialogs.boxes, ElementsAre(kSaveFailed));
+  EXPECT_THAT(Told(dialogs), ElementsAre(kSaveFailed));
   EXPECT_EQ(folder.Get("p.vnt"), file);
   EXPECT_EQ(folder.Count(), 1);
 }
@@ -198,7 +189,7 @@ TEST_F(Player, ASaveWaitsForTheOneUnderWay) {
   ending.WRITING = true;
   ending.WritePlayerFile();
   EXPECT_EQ(folder.Count(), 2);
-  EXPECT_THAT(dialogs.boxes, IsEmpty());
+  EXPECT_THAT(Told(dialogs), IsEmpty());
 }
 
 }  // namespace

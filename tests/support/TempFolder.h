@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-namespace kv {
+namespace kv::test {
 
 class TempFolder {
  public:
@@ -47,4 +47,4 @@ class TempFolder {
   return static_cast<int>(std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {}));
 }
 
-}  // namespace kv
+}  // namespace kv::test
