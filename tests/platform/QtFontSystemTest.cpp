@@ -17,7 +17,7 @@ QString Drawn(const QString& name) {
 TEST(QtFontSystem, DrawsAFileUnderTheNameItIsRecordedFor) {
   const char* assets = std::getenv("KV_ASSETS");
   ASSERT_NE(assets, nullptr);
-  const TempFolder folder;
+  const test::TempFolder folder;
   std::filesystem::copy(std::string(assets) + "/bnkgothicM.ttf", folder / "Some Font.TTF");
 
   QtFontSystem fonts;
@@ -32,7 +32,7 @@ TEST(QtFontSystem, DrawsAFileUnderTheNameItIsRecordedFor) {
 }
 
 TEST(QtFontSystem, ABrokenFileLeavesTheSystemsFontAndANote) {
-  const TempFolder folder;
+  const test::TempFolder folder;
   folder.Put("broken.ttf", "no font at all");
   QtFontSystem fonts;
   testing::internal::CaptureStderr();

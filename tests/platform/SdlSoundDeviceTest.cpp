@@ -7,53 +7,11 @@
 
 #include "platform/SdlSoundDevice.h"
 #include "platform/Waves.h"
+#include "support/HandScheduler.h"
 #include "support/TempFolder.h"
 
 namespace kv {
 namespace {
-
-/// A clock that a test moves, and timers that tick when a test says so.
-class TestScheduler final : public Scheduler {
- public:
-  class TestTimer final : public Timer {
-   public:
-    TestTimer(TestScheduler& owner, std::function<void()> tick) : tick_(std::move(tick)), owner_(owner) {
-      owner_.timers_.push_back(this);
-    }
-    ~TestTimer() override { std::erase(owner_.timers_, this); }
-    void setInterval(int) override {}
-    [[nodiscard]] int Interval() const override { return 1; }
-    void setEnabled(bool enabled) override { enabled_ = enabled; }
-    [[nodiscard]] bool Enabled() const override { return enabled_; }
-    void Tick() const { tick_(); }
-
-   private:
-    std::function<void()> tick_;
-    TestScheduler& owner_;
-    bool enabled_ = false;
-  };
-
-  [[nodiscard]] std::uint32_t timeGetTime() const override { return now; }
-  [[nodiscard]] std::unique_ptr<Timer> NewTimer(int, std::function<void()> tick) override {
-    return std::make_unique<TestTimer>(*this, std::move(tick));
-  }
-  [[nodiscard]] bool Pause(int, const Lifetime&) override { return true; }
-  [[nodiscard]] int PauseDepth() const override { return 0; }
-
-  void TickAll() {
-    std::vector<TestTimer*> due;
-    std::ranges::copy_if(timers_, std::back_inserter(due), &TestTimer::Enabled);
-    for (const TestTimer* timer : due) timer->Tick();
-  }
-  [[nodiscard]] bool AnyEnabled() const {
-    return std::ranges::any_of(timers_, [](const TestTimer* timer) { return timer->Enabled(); });
-  }
-
-  std::uint32_t now = 0;
-
- private:
-  std::vector<TestTimer*> timers_;
-};
 
 /// Polls, for at most some seconds: the mixer plays on a thread of its own.
 template <class Condition>
@@ -85,8 +43,8 @@ class SdlSoundDeviceTest : public testing::Test {
     return samples.find_first_not_of('\0') != std::string::npos;
   }
 
-  const TempFolder folder;
-  TestScheduler scheduler;
+  const test::TempFolder folder;
+  test::HandScheduler scheduler;
 };
 
 TEST_F(SdlSoundDeviceTest, APlayedBufferComesOutAndTheDeviceThenSleeps) {
@@ -101,10 +59,10 @@ TEST_F(SdlSoundDeviceTest, APlayedBufferComesOutAndTheDeviceThenSleeps) {
     device.PlayBuffer(buffer);
     EXPECT_TRUE(Soon([this] { return Heard(); })) << round;
     EXPECT_TRUE(Soon([&] {
-      scheduler.TickAll();
+      scheduler.Advance(5000);
       return !device.Awake();
     }));
-    EXPECT_FALSE(scheduler.AnyEnabled()) << "something still ticks while nothing sounds";
+    EXPECT_EQ(scheduler.RunningTimers(), 0) << "something still ticks while nothing sounds";
     folder.Put("heard.raw", "");
   }
 
@@ -117,10 +75,10 @@ TEST_F(SdlSoundDeviceTest, APlayedBufferComesOutAndTheDeviceThenSleeps) {
 TEST_F(SdlSoundDeviceTest, WakesEarlySoThatTheFirstSoundIsNotLate) {
   UseDriver("dummy");
   SdlSoundDevice device(scheduler);
-  EXPECT_FALSE(scheduler.AnyEnabled());
+  EXPECT_EQ(scheduler.RunningTimers(), 0);
   EXPECT_EQ(device.LoadBuffer(PutWave("a.wav")), 0);
   EXPECT_EQ(device.LoadBuffer(PutWave("b.wav")), 1);
-  scheduler.TickAll();
+  scheduler.Advance(1000);
   EXPECT_TRUE(device.Awake());
   EXPECT_EQ(device.LoadBuffer(PutWave("late.wav")), 2);
   device.PlayBuffer(2);
@@ -135,8 +93,7 @@ TEST_F(SdlSoundDeviceTest, WithoutADeviceThereIsSilenceAndOneNote) {
   for (int i = 0; i < 5; ++i) {
     device.PlayBuffer(buffer);
     device.PlayOnce(folder / "a.wav");
-    scheduler.TickAll();
-    scheduler.now += 20000;
+    scheduler.Advance(20000);
   }
   const std::string noted = testing::internal::GetCapturedStderr();
   EXPECT_EQ(std::ranges::count(noted, '\n'), 1) << noted;
@@ -144,7 +101,7 @@ TEST_F(SdlSoundDeviceTest, WithoutADeviceThereIsSilenceAndOneNote) {
 
   // Headphones plugged in later are found.
   UseDriver("dummy");
-  scheduler.now += 60000;
+  scheduler.Advance(60000);
   device.PlayBuffer(buffer);
   EXPECT_TRUE(device.Awake());
 }

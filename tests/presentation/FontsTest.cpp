@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "presentation/Fonts.h"
+#include "support/ScriptedDialogs.h"
 #include "support/TempFolder.h"
 
 namespace kv {
@@ -33,20 +34,6 @@ class StepLog final : public FontSystem {
   std::vector<std::string> steps;
 };
 
-class BoxList final : public Dialogs {
- public:
-  void Message(const std::string& text, const std::string& title, DialogIcon icon) override {
-    EXPECT_EQ(title, "Kelm Vantri");
-    EXPECT_EQ(icon, DialogIcon::Information);
-    boxes.push_back(text);
-  }
-  bool AskYesNo(const std::string&, const std::string&, DialogIcon) override { return false; }
-  std::optional<std::string> AskText(const std::string&, const std::string&, const std::string&) override {
-    return {};
-  }
-  std::vector<std::string> boxes;
-};
-
 class InstallFontTest : public testing::Test {
  protected:
   void SetUp() override { files.Put("face.ttf", "a font"); }
@@ -55,19 +42,24 @@ class InstallFontTest : public testing::Test {
   std::vector<std::string> Told(const std::string& path) {
     fonts.steps.clear();
     InstallFont(path, "Some Face", true, fonts, dialogs);
-    const std::vector<std::string> told = std::exchange(dialogs.boxes, {});
+    std::vector<std::string> told;
+    for (const auto& box : std::exchange(dialogs.boxes, {})) {
+      EXPECT_EQ(box.title, "Kelm Vantri");
+      EXPECT_EQ(box.icon, DialogIcon::Information);
+      told.push_back(box.text);
+    }
     const std::vector<std::string> steps = std::exchange(fonts.steps, {});
     testing::internal::CaptureStderr();
     InstallFont(path, "Some Face", false, fonts, dialogs);
     noted = testing::internal::GetCapturedStderr();
-    EXPECT_THAT(dialogs.boxes, IsEmpty());
+    EXPECT_EQ(dialogs.boxes.size(), 0U);
     EXPECT_EQ(fonts.steps, steps);
     return told;
   }
 
-  const TempFolder files;
+  const test::TempFolder files;
   StepLog fonts;
-  BoxList dialogs;
+  test::ScriptedDialogs dialogs;
   std::string noted;
 };
 

@@ -8,6 +8,7 @@
 #include "platform/WaveFile.h"
 #include "presentation/Sounds.h"
 #include "profile/clsPlayer.h"
+#include "support/ScriptedDialogs.h"
 
 namespace kv {
 namespace {
@@ -31,15 +32,6 @@ class BufferLog final : public SoundDevice {
   std::string broken;
 };
 
-class NoBoxes final : public Dialogs {
- public:
-  void Message(const std::string&, const std::string&, DialogIcon) override {}
-  bool AskYesNo(const std::string&, const std::string&, DialogIcon) override { return false; }
-  std::optional<std::string> AskText(const std::string&, const std::string&, const std::string&) override {
-    return {};
-  }
-};
-
 class SoundsTest : public testing::Test {
  protected:
   /// The entries that sound when every name is asked for once.
@@ -51,7 +43,7 @@ class SoundsTest : public testing::Test {
 
   BufferLog device;
   Sounds sounds{device};
-  NoBoxes boxes;
+  test::ScriptedDialogs boxes;
   SeededRandom random{1};
   clsPlayer player{boxes, random};
 };
