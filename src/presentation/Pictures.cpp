@@ -1,0 +1,158 @@
+#include "presentation/Pictures.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QImage>
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <optional>
+#include <span>
+
+#include "platform/Files.h"
+#include "platform/ModuleImage.h"
+#include "presentation/PictureDecoder.h"
+#include "presentation/PictureSizes.h"
+
+namespace kv {
+namespace {
+
+constexpr qint64 kMaxDataFile = 64 << 20;  // bytes; a larger file is none of ours
+
+/// Which group of types holds a number: the first, the second, or none.
+struct Band {
+  int last;
+  std::size_t group;
+};
+constexpr std::array kBands = {Band{110, 1}, Band{250, 0}, Band{399, 1}, Band{499, 0}};
+
+int NumberOfText(std::string_view text) {
+  int value = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  return error == std::errc() && end == text.data() + text.size() ? value : 0;
+}
+
+std::string UpperAscii(std::string_view text) {
+  std::string upper(text);
+  for (char& c : upper) {
+    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+  }
+  return upper;
+}
+
+}  // namespace
+
+/// The open file: mapped, so that only what is looked at takes memory.
+struct Pictures::DataFile {
+  QFile file;
+  std::optional<ModuleImage> image;
+
+  bool Open(const std::string& path) {
+    file.setFileName(QString::fromStdString(ResolvePath(path)));
+    if (!file.open(QIODevice::ReadOnly) || file.size() <= 0 || file.size() > kMaxDataFile) return false;
+    const uchar* bytes = file.map(0, file.size());
+    if (bytes == nullptr) return false;
+    image = ModuleImage::Read(std::as_bytes(std::span(bytes, static_cast<std::size_t>(file.size())))).image;
+    return image.has_value();
+  }
+};
+
+Pictures::Pictures(double pixelRatio) : pixelRatio_(pixelRatio) {
+  if (pixelRatio_ > 0) return;
+  const auto* application = qobject_cast<QGuiApplication*>(QCoreApplication::instance());
+  pixelRatio_ = application == nullptr ? 1 : application->devicePixelRatio();
+}
+
+Pictures::~Pictures() = default;
+
+bool Pictures::OpenDataFile(const std::string& path) {
+  LoadResourceTree(tree_, "Vntdata.dat", path);
+  return file_ != nullptr;
+}
+
+void Pictures::LoadResourceTree(ResourceTree& tree, const std::string& title, const std::string& path) {
+  decoded_.clear();
+  auto file = std::make_unique<DataFile>();
+  file_ = file->Open(path) ? std::move(file) : nullptr;
+  tree = ResourceTree{title, {}};
+  if (file_ == nullptr) return;
+  for (const std::string& type : file_->image->EnumTypes()) {
+    tree.types.push_back({kTreeKeyPrefix + type, type, false, {NameNode{{}, kTreePlaceholder, 0}}});
+  }
+  for (std::size_t i = 0; i < std::min<std::size_t>(2, tree.types.size()); ++i) ExpandType(tree.types[i]);
+}
+
+void Pictures::ExpandType(TypeNode& type) const {
+  if (type.expanded || file_ == nullptr) return;
+  type.expanded = true;
+  type.names.clear();
+  for (const std::string& name : file_->image->EnumNames(ResourceTypeText(type.text))) {
+    type.names.push_back({kTreeKeyPrefix + name, name, NumberOfText(name)});
+  }
+}
+
+Picture Pictures::getPic(int number, bool& ok) {
+  auto known = decoded_.find(number);
+  if (known == decoded_.end()) {
+    // Only what the file could hold is remembered: a caller's arithmetic must not grow the table for ever.
+    if (number < 0 || number >= kBands.back().last + 1) {
+      ok = false;
+      return {};
+    }
+    known = decoded_.emplace(number, LoadNumbered(number)).first;
+  }
+  ok = !known->second.empty();
+  return known->second;
+}
+
+Picture Pictures::getPic(int number) {
+  bool ok = false;
+  return getPic(number, ok);
+}
+
+/// Walks the group in its order and stops as soon as a greater number is next.
+Picture Pictures::LoadNumbered(int number) const {
+  const auto band = std::ranges::find_if(kBands, [&](const Band& b) { return number <= b.last; });
+  if (file_ == nullptr || band == kBands.end() || band->group >= tree_.types.size()) return {};
+  const TypeNode& type = tree_.types[band->group];
+  bool first = true;
+  for (const NameNode& name : type.names) {
+    if (!first && name.number > number) return {};
+    first = false;
+    if (name.number != number) continue;
+    if (!IsPictureType(type.text)) return {};
+    const LayoutSize layout = LayoutSizeOf(number);
+    const QSize limit = (QSizeF(layout.width, layout.height) * pixelRatio_).toSize();
+    QImage image = DecodePicture(file_->image->FindResource(name.text, ResourceTypeText(type.text)), limit);
+    if (image.isNull()) return {};
+    if (layout.width > 0) image.setDevicePixelRatio(static_cast<double>(image.width()) / layout.width);
+    return Picture(std::make_shared<const QImage>(std::move(image)));
+  }
+  return {};
+}
+
+std::vector<std::byte> Pictures::GetResourceBytes(std::string_view name, std::string_view type) const {
+  if (file_ == nullptr) return {};
+  const auto bytes = file_->image->FindResource(name, type);
+  return {bytes.begin(), bytes.end()};
+}
+
+Picture Pictures::LoadResPicture(std::string_view type, std::string_view name) const {
+  if (file_ == nullptr) return {};
+  QImage image = DecodePicture(file_->image->FindResource(name, type));
+  return image.isNull() ? Picture() : Picture(std::make_shared<const QImage>(std::move(image)));
+}
+
+std::string ResourceTypeText(std::string_view type) {
+  const bool numeric =
+      !type.empty() && std::ranges::all_of(type, [](char c) { return c >= '0' && c <= '9'; });
+  return numeric ? "#" + std::string(type) : std::string(type);
+}
+
+bool IsPictureType(std::string_view type) {
+  constexpr std::array<std::string_view, 8> kTypes = {"JPG", "JPEG", "GIF", "PNG",
+                                                      "TIF", "TIFF", "WMF", "EMF"};
+  return std::ranges::find(kTypes, UpperAscii(type)) != kTypes.end();
+}
+
+}  // namespace kv

@@ -1,0 +1,41 @@
+// The picture a player is shown with: the own picture in the portrait folder when there is one, else a
+// built-in portrait. It only ever reads, and what lies in the folder is trusted in nothing.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "platform/Picture.h"
+#include "presentation/Pictures.h"
+
+namespace kv {
+
+inline constexpr int kOwnPortrait = -1;
+inline constexpr int kDefaultPortrait = 7;
+
+/// What GetPortrait takes when it is not told: the current player's file name (with extension) and number.
+struct PortraitOwner {
+  std::string fileName;
+  int portrait = kDefaultPortrait;
+};
+
+class Portraits {
+ public:
+  /// `folder` is where own pictures lie; `owner` is asked at every call.
+  Portraits(Pictures& pictures, std::string folder, std::function<PortraitOwner()> owner);
+
+  /// The portrait for a player file named `name` (without extension): the first file name.* of the folder,
+  /// without regard to case, when it is a .jpeg, .jpg, .gif or .bmp that can be read, and then `found` is
+  /// true; otherwise built-in portrait `number`. kOwnPortrait and an empty name stand for the current player.
+  [[nodiscard]] Picture GetPortrait(int number, std::string_view name, bool& found);
+
+ private:
+  [[nodiscard]] Picture OwnPicture(std::string_view name) const;
+
+  Pictures& pictures_;
+  std::string folder_;
+  std::function<PortraitOwner()> owner_;
+};
+
+}  // namespace kv
