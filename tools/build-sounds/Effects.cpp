@@ -3,6 +3,8 @@
 #include <array>
 #include <cmath>
 
+#include "Instruments.h"
+
 namespace kv::sound {
 namespace {
 
@@ -15,87 +17,6 @@ constexpr double kLowButtons = kButtons - 1.3;
 constexpr double kBrightButtons = kButtons + 1.4;
 constexpr double kCards = -23.5;
 constexpr double kEvents = -20;
-
-// All tunes are in D; a note is given in half tones above D5.
-constexpr double kD5 = 587.3295;
-double Pitch(double halfTones) {
-  return kD5 * std::pow(2, halfTones / 12);
-}
-
-constexpr std::array<Partial, 3> kTick = {{{1, 1, 0.016}, {2.31, 0.6, 0.009}, {4.1, 0.4, 0.005}}};
-constexpr std::array<Partial, 3> kSwitch = {{{1, 1, 0.024}, {2.7, 0.6, 0.014}, {6.1, 0.4, 0.006}}};
-constexpr std::array<Partial, 3> kWood = {{{1, 1, 0.16}, {3.93, 0.3, 0.05}, {9.2, 0.1, 0.02}}};
-constexpr std::array<Partial, 6> kGlass = {{{1, 1, 0.55},
-                                            {2.001, 0.45, 0.34},
-                                            {3.01, 0.2, 0.22},
-                                            {4.16, 0.12, 0.16},
-                                            {5.43, 0.08, 0.1},
-                                            {6.79, 0.05, 0.06}}};
-constexpr std::array<Partial, 4> kDarkGlass = {
-    {{1, 1, 0.6}, {2.002, 0.3, 0.3}, {2.99, 0.1, 0.18}, {0.5, 0.3, 0.7}}};
-constexpr std::array<Partial, 6> kCoin = {{{1, 1, 0.16},
-                                           {1.47, 0.8, 0.11},
-                                           {2.09, 0.6, 0.08},
-                                           {2.56, 0.5, 0.06},
-                                           {3.39, 0.3, 0.04},
-                                           {4.08, 0.2, 0.03}}};
-
-/// Paper rubs in grains, not evenly: roughens a noise by a slower noise.
-void Roughen(Wave& wave, double grainsPerSecond, std::uint32_t seed) {
-  Wave grains = White(static_cast<double>(wave.size()) / kRate, seed);
-  LowPass(grains, grainsPerSecond);
-  const double lift = std::sqrt(kRate / grainsPerSecond) * 0.35;
-  for (std::size_t i = 0; i < wave.size(); ++i) wave[i] *= std::abs(0.5 + lift * grains[i]);
-}
-
-Wave Burst(double seconds, double cutoffLow, double cutoffHigh, double decay, std::uint32_t seed) {
-  Wave burst = White(seconds, seed);
-  LowPass(burst, cutoffHigh);
-  HighPass(burst, cutoffLow);
-  Shape(burst, 0.0006, decay);
-  return burst;
-}
-
-Wave Thump(double from, double to, double seconds, double decay) {
-  Wave thump = Glide(from, to, seconds);
-  Shape(thump, 0.0015, decay);
-  return thump;
-}
-
-Wave Swish(double seconds, double from, double to, double width, double peak, std::uint32_t seed) {
-  Wave swish = White(seconds, seed);
-  SweepBand(swish, from, to, width);
-  Swell(swish, peak);
-  return swish;
-}
-
-/// The voice of the tunes: glass with a short brass edge, so that a note speaks at once and then rings.
-void Chime(Stereo& sound, double halfTones, double at, double gain, double pan) {
-  sound.Add(Strike(Pitch(halfTones), 1.6, kGlass, 0.003), at, gain, pan);
-  Wave edge = Brass(Pitch(halfTones), Pitch(halfTones), 0.5, 8, 0.16);
-  Shape(edge, 0.012, 1e9);
-  LowPass(edge, 3200);
-  sound.Add(edge, at, gain * 0.35, -pan);
-}
-
-void DarkChime(Stereo& sound, double halfTones, double at, double gain, double pan) {
-  sound.Add(Strike(Pitch(halfTones), 1.7, kDarkGlass, 0.006), at, gain, pan);
-  Wave edge = Brass(Pitch(halfTones - 12), Pitch(halfTones - 12), 0.6, 6, 0.22);
-  Shape(edge, 0.02, 1e9);
-  LowPass(edge, 1400);
-  sound.Add(edge, at, gain * 0.35, -pan);
-}
-
-/// A held chord of two detuned brasses, one an ear.
-void Horn(Stereo& sound, double from, double to, double at, double seconds, double gain, double cutoff) {
-  for (const double side : {-1.0, 1.0}) {
-    const double detune = 0.05 * side;
-    Wave horn = Brass(Pitch(from + detune), Pitch(to + detune), seconds, 12, seconds * 0.45);
-    Shape(horn, 0.05, 1e9);
-    LowPass(horn, cutoff);
-    sound.Add(horn, at, gain, side * 0.6);
-  }
-}
 
 // ---- cards
 
