@@ -56,6 +56,8 @@ class ctlTitlebar final : public QWidget {
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
+  void PointerMoved();
+
   ButtonContext& context_;
   WindowDrag drag_;
   QString caption_;

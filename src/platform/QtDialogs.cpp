@@ -1,0 +1,67 @@
+#include "platform/QtDialogs.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPointer>
+
+namespace kv {
+namespace {
+
+QMessageBox::Icon IconOf(DialogIcon icon) {
+  switch (icon) {
+    case DialogIcon::Information:
+      return QMessageBox::Information;
+    case DialogIcon::Exclamation:
+      return QMessageBox::Warning;
+    case DialogIcon::Critical:
+      return QMessageBox::Critical;
+    case DialogIcon::Question:
+      return QMessageBox::Question;
+    case DialogIcon::None:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+// On the heap and watched: the window over which it opens may be destroyed while it is open, and takes the
+// box with it.
+int Run(const std::string& text, const std::string& title, DialogIcon icon,
+        QMessageBox::StandardButtons buttons, QMessageBox::StandardButton escape) {
+  const QPointer<QMessageBox> box =
+      new QMessageBox(IconOf(icon), QString::fromStdString(title), QString::fromStdString(text), buttons,
+                      QApplication::activeWindow());
+  box->setTextFormat(Qt::PlainText);
+  box->setEscapeButton(escape);
+  const int answer = box->exec();
+  delete box;
+  return answer;
+}
+
+}  // namespace
+
+void QtDialogs::Message(const std::string& text, const std::string& title, DialogIcon icon) {
+  const QtScheduler::Nested nested(scheduler_);
+  Run(text, title, icon, QMessageBox::Ok, QMessageBox::Ok);
+}
+
+bool QtDialogs::AskYesNo(const std::string& text, const std::string& title, DialogIcon icon) {
+  const QtScheduler::Nested nested(scheduler_);
+  return Run(text, title, icon, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+}
+
+std::optional<std::string> QtDialogs::AskText(const std::string& prompt, const std::string& title,
+                                              const std::string& preset) {
+  const QtScheduler::Nested nested(scheduler_);
+  const QPointer<QInputDialog> box = new QInputDialog(QApplication::activeWindow());
+  box->setWindowTitle(QString::fromStdString(title));
+  box->setLabelText(QString::fromStdString(prompt));
+  box->setTextValue(QString::fromStdString(preset));
+  const bool accepted = box->exec() == QDialog::Accepted && box;
+  std::optional<std::string> text;
+  if (accepted) text = box->textValue().toStdString();
+  delete box;
+  return text;
+}
+
+}  // namespace kv
