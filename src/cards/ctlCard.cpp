@@ -28,15 +28,7 @@ constexpr int kDimLevel = 105;
 constexpr int kFacePictures = 200;
 constexpr int kEmberStep = 20;
 constexpr QColor kCaptionPlate{0, 12, 24};
-constexpr qreal kPixelsPerPoint = 96.0 / 72.0;
-
-/// A font whose size follows the layout, not the screen's own points.
-QFont LabelFont(int points, bool bold) {
-  QFont font(QStringLiteral("BankGothic Lt BT"));
-  font.setPixelSize(qRound(points * kPixelsPerPoint));
-  font.setBold(bold);
-  return font;
-}
+constexpr const char* kLabelFont = "BankGothic Lt BT";
 
 /// A caption's text as it is shown: a doubled ampersand stands for one.
 QString Shown(QString caption) {
@@ -64,7 +56,6 @@ ctlCard::ctlCard(QWidget* parent, const CardLook& look)
     : QWidget(parent), look_(look), layout_(LayoutOf(QStringLiteral("Slate"))) {
   setMouseTracking(true);
   setStyle(QString::fromStdString(look.interfaceStyle));
-  count_ = 0;
 }
 
 void ctlCard::ReadProperties(const PropertyBag& bag) {
@@ -105,6 +96,7 @@ void ctlCard::setCard(std::string_view code) {
 
 void ctlCard::setCount(std::string_view text) {
   count_ = static_cast<std::int16_t>(NumberOf(text));
+  countLabel_ = QString::number(count_);
   update();
 }
 
@@ -124,7 +116,7 @@ void ctlCard::setStyle(const QString& style) {
   if (layout == nullptr) return;
   layout_ = layout;
   resize(layout->size);
-  count_ = -1;
+  countLabel_ = QStringLiteral("-1");
   showCount_ = false;
   Refresh(!isEnabled(), true);
 }
@@ -141,7 +133,7 @@ bool ctlCard::Ember() const {
 void ctlCard::Refresh(bool dim, bool reloadPicture) {
   cardValue = static_cast<std::int16_t>(code_.cardValue());
   const QString spoken = QString::fromStdString(SpokenCard(code_));
-  setAccessibleName(spoken.isEmpty() || place_.isEmpty() ? spoken + place_ : spoken + u", " + place_);
+  setAccessibleName(spoken.isEmpty() || place_.isEmpty() ? spoken + place_ : spoken + QStringLiteral(", ") + place_);
   update();
   if (code_.type() == CardType::Placeholder) {
     cardValue = 0;
@@ -204,13 +196,13 @@ void ctlCard::DrawLabels(QPainter& painter) const {
   const QRect caption = CaptionRect();
   if (!caption.isEmpty()) {
     if (layout_->captionOpaque) painter.fillRect(caption, kCaptionPlate);
-    painter.setFont(LabelFont(layout_->captionFont, layout_->captionBold));
+    painter.setFont(FontOf(QLatin1String(kLabelFont), layout_->captionFont, layout_->captionBold));
     painter.drawText(caption, Qt::AlignCenter | Qt::TextDontClip, Shown(caption_));
   }
   if (!showCount_) return;
-  painter.setFont(LabelFont(layout_->countFont, false));
+  painter.setFont(FontOf(QLatin1String(kLabelFont), layout_->countFont, false));
   painter.drawText(QRect(layout_->count, QPoint(width() - 3, height() - 1)),
-                   Qt::AlignRight | Qt::AlignVCenter | Qt::TextDontClip, QString::number(count_));
+                   Qt::AlignRight | Qt::AlignVCenter | Qt::TextDontClip, countLabel_);
 }
 
 void ctlCard::Raise(const PointerEvent& event, const QMouseEvent& from) const {

@@ -9,12 +9,13 @@
 #include <string>
 
 #include "cards/CardFaces.h"
+#include "cards/PulsingCard.h"
 
 namespace kv {
 
 class PropertyBag;
 
-class ctlCard : public QWidget {
+class ctlCard final : public QWidget, public PulsingCard {
  public:
   /// Raised with the position inside the card.
   using PointerEvent =
@@ -26,7 +27,7 @@ class ctlCard : public QWidget {
   void ReadProperties(const PropertyBag& bag);
 
   /// Lays the picture over the card's face at opacity 0 to 255, in place of what lay there.
-  void Alpha(const Picture& picture, int level);
+  void Alpha(const Picture& picture, int level) override;
   /// Draws the card dimmed, whether or not it is enabled.
   void grey();
 
@@ -38,7 +39,7 @@ class ctlCard : public QWidget {
   [[nodiscard]] std::string count() const { return std::to_string(count_); }
   /// Text that is no number counts as 0.
   void setCount(std::string_view text);
-  [[nodiscard]] bool Enabled() const { return isEnabled(); }
+  [[nodiscard]] bool Enabled() const override { return isEnabled(); }
   void setEnabled(bool enabled);
   [[nodiscard]] bool Show_Count() const { return showCount_; }
   void setShow_Count(bool show);
@@ -85,6 +86,7 @@ class ctlCard : public QWidget {
   CardCode code_;
   QString style_;
   QString caption_;
+  QString countLabel_;
   QString place_;
   Picture face_;
   Picture overlay_;

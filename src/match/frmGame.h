@@ -1,0 +1,94 @@
+// The match screen: shows what the match engine holds and hands back what the person did. It decides nothing
+// about the rules, and whatever it has started (timers, pauses, fades, a drag) ends when it closes.
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+#include "match/MatchEngine.h"
+#include "match/ctlBust.h"
+#include "match/frmGameHand.h"
+#include "match/frmGameServices.h"
+#include "match/frmGameSide.h"
+#include "presentation/ctlTitlebar.h"
+
+namespace kv {
+
+class frmGame final : public QWidget, private MatchView {
+ public:
+  /// Opens in the player's interface style. The hands of the match record must be dealt. The match begins
+  /// once the screen is shown.
+  explicit frmGame(const frmGameServices& services);
+  ~frmGame() override;
+
+  /// Ends everything the screen has started and hides it. It may be destroyed once no pause is under way.
+  void CloseScreen();
+  /// Leaving the program from here: a match that is not booked yet must be given up first.
+  void LeaveProgram();
+
+  [[nodiscard]] MatchEngine& engine() { return engine_; }
+  [[nodiscard]] int StyleIndex() const { return styleIndex_; }
+  [[nodiscard]] frmGameHand& hand() { return *hand_; }
+  [[nodiscard]] frmGameSide& side(Seat seat) { return seat == Seat::Player ? *player_ : *opponent_; }
+  [[nodiscard]] ctlButton& cmdTurn() { return *cmdTurn_; }
+  [[nodiscard]] ctlButton& cmdStand() { return *cmdStand_; }
+  [[nodiscard]] ctlButton& cmdForfeit() { return *cmdForfeit_; }
+  [[nodiscard]] ctlBust& banner() { return *ctlBust_; }
+  [[nodiscard]] ctlTitlebar& titlebar() { return *ctlTitlebar_; }
+  [[nodiscard]] QLabel& lblWager() { return *lblWager_; }
+
+ protected:
+  bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+
+ private:
+  // What the engine says
+  void TableChanged(Seat seat, int index) override;
+  void HandChanged(Seat seat, int slot) override;
+  void SetWinAdded(Seat seat) override;
+  void ControlsChanged() override;
+  void LightsChanged() override;
+  void BannerChanged() override;
+  void RunTimer(MatchTimer timer, bool run) override;
+  void PlaySound(std::string_view effect) override;
+  [[nodiscard]] bool Pause(int milliseconds) override;
+  void Leave() override;
+
+  void BuildTimers();
+  void BuildControls(Layout& layout);
+  void ConnectHand();
+  ctlButton* NewButton(QStringView control, Layout& layout, std::function<void()> click);
+  void Activate();
+  void PlainHighlights();
+  /// True when the key was one of the player's game keys; nothing else is done with it then.
+  bool GameKey(const QKeyEvent& event);
+  /// The keys by which everything is reached without a mouse.
+  bool FocusKey(const QKeyEvent& event);
+
+  frmGameServices services_;
+  const int styleIndex_;
+  MatchEngine engine_;
+  Lifetime lifetime_;
+  clsCardArray keys_;  // the player's, as they were when the screen was activated
+  Picture background_;
+  std::unique_ptr<Timer> tmrActivate_;  // one tick after the screen is shown
+  std::unique_ptr<Timer> tmrGame_;
+  std::unique_ptr<Timer> tmrAutoDialogs_;
+  std::unique_ptr<Timer> tmrNetWait_;
+  std::unique_ptr<frmGameHand> hand_;
+  std::unique_ptr<frmGameSide> player_;
+  std::unique_ptr<frmGameSide> opponent_;
+  ctlButton* cmdTurn_ = nullptr;  // children
+  ctlButton* cmdStand_ = nullptr;
+  ctlButton* cmdForfeit_ = nullptr;
+  ctlTitlebar* ctlTitlebar_ = nullptr;
+  ctlBust* ctlBust_ = nullptr;
+  QLabel* lblWager_ = nullptr;
+  bool activated_ = false;
+};
+
+}  // namespace kv

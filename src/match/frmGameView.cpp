@@ -1,0 +1,182 @@
+// The match screen's two borders: what the engine says is shown, and what the person does is handed back.
+#include <QKeyEvent>
+
+#include "match/MatchKeys.h"
+#include "match/frmGame.h"
+#include "platform/QtKeys.h"
+
+namespace kv {
+namespace {
+
+constexpr Effects::Fade kLightFade{.start = 100, .end = 255, .step = 10};
+
+KeyModifiers HeldOf(Qt::KeyboardModifiers held) {
+  return {.shift = held.testFlag(Qt::ShiftModifier),
+          .control = held.testFlag(Qt::ControlModifier),
+          .alt = held.testFlag(Qt::AltModifier)};
+}
+
+bool IsEnter(int key) {
+  return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+}  // namespace
+
+// --- What the engine says --------------------------------------------------------------------------------
+
+void frmGame::TableChanged(Seat seat, int index) {
+  if (index == 0) {
+    side(seat).ClearTable();
+  } else {
+    side(seat).ShowTableCard(index, engine_.Table(seat)[static_cast<std::size_t>(index) - 1]);
+  }
+  side(seat).ShowTotal(engine_.Total(seat));
+}
+
+void frmGame::HandChanged(Seat seat, int slot) {
+  const CardCode& code = engine_.HandCard(seat, slot);
+  if (seat == Seat::Player) {
+    hand_->ShowCard(slot, code);
+  } else {
+    opponent_->ShowHandCard(slot, !(code == EmptiedSlot()));
+  }
+}
+
+void frmGame::SetWinAdded(Seat seat) {
+  side(seat).ShowSetWins(engine_.SetWins(seat));
+}
+
+void frmGame::ControlsChanged() {
+  const MatchControls& controls = engine_.controls();
+  cmdTurn_->setEnabled(controls.endTurn);
+  cmdStand_->setEnabled(controls.stand);
+  cmdForfeit_->setEnabled(controls.forfeit);
+  ctlTitlebar_->setEnabled(controls.titlebar);
+  if (!controls.hand) services_.effects.StopCardPulse();
+  hand_->setEnabled(controls.hand);
+  opponent_->setHandEnabled(controls.opponentHand);
+  player_->setTableEnabled(controls.table[0]);
+  opponent_->setTableEnabled(controls.table[1]);
+}
+
+void frmGame::LightsChanged() {
+  services_.effects.StopFade();
+  for (const Seat seat : {Seat::Player, Seat::Opponent}) side(seat).RepaintLight();
+  for (const Seat seat : {Seat::Player, Seat::Opponent}) {
+    if (engine_.Light(seat)) services_.effects.FadeLoop(side(seat).LightPair(), kLightFade);
+  }
+}
+
+void frmGame::BannerChanged() {
+  const MatchBanner& banner = engine_.banner();
+  ctlBust_->lblBust().setText(QString::fromStdString(banner.text));
+  ctlButton& button = ctlBust_->cmdBust();
+  button.setCaption(QString::fromStdString(banner.caption));
+  button.setEnabled(banner.buttonEnabled);
+  if (banner.visible == ctlBust_->isVisible()) return;
+  ctlBust_->setVisible(banner.visible);
+  ctlBust_->setAccessibleName(QString::fromStdString(banner.text));
+  if (banner.visible) {
+    services_.effects.StopCardPulse();
+    ctlBust_->raise();
+    button.setFocus();
+  } else {
+    setFocus();
+  }
+}
+
+void frmGame::RunTimer(MatchTimer timer, bool run) {
+  Timer& which = timer == MatchTimer::Game          ? *tmrGame_
+                 : timer == MatchTimer::AutoDialogs ? *tmrAutoDialogs_
+                                                    : *tmrNetWait_;
+  which.setEnabled(run);
+}
+
+void frmGame::PlaySound(std::string_view effect) {
+  services_.buttons.PlayEffect(effect);
+}
+
+bool frmGame::Pause(int milliseconds) {
+  return services_.scheduler.Pause(milliseconds, lifetime_);
+}
+
+// --- What the person does --------------------------------------------------------------------------------
+
+void frmGame::mouseMoveEvent(QMouseEvent*) {
+  PlainHighlights();
+}
+
+void frmGame::PlainHighlights() {
+  hand_->PlainFlips();
+  services_.buttons.unColor();
+  ctlTitlebar_->unColorQuit();
+  services_.effects.StopCardPulse();
+}
+
+bool frmGame::event(QEvent* event) {
+  if (event->type() == QEvent::KeyPress) {
+    // Before the toolkit takes Tab for itself: it may be one of the game's keys.
+    const auto& key = static_cast<QKeyEvent&>(*event);
+    if (GameKey(key) || FocusKey(key)) return true;
+  }
+  return QWidget::event(event);
+}
+
+bool frmGame::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return false;
+  const auto& key = static_cast<QKeyEvent&>(*event);
+  if (GameKey(key)) return true;
+  const int slot = hand_->SlotOf(watched);
+  if (slot != 0 && (IsEnter(key.key()) || key.key() == Qt::Key_Space)) {
+    if (!key.isAutoRepeat()) engine_.PlayHandCard(slot);
+    return true;
+  }
+  return FocusKey(key);
+}
+
+bool frmGame::GameKey(const QKeyEvent& event) {
+  if (services_.game.isNetwork() || !services_.player.KeysEn) return false;
+  const int code = VirtualKey(event);
+  if (!IsBoundKey(keys_, code)) return false;
+  if (event.isAutoRepeat()) return true;  // a key held too long must not end the next turn as well
+  const KeyAction action = KeyActionOf(keys_, code, HeldOf(event.modifiers()), hand_->flips());
+  switch (action.command) {
+    case KeyCommand::EndTurn:
+      engine_.EndTurn();
+      break;
+    case KeyCommand::Stand:
+      engine_.Stand();
+      break;
+    case KeyCommand::Play:
+      engine_.PlayHandCard(action.slot);
+      break;
+    case KeyCommand::FirstFlip:
+      engine_.FirstFlip(action.slot);
+      break;
+    case KeyCommand::SecondFlip:
+      engine_.SecondFlip(action.slot);
+      break;
+    case KeyCommand::None:
+      break;
+  }
+  return true;
+}
+
+bool frmGame::FocusKey(const QKeyEvent& event) {
+  switch (event.key()) {
+    case Qt::Key_Right:
+    case Qt::Key_Down:
+      return focusNextPrevChild(true);
+    case Qt::Key_Left:
+    case Qt::Key_Up:
+      return focusNextPrevChild(false);
+    case Qt::Key_Q:
+      if (event.modifiers() != Qt::ControlModifier) return false;
+      LeaveProgram();
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace kv
