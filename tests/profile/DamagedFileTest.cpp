@@ -39,27 +39,30 @@ TEST_F(DamagedFile, CutOffAtAnyByte) {
 
 TEST_F(DamagedFile, AnyByteChangedIsRefusedOrReadWhole) {
   const std::string file = SampleFile().Bytes("12");
-  int loaded = 0;
+  int whole = 0;
   for (std::size_t at = 0; at < file.size(); ++at) {
-    // Inverted in memory; in a file with one bit changed, each bit in its turn.
     std::string changed = file;
     changed[at] = static_cast<char>(~changed[at]);
     (void)ParsePlayerFile(changed, "12");
     changed[at] = static_cast<char>(file[at] ^ (1 << (at % 8)));
+    const auto parsed = ParsePlayerFile(changed, "12");
+    const auto* content = std::get_if<PlayerFileContent>(&parsed);
+    if (content != nullptr) {
+      EXPECT_EQ(content->values.size(), 125U) << at;
+      ++whole;
+    }
 
+    if (at % 7 != 0) continue;  // the same from the disk, now and then
     clsPlayer other(dialogs, random);
     other.PIN = "12";
     const std::string untouched = Snapshot(other);
-    if (LoadBytes(other, changed)) {
-      other.FileName.clear();
-      EXPECT_EQ(Snapshot(other), untouched) << at;
-    } else {
-      ++loaded;
-      EXPECT_EQ(other.Version, "1.2.4") << at;
-    }
+    const bool failed = LoadBytes(other, changed);
+    EXPECT_EQ(failed, content == nullptr) << at;
+    other.FileName.clear();
+    EXPECT_EQ(Snapshot(other) == untouched, failed) << at;
     EXPECT_EQ(folder.Get("p.vnt"), changed) << at;
   }
-  EXPECT_GT(loaded, 128 * 3);  // padding may change, and some texts and digits
+  EXPECT_GT(whole, 128 * 3);  // padding may change, and some texts and digits
   EXPECT_THAT(Told(dialogs), IsEmpty());
 }
 
