@@ -71,6 +71,7 @@ void Program::LoadPlayer() {
     if (!FileExists(path)) {
       player_.Name = kPlayerName;
       player_.FileName = path;
+      player_.KeysEn = true;  // a newcomer may use both hands
       player_.WritePlayerFile();
       return;
     }

@@ -1,27 +1,25 @@
-// vantri-player: shows a player file and sets its options, without opening the game.
-#include <array>
-#include <cstdio>
+// Prints the options of a player file, and sets the ones that are named.
+#include <algorithm>
 #include <filesystem>
-#include <optional>
+#include <iostream>
 #include <string>
-#include <string_view>
+#include <vector>
 
 #include "platform/Files.h"
 #include "platform/Folders.h"
 #include "profile/clsPlayer.h"
+#include "vantri-player/PlayerOptions.h"
 
 namespace {
 
-constexpr const char* kUsage =
-    "vantri-player [--file FILE] [--pin PIN] [--style Slate|Ember] [--strategy standard|ember]\n"
-    "              [--speed slow|normal|fast] [--keys on|off]\n"
-    "  Sets options of a player file (the default player's when no FILE is given), then prints them.\n";
-
-/// Says on the terminal what the game would say in a box.
-class TerminalDialogs final : public kv::Dialogs {
+/// What the record would tell in a box goes to standard error here.
+class ConsoleDialogs final : public kv::Dialogs {
  public:
-  void Message(const std::string& text, const std::string& title, kv::DialogIcon) override {
-    std::fprintf(stderr, "%s: %s\n", title.c_str(), text.c_str());
+  bool told = false;
+
+  void Message(const std::string& text, const std::string&, kv::DialogIcon) override {
+    told = true;
+    std::cerr << "vantri-player: " << text << "\n";
   }
   bool AskYesNo(const std::string&, const std::string&, kv::DialogIcon) override { return false; }
   std::optional<std::string> AskText(const std::string&, const std::string&, const std::string&) override {
@@ -29,83 +27,50 @@ class TerminalDialogs final : public kv::Dialogs {
   }
 };
 
-/// The position of `word` in a list of words, or nothing.
-template <std::size_t N>
-std::optional<std::uint8_t> Choice(std::string_view word, const std::array<std::string_view, N>& words) {
-  for (std::size_t i = 0; i < N; ++i) {
-    if (words[i] == word) return static_cast<std::uint8_t>(i);
-  }
-  return {};
-}
+constexpr const char* kUsage =
+    "usage: vantri-player [FILE] [--pin PIN] [--option value]...\n"
+    "Prints the options of a player file and sets those that are named. Without FILE it is the one that the\n"
+    "game opens; a file that does not exist is made.\n";
 
-constexpr std::array<std::string_view, 2> kStyles = {"Slate", "Ember"};
-constexpr std::array<std::string_view, 2> kStrategies = {"standard", "ember"};
-constexpr std::array<std::string_view, 3> kSpeeds = {"slow", "normal", "fast"};
-constexpr std::array<std::string_view, 2> kSwitch = {"off", "on"};
-
-/// Sets one option; false when the option or its value is unknown.
-bool SetOption(kv::clsPlayer& player, std::string_view option, std::string_view value) {
-  if (option == "--style" && Choice(value, kStyles)) {
-    player.Interface_Opt = value;
-  } else if (const auto strategy = Choice(value, kStrategies); option == "--strategy" && strategy) {
-    player.ArcadeAI_Opt = *strategy;
-  } else if (const auto speed = Choice(value, kSpeeds); option == "--speed" && speed) {
-    player.GameSpeed_Opt = *speed;
-  } else if (const auto keys = Choice(value, kSwitch); option == "--keys" && keys) {
-    player.KeysEn = *keys == 1;
-  } else {
-    return false;
-  }
-  return true;
-}
-
-void Print(const kv::clsPlayer& player) {
-  std::printf("%s: %s, arcade best %d, style %s, strategy %s, speed %d, keys %s\n", player.FileName.c_str(),
-              player.Name.c_str(), player.Arcade_Best, player.Interface_Opt.c_str(),
-              player.ArcadeAI_Opt == 1 ? "ember" : "standard", player.GameSpeed_Opt,
-              player.KeysEn ? "on" : "off");
+int Fail(const std::string& message) {
+  std::cerr << "vantri-player: " << message << "\n";
+  return 1;
 }
 
 }  // namespace
 
-int main(int count, char** words) {
-  TerminalDialogs dialogs;
+int main(int argc, char** argv) {
+  std::vector<std::string> words(argv + 1, argv + argc);
+  if (words.size() == 1 && (words[0] == "-h" || words[0] == "--help")) {
+    std::cout << kUsage << kv::PlayerOptionsHelp();
+    return 0;
+  }
+  ConsoleDialogs dialogs;
   kv::SystemRandom random;
   kv::clsPlayer player(dialogs, random);
-  std::string file = kv::UserFolder() + "/Player.vnt";
-  if (count % 2 == 0) {
-    std::fputs(kUsage, stderr);
-    return 2;
+  const auto pin = std::find(words.begin(), words.end(), "--pin");
+  if (pin != words.end() && pin + 1 != words.end()) {
+    player.PIN = *(pin + 1);
+    words.erase(pin, pin + 2);
   }
-  for (int i = 1; i < count; i += 2) {
-    if (std::string_view(words[i]) == "--file") file = words[i + 1];
-    if (std::string_view(words[i]) == "--pin") player.PIN = words[i + 1];
-  }
-  player.FileName = file;
-  if (kv::FileExists(file)) {
-    if (player.LoadPlayerFile(file)) {
-      std::fprintf(stderr, "%s cannot be loaded (wrong PIN, or damaged); it was not changed\n", file.c_str());
-      return 1;
-    }
+  std::string error;
+  const auto files = kv::ApplyPlayerOptions(words, player, error);
+  if (!files) return Fail(error);
+  if (files->size() > 1) return Fail("more than one file is named");
+  const std::string path = files->empty() ? kv::UserFolder() + "/Player.vnt" : files->front();
+  if (kv::FileExists(path)) {
+    if (player.LoadPlayerFile(path)) return Fail(path + " cannot be loaded");
+    // Once more: loading has put the file's own values in their place.
+    static_cast<void>(kv::ApplyPlayerOptions(words, player, error));
   } else {
-    player.Name = "Player";
-    player.KeysEn = true;
+    std::error_code ignored;  // saving tells when the folder could not be made
+    std::filesystem::create_directories(std::filesystem::path(path).parent_path(), ignored);
+    player.Name = std::filesystem::path(path).stem().string();
+    player.KeysEn = true;  // as in the player that the game makes
+    static_cast<void>(kv::ApplyPlayerOptions(words, player, error));
+    player.FileName = path;
   }
-  bool changed = false;
-  for (int i = 1; i < count; i += 2) {
-    const std::string_view option = words[i];
-    if (option == "--file" || option == "--pin") continue;
-    if (!SetOption(player, option, words[i + 1])) {
-      std::fputs(kUsage, stderr);
-      return 2;
-    }
-    changed = true;
-  }
-  if (changed) {
-    std::error_code error;  // a folder that cannot be made is told by the save
-    std::filesystem::create_directories(std::filesystem::path(file).parent_path(), error);
-    player.WritePlayerFile();
-  }
-  Print(player);
-  return 0;
+  if (words.size() > files->size() || !kv::FileExists(path)) player.WritePlayerFile();
+  std::cout << kv::PlayerOptionsText(player);
+  return dialogs.told ? 1 : 0;
 }
