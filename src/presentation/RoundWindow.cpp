@@ -1,6 +1,7 @@
 #include "presentation/RoundWindow.h"
 
 #include <QEvent>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QPainterPath>
 #include <QWidget>
@@ -51,20 +52,6 @@ class Corner final : public QWidget {
   bool bottom_;
 };
 
-// Every pixel that the rounded shape touches at all.
-QRegion Shape(QSize size, int radius) {
-  QRegion shape(QRect(QPoint(0, 0), size));
-  for (int y = 0; y < radius; ++y) {
-    const double rise = radius - (y + 1);
-    const int cut = static_cast<int>(radius - std::sqrt(static_cast<double>(radius) * radius - rise * rise));
-    for (const int line : {y, size.height() - 1 - y}) {
-      shape -= QRect(0, line, cut, 1);
-      shape -= QRect(size.width() - cut, line, cut, 1);
-    }
-  }
-  return shape;
-}
-
 // Keeps the shape of its window, to which it belongs, through every resize.
 class Rounding final : public QObject {
  public:
@@ -82,16 +69,31 @@ class Rounding final : public QObject {
  private:
   void Apply() {
     const int radius = std::min({radius_, window_.width() / 2, window_.height() / 2});
-    window_.setMask(Shape(window_.size(), radius));
+    // Off screen there is nothing to cut, and the toolkit would only complain.
+    if (shaped_) window_.setMask(RoundedShape(window_.size(), radius));
     for (Corner* corner : corners_) corner->Place(radius);
   }
 
   QWidget& window_;
   int radius_;
+  bool shaped_ = QGuiApplication::platformName() != QStringLiteral("offscreen");
   std::array<Corner*, 4> corners_{};  // children of the window
 };
 
 }  // namespace
+
+QRegion RoundedShape(QSize size, int radius) {
+  QRegion shape(QRect(QPoint(0, 0), size));
+  for (int y = 0; y < radius; ++y) {
+    const double rise = radius - (y + 1);
+    const int cut = static_cast<int>(radius - std::sqrt(static_cast<double>(radius) * radius - rise * rise));
+    for (const int line : {y, size.height() - 1 - y}) {
+      shape -= QRect(0, line, cut, 1);
+      shape -= QRect(size.width() - cut, line, cut, 1);
+    }
+  }
+  return shape;
+}
 
 void RoundWindow(QWidget& window, int radius) {
   if (!window.testAttribute(Qt::WA_WState_Created)) {

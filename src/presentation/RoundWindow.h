@@ -1,6 +1,9 @@
 // Windows with rounded corners and no frame.
 #pragma once
 
+#include <QRegion>
+#include <QSize>
+
 class QWidget;
 
 namespace kv {
@@ -12,5 +15,8 @@ inline constexpr int kScreenCorners = 32;
 /// Call it before the window is shown: the corners are then smooth, and the window must paint its whole
 /// background itself. Raise nothing over its corners afterwards.
 void RoundWindow(QWidget& window, int radius);
+
+/// Every pixel that a rectangle with round corners touches at all; `radius` is that of its corners.
+[[nodiscard]] QRegion RoundedShape(QSize size, int radius);
 
 }  // namespace kv

@@ -179,7 +179,7 @@ void ctlButton::changeEvent(QEvent* event) {
 }
 
 void ctlButton::DoClick() {
-  hadFocus_ = hasFocus();
+  hadFocus_ = window()->focusWidget() == this;
   if (hadFocus_) clearFocus();  // otherwise disabling would hand the focus on to a neighbour
   setEnabled(false);
   context_.PlayEffect(clickSound_);

@@ -1,0 +1,97 @@
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QTimer>
+
+#include "platform/QtScheduler.h"
+
+namespace kv::test {
+namespace {
+
+constexpr int kLong = 60'000;  // a pause that only its end by force can bring back in time
+
+void In(int milliseconds, std::function<void()> call) {
+  QTimer::singleShot(milliseconds, Qt::PreciseTimer, QCoreApplication::instance(), std::move(call));
+}
+
+TEST(QtSchedulerTest, APauseLastsItsTimeWhileTimersTick) {
+  QtScheduler scheduler;
+  const Lifetime screen;
+  int ticks = 0;
+  const auto timer = scheduler.NewTimer(2, [&] {
+    ++ticks;
+    EXPECT_EQ(scheduler.PauseDepth(), 1);
+  });
+  timer->setEnabled(true);
+  const std::uint32_t start = scheduler.timeGetTime();
+  EXPECT_TRUE(scheduler.Pause(20, screen));
+  EXPECT_GE(scheduler.timeGetTime() - start, 19U);
+  EXPECT_GE(ticks, 1);
+  EXPECT_EQ(scheduler.PauseDepth(), 0);
+  timer->setEnabled(false);
+  const int before = ticks;
+  EXPECT_TRUE(scheduler.Pause(10, screen));
+  EXPECT_EQ(ticks, before);
+}
+
+TEST(QtSchedulerTest, AClosingOwnerEndsItsPausesAtOnceAndForGood) {
+  QtScheduler scheduler;
+  Lifetime screen;
+  const Lifetime other;
+  In(1, [&] {
+    // Nested: the inner pause belongs to another screen and lasts its time.
+    In(1, [&] { screen.Close(); });
+    EXPECT_TRUE(scheduler.Pause(10, other));
+    EXPECT_EQ(scheduler.PauseDepth(), 1);
+  });
+  EXPECT_FALSE(scheduler.Pause(kLong, screen));
+  EXPECT_FALSE(scheduler.Pause(kLong, screen));
+  EXPECT_TRUE(scheduler.Pause(0, other));
+}
+
+TEST(QtSchedulerTest, TheEndOfTheProgramEndsEveryPause) {
+  QtScheduler scheduler;
+  const Lifetime screen;
+  const Lifetime other;
+  int ended = 0;
+  In(0, [&] {
+    In(0, [&] {
+      In(0, [] { QCoreApplication::quit(); });
+      ended += scheduler.Pause(kLong, screen) ? 0 : 1;
+    });
+    ended += scheduler.Pause(kLong, other) ? 0 : 1;
+    ended += scheduler.Pause(kLong, other) ? 0 : 1;
+  });
+  QCoreApplication::exec();
+  EXPECT_EQ(ended, 3);
+  EXPECT_FALSE(scheduler.Pause(kLong, screen));
+}
+
+TEST(QtSchedulerTest, ATimerMayStopRestartOrDestroyItselfInItsTick) {
+  QtScheduler scheduler;
+  const Lifetime screen;
+  int once = 0;
+  std::unique_ptr<Timer> single;
+  single = scheduler.NewTimer(1, [&] {
+    single->setEnabled(false);
+    ++once;
+  });
+  int last = 0;
+  std::unique_ptr<Timer> fleeting;
+  fleeting = scheduler.NewTimer(1, [&fleeting, &last, kept = std::string(64, 'x')] {
+    fleeting.reset();
+    last += static_cast<int>(kept.size());  // what the tick holds outlives its timer
+  });
+  single->setEnabled(true);
+  fleeting->setEnabled(true);
+  EXPECT_TRUE(scheduler.Pause(15, screen));
+  EXPECT_EQ(once, 1);
+  EXPECT_EQ(last, 64);
+  EXPECT_FALSE(single->Enabled());
+  single->setInterval(5);
+  EXPECT_FALSE(single->Enabled());
+  EXPECT_EQ(single->Interval(), 5);
+}
+
+}  // namespace
+}  // namespace kv::test

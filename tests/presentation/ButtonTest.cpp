@@ -1,0 +1,176 @@
+#include <QAccessible>
+#include <QJsonObject>
+#include <QKeyEvent>
+
+#include "presentation/SkinFixture.h"
+#include "presentation/ctlButton.h"
+
+namespace kv::test {
+namespace {
+
+const QColor kNormal(0, 169, 251);
+const QColor kHover(255, 255, 0);
+const QColor kPressed(255, 0, 0);
+const QColor kGrey(128, 128, 128);
+constexpr QPoint kInside(10, 10);
+
+class ButtonTest : public SkinFixture {
+ protected:
+  ButtonTest() {
+    window.resize(300, 100);
+    for (ctlButton* button : {&first, &second}) {
+      button->setCaption(QStringLiteral("Stand"));
+      button->resize(120, 30);
+    }
+    second.move(150, 0);
+  }
+
+  QWidget window;
+  ctlButton first{&window, context};
+  ctlButton second{&window, context};
+};
+
+TEST_F(ButtonTest, PaintsBorderInTheColourOfItsState) {
+  const auto expectBorder = [this](const QColor& color) {
+    EXPECT_EQ(first.Color(), color);
+    for (const QPoint at : {QPoint(60, 0), QPoint(0, 15), QPoint(119, 15), QPoint(60, 29)}) {
+      EXPECT_EQ(Pixel(first, at), color);
+    }
+  };
+  expectBorder(kNormal);
+  Hover(first, kInside);
+  expectBorder(kHover);
+  Press(first, kInside);
+  expectBorder(kPressed);
+  Release(first, QPoint(500, 10));  // outside: no click
+  expectBorder(kNormal);
+  first.setEnabled(false);
+  expectBorder(kGrey);
+}
+
+TEST_F(ButtonTest, AClickDisablesThenSoundsThenReports) {
+  int clicks = 0;
+  first.setClick_Sound("check");
+  first.Click = [&] {
+    ++clicks;
+    EXPECT_FALSE(first.Enabled());
+    EXPECT_EQ(sound.played, std::vector<std::string>{"check"});
+  };
+  ClickOn(first, kInside);
+  EXPECT_EQ(clicks, 1);
+  EXPECT_EQ(first.Color(), kGrey);
+  ClickOn(first, kInside);
+  EXPECT_EQ(clicks, 1);
+  EXPECT_EQ(first.Color(), kGrey);
+
+  sound.played.clear();
+  first.setEnabled(true);
+  EXPECT_EQ(first.Color(), kNormal);
+  Point(first, QEvent::MouseButtonPress, kInside, Qt::RightButton, Qt::RightButton);
+  EXPECT_EQ(first.Color(), kPressed);
+  Point(first, QEvent::MouseButtonRelease, kInside, Qt::RightButton);
+  EXPECT_EQ(clicks, 1);
+  // The second press of a fast pair is a press like any other.
+  Point(first, QEvent::MouseButtonDblClick, kInside, Qt::LeftButton, Qt::LeftButton);
+  Release(first, kInside);
+  EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(ButtonTest, TheHighlightMovesWithThePointerAndSoundsOnceAButton) {
+  int moves = 0;
+  first.MouseMove = [&] { ++moves; };
+  Hover(first, kInside);
+  Hover(first, QPoint(20, 20));
+  EXPECT_EQ(moves, 2);
+  EXPECT_EQ(sound.Count("hover"), 1);
+  Hover(second, kInside);
+  EXPECT_EQ(first.Color(), kNormal);
+  EXPECT_EQ(second.Color(), kHover);
+  EXPECT_EQ(sound.Count("hover"), 2);
+  EXPECT_EQ(context.RememberedButton(), &second);
+  context.unColor();
+  EXPECT_EQ(second.Color(), kNormal);
+
+  player.Mute_Highlight_Opt = true;
+  Hover(second, kInside);
+  EXPECT_EQ(second.Color(), kHover);
+  EXPECT_EQ(sound.Count("hover"), 2);
+}
+
+TEST_F(ButtonTest, APressedButtonKeepsItsColourUntilItIsTold) {
+  Press(first, kInside);
+  Point(first, QEvent::MouseMove, QPoint(500, 10), Qt::NoButton, Qt::LeftButton);
+  EXPECT_EQ(first.Color(), kPressed);
+  EXPECT_EQ(sound.Count("hover"), 0);
+  QEvent leave(QEvent::Leave);
+  QCoreApplication::sendEvent(&first, &leave);
+  EXPECT_EQ(first.Color(), kPressed);
+  first.unColor();
+  EXPECT_EQ(first.Color(), kNormal);
+  first.setEnabled(false);
+  first.unColor();
+  EXPECT_EQ(first.Color(), kGrey);
+}
+
+TEST_F(ButtonTest, ADeletedButtonIsRememberedNoMore) {
+  auto third = std::make_unique<ctlButton>(&window, context);
+  Hover(*third, kInside);
+  third.reset();
+  EXPECT_EQ(context.RememberedButton(), nullptr);
+  Hover(first, kInside);
+  EXPECT_EQ(first.Color(), kHover);
+}
+
+TEST_F(ButtonTest, ReadsItsPropertiesInAnyCaseAndDefaultsToSlate) {
+  first.ReadProperties(PropertyBag(QJsonObject{{QStringLiteral("CAPTION"), QStringLiteral("Forfeit")},
+                                               {QStringLiteral("color_style"), QStringLiteral("Ember")},
+                                               {QStringLiteral("click_sound"), QStringLiteral("buy")},
+                                               {QStringLiteral("labeloffset"), 3},
+                                               {QStringLiteral("Enabled"), false}}));
+  EXPECT_EQ(first.Caption(), QStringLiteral("Forfeit"));
+  EXPECT_EQ(first.Click_Sound(), "buy");
+  EXPECT_EQ(first.LabelOffset(), 3);
+  EXPECT_EQ(first.Color(), kGrey);
+  first.setEnabled(true);
+  EXPECT_EQ(first.Color(), QColor(102, 77, 0));
+  first.setColor_Style(QStringLiteral("Ember_Menu"));
+  EXPECT_EQ(first.Color(), QColor(26, 178, 140));
+  first.setColor_Style(QStringLiteral("Granite"));  // unknown: the colours stay
+  EXPECT_EQ(first.Color(), QColor(26, 178, 140));
+
+  first.ReadProperties(PropertyBag());
+  EXPECT_EQ(first.Color(), kNormal);
+  EXPECT_EQ(first.Click_Sound(), "click");
+  EXPECT_EQ(first.Caption(), QString());
+  EXPECT_TRUE(first.Enabled());
+}
+
+TEST_F(ButtonTest, TheKeyboardReachesItWhereTheScreenWants) {
+  int clicks = 0;
+  first.Click = [&] { ++clicks; };
+  window.show();
+  window.activateWindow();
+  first.setFocus();
+  for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return}) {
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+    QCoreApplication::sendEvent(&first, &press);
+    EXPECT_FALSE(first.Enabled());
+    EXPECT_FALSE(second.hasFocus());  // the focus waits for it
+    first.setEnabled(true);
+    EXPECT_EQ(window.focusWidget(), &first);
+  }
+  EXPECT_EQ(clicks, 2);
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QString(), true);
+  QCoreApplication::sendEvent(&first, &held);
+  EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(ButtonTest, TellsAssistiveToolsThatItIsAButton) {
+  QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&first);
+  ASSERT_NE(accessible, nullptr);
+  EXPECT_EQ(accessible->role(), QAccessible::Button);
+  EXPECT_EQ(accessible->text(QAccessible::Name), QStringLiteral("Stand"));
+}
+
+}  // namespace
+}  // namespace kv::test
