@@ -30,7 +30,7 @@ void TitleButton::paintEvent(QPaintEvent*) {
   painter.setPen(hasFocus() ? QPen(Qt::white, 1) : QPen(color_.darker(160), 1));
   painter.setBrush(color_);
   painter.drawRoundedRect(shape, 3, 3);
-  const bool dark = sign_ == Sign::Minimise || color_.lightness() > 200;
+  const bool dark = color_.lightness() > (sign_ == Sign::Close ? 200 : 90);
   painter.setPen(
       QPen(dark ? QColor(20, 20, 24) : QColor(255, 255, 255, 220), 1.6, Qt::SolidLine, Qt::RoundCap));
   const double inset = width() * 0.3;

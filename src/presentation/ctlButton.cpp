@@ -24,7 +24,8 @@ constexpr ColorStyle kColorStyles[] = {
 };
 constexpr QRgb kDisabledColor = qRgb(0x80, 0x80, 0x80);
 
-constexpr int kCaptionMargin = 6;  // layout pixels kept free left and right of the caption
+constexpr int kDarkestOnDark = 64;  // lightness below which a caption needs a bright ground
+constexpr int kCaptionMargin = 6;   // layout pixels kept free left and right of the caption
 
 QColor Faint(QColor color, int alpha) {
   color.setAlpha(alpha);
@@ -39,8 +40,8 @@ void DrawFrame(QPainter& painter, const QRect& r, const QColor& color) {
   painter.fillRect(r.right(), r.top() + 1, 1, r.height() - 2, color);
 }
 
-// A dark pane, lit from above in the colour of the state; a soft line inside the border.
-void DrawPane(QPainter& painter, const QRect& r, const QColor& color) {
+// A dark pane, lit from above in the colour of the state.
+void DrawDarkPane(QPainter& painter, const QRect& r, const QColor& color) {
   painter.fillRect(r, QColor(0, 0, 0, 150));
   QLinearGradient light(r.topLeft(), r.bottomLeft());
   light.setColorAt(0, Faint(color, 72));
@@ -48,6 +49,23 @@ void DrawPane(QPainter& painter, const QRect& r, const QColor& color) {
   light.setColorAt(0.51, Faint(color, 6));
   light.setColorAt(1, Faint(color, 40));
   painter.fillRect(r, light);
+}
+
+// A bright plate of the same hue, on which a dark state colour can be read.
+void DrawPlate(QPainter& painter, const QRect& r, const QColor& color) {
+  QLinearGradient metal(r.topLeft(), r.bottomLeft());
+  metal.setColorAt(0, QColor::fromHsv(color.hue(), 100, 236));
+  metal.setColorAt(0.5, QColor::fromHsv(color.hue(), 140, 216));
+  metal.setColorAt(1, QColor::fromHsv(color.hue(), 150, 190));
+  painter.fillRect(r, metal);
+}
+
+void DrawPane(QPainter& painter, const QRect& r, const QColor& color) {
+  if (color.lightness() < kDarkestOnDark) {
+    DrawPlate(painter, r, color);
+  } else {
+    DrawDarkPane(painter, r, color);
+  }
   DrawFrame(painter, r.adjusted(1, 1, -1, -1), Faint(color, 48));
   DrawFrame(painter, r, color);
 }
@@ -125,7 +143,8 @@ void ctlButton::Paint(const QColor& color) {
 void ctlButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   DrawPane(painter, rect(), color_);
-  if (hasFocus()) DrawFrame(painter, rect().adjusted(3, 3, -3, -3), color_);
+  const bool byKeyboard = window()->testAttribute(Qt::WA_KeyboardFocusChange);
+  if (hasFocus() && byKeyboard) DrawFrame(painter, rect().adjusted(3, 3, -3, -3), color_);
   // A substitute typeface may run wider than the one the layout was made for.
   const int room = width() - 2 * kCaptionMargin;
   if (const int wide = getLabelWidth(); wide > room && room > 0) {

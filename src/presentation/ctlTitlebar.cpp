@@ -133,7 +133,7 @@ void ctlTitlebar::paintEvent(QPaintEvent*) {
   inner.setAlpha(90);
   painter.setPen(QPen(inner, 1));
   painter.drawPath(Outline(bar.adjusted(2, 2, -2, -2), kCornerRadius - 2));
-  painter.setPen(borderColor_.lighter(150));
+  painter.setPen(borderColor_.lighter(210));
   painter.drawText(rect(), Qt::AlignCenter, caption_);
 }
 
