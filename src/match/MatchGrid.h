@@ -28,8 +28,10 @@ struct MatchGrid {
 
   /// Table card 1 to 9.
   [[nodiscard]] constexpr Spot TableSpot(Seat seat, int card) const {
-    return {(card + 2) % 3 * columnStep + table.left + (seat == Seat::Opponent ? oppTableStep : 0),
-            (card - 1) / 3 * rowStep + table.top};
+    const int column = (card - 1) % 3;
+    const int row = (card - 1) / 3;
+    return {column * columnStep + table.left + (seat == Seat::Opponent ? oppTableStep : 0),
+            row * rowStep + table.top};
   }
   /// Hand card 1 to 4.
   [[nodiscard]] constexpr Spot HandSpot(Seat seat, int slot) const {

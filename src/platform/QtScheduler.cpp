@@ -16,7 +16,8 @@ class QtTimer final : public Timer {
     timer_->setTimerType(Qt::PreciseTimer);
     timer_->setInterval(std::max(intervalMs, 1));
     QObject::connect(timer_, &QTimer::timeout, timer_, [work = work_] {
-      const std::shared_ptr<Work> kept = work;  // outlives the timer, should the tick destroy it
+      // Outlives the timer, should the tick destroy it.
+      const std::shared_ptr<Work> kept = work;  // NOLINT(performance-unnecessary-copy-initialization)
       ++kept->depth;
       kept->tick();
       --kept->depth;
