@@ -38,9 +38,9 @@ inline constexpr std::array kPictureSizes = {
     PictureSizeBand{301, 305, {kPortraitSide, kPortraitSide}},
     PictureSizeBand{307, 307, {kPortraitSide, kPortraitSide}},
     PictureSizeBand{310, 365, {kPortraitSide, kPortraitSide}},
-    PictureSizeBand{400, 400, {480, 320}},  // start screen
-    PictureSizeBand{401, 402, {480, 120}},  // its two pictures that cross-fade
-    PictureSizeBand{403, 404, {48, 48}},    // its ornaments, one for each style
+    PictureSizeBand{400, 400, {480, 320}},  // start screen: the scene
+    PictureSizeBand{401, 402, {440, 90}},   // the title off and on, at (20, 36) of the scene
+    PictureSizeBand{403, 404, {440, 12}},   // the line below it off and on, at (20, 130)
     PictureSizeBand{458, 458, {24, 24}},    // turn light lit, "Slate"
     PictureSizeBand{461, 461, {24, 24}},    // turn light unlit, "Slate"
     PictureSizeBand{462, 462, {54, 54}},    // turn light lit, "Ember"
