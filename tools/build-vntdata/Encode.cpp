@@ -10,7 +10,8 @@
 namespace kv::datafile {
 namespace {
 
-constexpr int kOpaque = 128;  // alpha from which a pixel is drawn; GIF knows no half-way
+constexpr int kPaletteColours = 255;  // one of the 256 is left for the clear pixels
+constexpr int kOpaque = 128;          // alpha from which a pixel is drawn; GIF knows no half-way
 constexpr float kDither = 0.8F;
 
 struct Indexed {
@@ -46,6 +47,7 @@ bool Quantize(const QImage& image, Indexed& out) {
   const std::vector<std::uint8_t> rgba = HardEdged(image);
   const std::unique_ptr<liq_attr, Release> attr(liq_attr_create());
   liq_set_speed(attr.get(), 2);
+  liq_set_max_colors(attr.get(), kPaletteColours);
   const std::unique_ptr<liq_image, Release> source(
       liq_image_create_rgba(attr.get(), rgba.data(), image.width(), image.height(), 0));
   liq_result* raw = nullptr;
@@ -59,8 +61,16 @@ bool Quantize(const QImage& image, Indexed& out) {
   const liq_palette* palette = liq_get_palette(result.get());
   for (unsigned i = 0; i < palette->count; ++i) {
     const liq_color& colour = palette->entries[i];
-    if (colour.a == 0) out.transparent = static_cast<int>(i);
     out.colours.push_back({colour.r, colour.g, colour.b});
+  }
+  // The palette may hold several clear entries; a GIF has one, so every clear pixel takes the one added here.
+  for (std::size_t i = 0; i < out.pixels.size(); ++i) {
+    if (rgba[i * 4 + 3] != 0) continue;
+    if (out.transparent == NO_TRANSPARENT_COLOR) {
+      out.transparent = static_cast<int>(out.colours.size());
+      out.colours.push_back({0, 0, 0});
+    }
+    out.pixels[i] = static_cast<GifByteType>(out.transparent);
   }
   while (out.colours.size() < 2 || (out.colours.size() & (out.colours.size() - 1)) != 0) {
     out.colours.push_back({0, 0, 0});
