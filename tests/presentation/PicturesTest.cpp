@@ -1,0 +1,186 @@
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <array>
+#include <cstdio>
+#include <cstring>
+
+#include "Catalogue.h"
+#include "Encode.h"
+#include "presentation/PictureDecoder.h"
+#include "presentation/PictureSizes.h"
+#include "presentation/Pictures.h"
+#include "support/TempFolder.h"
+
+namespace kv {
+namespace {
+
+using datafile::Bytes;
+using datafile::Groups;
+using test::TempFolder;
+
+std::string DataFile() {
+  return std::string(std::getenv("KV_ASSETS")) + "/" + kDataFileName;
+}
+
+QImage Plain(int width, int height) {
+  QImage image(width, height, QImage::Format_RGB32);
+  image.fill(QColor(10, 120, 200));
+  return image;
+}
+
+/// A data file of these groups in a folder of its own, opened.
+class SmallFile {
+ public:
+  explicit SmallFile(const Groups& groups) {
+    const Bytes bytes = datafile::WriteModule(groups, datafile::SmallestSize(groups)).value();
+    folder_.Put("some.dat", {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+    opened = pictures.OpenDataFile(folder_ / "some.dat");
+  }
+  TempFolder folder_;
+  Pictures pictures{2};
+  bool opened = false;
+};
+
+/// What a command prints.
+std::string Output(const std::string& command) {
+  std::string text;
+  FILE* pipe = popen(command.c_str(), "r");
+  std::array<char, 4096> part{};
+  while (const std::size_t count = std::fread(part.data(), 1, part.size(), pipe))
+    text.append(part.data(), count);
+  EXPECT_EQ(pclose(pipe), 0) << command;
+  return text;
+}
+
+TEST(DataFile, HasTheExactSizeAndEveryPictureInItsLayoutSize) {
+  EXPECT_EQ(std::filesystem::file_size(DataFile()), static_cast<std::uintmax_t>(kDataFileSize));
+  Pictures fine(2);
+  Pictures coarse(1);
+  ASSERT_TRUE(fine.OpenDataFile(DataFile()));
+  ASSERT_TRUE(coarse.OpenDataFile(DataFile()));
+  std::size_t portraits = 0;
+  for (const int number : datafile::AllNumbers()) {
+    for (Pictures* pictures : {&fine, &coarse}) {
+      bool ok = false;
+      const Picture picture = pictures->getPic(number, ok);
+      ASSERT_TRUE(ok) << number;
+      const LayoutSize size = LayoutSizeOf(number);
+      EXPECT_EQ(picture.image()->deviceIndependentSize(), QSizeF(size.width, size.height)) << number;
+      EXPECT_EQ(picture.image()->devicePixelRatio(), pictures == &fine ? 2 : 1) << number;
+    }
+    portraits += number >= 300 && number < 400 ? 1U : 0U;
+  }
+  EXPECT_EQ(portraits, 62U);
+}
+
+TEST(DataFile, OtherToolsListAndExtractIt) {
+  const std::string list = Output("wrestool -l " + DataFile());
+  EXPECT_EQ(std::ranges::count(list, '\n'), static_cast<std::ptrdiff_t>(datafile::AllNumbers().size()));
+  EXPECT_LT(list.find("--type='GIF' --name=201"), list.find("--type='JPG' --name=101"));
+  Pictures pictures;
+  ASSERT_TRUE(pictures.OpenDataFile(DataFile()));
+  for (const auto& [type, name] :
+       {std::pair("GIF", "465"), std::pair("JPG", "107"), std::pair("JPG", "365")}) {
+    const std::string bytes =
+        Output(std::string("wrestool -x --raw --type=") + type + " --name=" + name + " " + DataFile());
+    const std::vector<std::byte> own = pictures.GetResourceBytes(name, type);
+    ASSERT_EQ(bytes.size(), own.size()) << name;
+    EXPECT_EQ(std::memcmp(bytes.data(), own.data(), own.size()), 0) << name;
+  }
+}
+
+TEST(Pictures, AskingAgainGivesTheSameImage) {
+  Pictures pictures;
+  ASSERT_TRUE(pictures.OpenDataFile(DataFile()));
+  const Picture first = pictures.getPic(105);
+  EXPECT_EQ(first, pictures.getPic(105));
+  EXPECT_NE(first, pictures.getPic(107));
+  EXPECT_FALSE(first.image()->hasAlphaChannel());
+  EXPECT_TRUE(pictures.getPic(462).image()->hasAlphaChannel());
+}
+
+TEST(Pictures, EachBandLooksInItsOwnGroup) {
+  const Bytes gif = datafile::EncodeGif(Plain(8, 8));
+  const Bytes jpg = datafile::EncodeJpeg(Plain(8, 8), 80);
+  std::map<std::uint16_t, Bytes> gifs;
+  std::map<std::uint16_t, Bytes> jpgs;
+  for (const std::uint16_t number : {110, 111, 250, 251, 399, 400, 499, 500}) {
+    gifs[number] = gif;
+    jpgs[number] = jpg;
+  }
+  for (const std::uint16_t number : {111, 250, 400, 499}) jpgs.erase(number);
+  for (const std::uint16_t number : {110, 251, 399}) gifs.erase(number);
+  SmallFile file({{"GIF", gifs}, {"JPG", jpgs}});
+  ASSERT_TRUE(file.opened);
+  for (const int number : {110, 111, 250, 251, 399, 400, 499}) {
+    bool ok = false;
+    EXPECT_FALSE(file.pictures.getPic(number, ok).empty()) << number;
+    EXPECT_TRUE(ok) << number;
+  }
+  for (const int number : {-1, 0, 109, 112, 150, 398, 500, 65536 + 110}) {
+    bool ok = true;
+    EXPECT_TRUE(file.pictures.getPic(number, ok).empty()) << number;
+    EXPECT_FALSE(ok) << number;
+  }
+}
+
+TEST(Pictures, BrokenBytesStayEmpty) {
+  const Bytes gif = datafile::EncodeGif(Plain(60, 60));
+  Bytes cutJpeg = datafile::EncodeJpeg(Plain(60, 60), 80);
+  cutJpeg.resize(40);
+  Bytes huge = gif;
+  huge[6] = huge[7] = huge[8] = huge[9] = 0xff;  // a screen of 65535 by 65535
+  SmallFile file({{"GIF", {{201, {'G', 'I', 'F'}}, {202, huge}, {203, gif}}},
+                  {"JPG", {{101, cutJpeg}, {102, {0xff, 0xd8, 0xff}}, {103, Bytes(400, 0x41)}}}});
+  ASSERT_TRUE(file.opened);
+  for (const int number : {201, 202, 101, 102, 103}) {
+    bool ok = true;
+    EXPECT_TRUE(file.pictures.getPic(number, ok).empty()) << number;
+    EXPECT_FALSE(ok) << number;
+  }
+  EXPECT_FALSE(file.pictures.getPic(203).empty());
+  for (std::size_t length = 0; length < gif.size(); ++length) {
+    (void)DecodePicture(std::as_bytes(std::span(gif).first(length)));  // whatever it gives, it ends
+  }
+}
+
+TEST(Pictures, NoFileOrNoModuleMeansNoPictures) {
+  TempFolder folder;
+  folder.Put("text.dat", "no module at all");
+  folder.Put("empty.dat", "");
+  Pictures pictures;
+  EXPECT_TRUE(pictures.getPic(105).empty());
+  for (const char* name : {"text.dat", "empty.dat", "missing.dat"}) {
+    EXPECT_FALSE(pictures.OpenDataFile(folder / name)) << name;
+    EXPECT_TRUE(pictures.getPic(105).empty());
+    EXPECT_TRUE(pictures.GetResourceBytes("105", "JPG").empty());
+    EXPECT_TRUE(pictures.LoadResPicture("JPG", "105").empty());
+  }
+  SmallFile one({{"JPG", {{105, datafile::EncodeJpeg(Plain(4, 4), 80)}}}});
+  EXPECT_TRUE(one.opened);
+  EXPECT_TRUE(one.pictures.getPic(105).empty());  // there is no second group
+}
+
+TEST(Pictures, TheTreeExpandsTwoTypesAndHoldsPlacesForTheOthers) {
+  SmallFile file({{"AAA", {{1, {1}}}}, {"GIF", {{2, {1}}, {10, {1}}}}, {"TXT", {{3, {1}}}}});
+  ResourceTree tree;
+  file.pictures.LoadResourceTree(tree, "Vntdata.dat", file.folder_ / "some.dat");
+  EXPECT_EQ(tree.title, "Vntdata.dat");
+  ASSERT_EQ(tree.types.size(), 3U);
+  EXPECT_EQ(tree.types[1].names.at(1).text, "10");
+  EXPECT_EQ(tree.types[1].names.at(1).number, 10);
+  EXPECT_FALSE(tree.types[2].expanded);
+  ASSERT_EQ(tree.types[2].names.size(), 1U);
+  EXPECT_EQ(tree.types[2].names[0].text, "Dummy");
+  file.pictures.ExpandType(tree.types[2]);
+  ASSERT_EQ(tree.types[2].names.size(), 1U);
+  EXPECT_EQ(tree.types[2].names[0].text, "3");
+  EXPECT_EQ(ResourceTypeText("10"), "#10");
+  EXPECT_EQ(ResourceTypeText("JPG"), "JPG");
+  EXPECT_TRUE(IsPictureType("jpeg"));
+  EXPECT_FALSE(IsPictureType("TXT"));
+}
+
+}  // namespace
+}  // namespace kv
