@@ -36,7 +36,9 @@ QString Shown(QString caption) {
 }
 
 QImage Scaled(const Picture& picture, QSize size) {
-  return picture.image()->scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  QImage image = picture.image()->scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  image.setDevicePixelRatio(1);
+  return image;
 }
 
 }  // namespace
@@ -133,7 +135,8 @@ bool ctlCard::Ember() const {
 void ctlCard::Refresh(bool dim, bool reloadPicture) {
   cardValue = static_cast<std::int16_t>(code_.cardValue());
   const QString spoken = QString::fromStdString(SpokenCard(code_));
-  setAccessibleName(spoken.isEmpty() || place_.isEmpty() ? spoken + place_ : spoken + QStringLiteral(", ") + place_);
+  setAccessibleName(spoken.isEmpty() || place_.isEmpty() ? spoken + place_
+                                                         : spoken + QStringLiteral(", ") + place_);
   update();
   if (code_.type() == CardType::Placeholder) {
     cardValue = 0;

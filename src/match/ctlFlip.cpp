@@ -1,6 +1,7 @@
 #include "match/ctlFlip.h"
 
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -74,6 +75,7 @@ void ctlFlip::mouseMoveEvent(QMouseEvent* event) {
     update();
   }
   QAbstractButton::mouseMoveEvent(event);
+  event->accept();  // the panel below would take the highlight away again
 }
 
 void ctlFlip::leaveEvent(QEvent* event) {

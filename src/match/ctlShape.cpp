@@ -22,13 +22,16 @@ void DrawMarker(QPainter& painter, const QRectF& area, const QColor& color) {
   painter.drawPolyline(tick, 3);
 }
 
+/// A line that fades out to both sides.
 void DrawFooter(QPainter& painter, const QRectF& area, const QColor& color) {
-  QLinearGradient rail(area.topLeft(), area.bottomLeft());
-  rail.setColorAt(0, color);
-  rail.setColorAt(1, color.darker(220));
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(rail);
-  painter.drawRoundedRect(area, 4, 4);
+  QColor clear = color;
+  clear.setAlpha(0);
+  QLinearGradient rail(area.topLeft(), area.topRight());
+  rail.setColorAt(0, clear);
+  rail.setColorAt(0.1, color);
+  rail.setColorAt(0.9, color);
+  rail.setColorAt(1, clear);
+  painter.fillRect(area, rail);
 }
 
 void DrawFrame(QPainter& painter, const QRectF& area, const QColor& color) {

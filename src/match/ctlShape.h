@@ -10,7 +10,7 @@ class ctlShape final : public QWidget {
  public:
   enum class Kind {
     Marker,  // a won set
-    Footer,  // the rail behind a row of flip buttons
+    Footer,  // the line under a row of flip buttons
     Frame,   // around a portrait; drawn outside of it, on all four sides
   };
   ctlShape(QWidget* parent, Kind kind, const QColor& color);

@@ -45,13 +45,14 @@ std::optional<std::string> MakePlayer(std::span<const std::string> words, kv::Di
 
 int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
+  const std::vector<std::string> words(argv + 1, argv + argc);
+  int none = 1;  // the toolkit would take "--style" for an option of its own
+  QApplication application(none, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   kv::QtScheduler scheduler;
   kv::QtDialogs dialogs(scheduler);
   kv::SystemRandom random;
   Silence silence;
-  const std::vector<std::string> words(argv + 1, argv + argc);
   const std::string playerFolder = (std::filesystem::temp_directory_path() /
                                     ("vantri-demo-" + std::to_string(QCoreApplication::applicationPid())))
                                        .string();

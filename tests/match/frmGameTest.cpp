@@ -1,0 +1,347 @@
+// The match screen under a real pointer and real keys, on the test's own clock.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+#include "match/frmGame.h"
+#include "support/MatchScreen.h"
+#include "support/ScreenHand.h"
+
+namespace kv {
+namespace {
+
+using test::MatchScreen;
+using test::MatchScreenSetup;
+using test::ScreenHand;
+
+class frmGameTest : public testing::TestWithParam<const char*> {
+ protected:
+  MatchScreenSetup Setup() const { return {.style = GetParam()}; }
+  [[nodiscard]] int StyleIndex() const { return std::string(GetParam()) == "Ember" ? 1 : 0; }
+  [[nodiscard]] const MatchGrid& grid() const {
+    return kMatchGrids.at(static_cast<std::size_t>(StyleIndex()));
+  }
+};
+
+INSTANTIATE_TEST_SUITE_P(Styles, frmGameTest, testing::Values("Slate", "Ember"),
+                         [](const auto& style) { return std::string(style.param); });
+
+TEST_P(frmGameTest, OpensAsItsLayoutSays) {
+  MatchScreenSetup setup = Setup();
+  setup.draws = {7};
+  MatchScreen match(setup);
+  EXPECT_EQ(match.screen->size(), StyleIndex() == 0 ? QSize(786, 540) : QSize(1024, 690));
+  EXPECT_FALSE(match.screen->cmdTurn().Enabled());
+  match.Begin();
+  EXPECT_EQ(match.screen->titlebar().Caption(), QStringLiteral("Arcade Match"));
+  EXPECT_EQ(match.screen->lblWager().text(), QStringLiteral("Wager: 10"));
+  EXPECT_TRUE(match.screen->cmdTurn().Enabled());
+  EXPECT_EQ(match.screen->side(Seat::Player).lblTotal().text(), QStringLiteral("7"));
+  const ctlCard& first = *match.screen->side(Seat::Player).table().at(0);
+  EXPECT_EQ(first.pos(), QPoint(qRound(grid().table.left), qRound(grid().table.top)));
+  EXPECT_EQ(first.accessibleName(), QStringLiteral("7, your table card 1"));
+  EXPECT_EQ(match.screen->hand().ctlYourDeck(2).accessibleName(),
+            QStringLiteral("flip card, plus 2, hand card 2"));
+  EXPECT_EQ(match.screen->side(Seat::Opponent).ctlOppDeck(4).Card(), "un");
+}
+
+TEST_P(frmGameTest, NothingIsCutOffOrOutside) {
+  MatchScreen match(Setup());
+  for (const QWidget* child : match.screen->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+    EXPECT_TRUE(match.screen->rect().contains(child->geometry())) << child->objectName().toStdString();
+  }
+  for (const QLabel* label : match.screen->findChildren<QLabel*>()) {
+    EXPECT_LE(label->fontMetrics().height(), label->height() + 2) << label->objectName().toStdString();
+  }
+}
+
+TEST_P(frmGameTest, AWholeSetWithTheMouse) {
+  MatchScreenSetup setup = Setup();
+  setup.draws = {9, 5, 8, 6, 7};
+  MatchScreen match(setup);
+  match.strategy.turns.assign(3, [](AiOperations& side) { side.AI_EndTurn(); });
+  match.strategy.turns.back() = [](AiOperations& side) { side.AI_Stand(); };
+  match.Begin();
+  ScreenHand hand(*match.screen);
+
+  hand.Click(match.screen->cmdTurn());
+  EXPECT_FALSE(match.screen->cmdTurn().Enabled());
+  match.Settle();
+  hand.DoubleClick(match.screen->hand().ctlYourDeck(2));
+  EXPECT_EQ(match.engine().Total(Seat::Player), 9 + 8 + 2);
+  EXPECT_FALSE(match.screen->hand().ctlYourDeck(2).isVisible());
+  EXPECT_FALSE(match.screen->hand().ctlYourDeck(1).Enabled()) << "one side card a turn";
+  EXPECT_EQ(match.sent, std::vector<std::string>{"[Hand]2fp2"});
+  hand.Click(match.screen->cmdStand());
+  match.Settle();  // the opponent plays on to 18 and stands
+  EXPECT_TRUE(match.screen->banner().isVisible());
+  EXPECT_EQ(match.screen->banner().lblBust().text(), QStringLiteral("you win the set."));
+  EXPECT_EQ(match.screen->side(Seat::Player).SetWinsShown(), 1);
+  match.random.Add(0.25);
+  hand.Click(match.screen->banner().cmdBust());
+  match.Settle();
+  EXPECT_FALSE(match.screen->banner().isVisible());
+  EXPECT_EQ(match.screen->side(Seat::Player).table().size(), 1u);
+  EXPECT_TRUE(match.screen->hand().ctlYourDeck(1).Enabled());
+}
+
+TEST_P(frmGameTest, DragAndDrop) {
+  MatchScreenSetup setup = Setup();
+  setup.draws = {4};
+  setup.hand = {"ps1", "ps2", "ps3", "ps4"};
+  MatchScreen match(setup);
+  match.Begin();
+  ScreenHand hand(*match.screen);
+  const ctlCard& card = match.screen->hand().ctlYourDeck(1);
+  const QPoint home = card.pos();
+  const QPoint half(card.width() / 2, card.height() / 2);
+
+  hand.Click(card);
+  EXPECT_EQ(match.engine().Total(Seat::Player), 4) << "a single click does nothing";
+  // One pixel outside each edge it comes back.
+  const double middleX = (grid().dropLeft + grid().dropRight) / 2;
+  const double middleY = (grid().dropTop + grid().dropBottom) / 2;
+  for (const QPointF outside :
+       {QPointF(grid().dropLeft - 1, middleY), QPointF(grid().dropRight + 1.5, middleY),
+        QPointF(middleX, grid().dropTop - 1), QPointF(middleX, grid().dropBottom + 1)}) {
+    hand.Drag(card, {3, 3}, outside.toPoint() - half);
+    EXPECT_EQ(card.pos(), home);
+    EXPECT_EQ(match.engine().Total(Seat::Player), 4);
+  }
+  // The centre exactly on the corner of the area plays it.
+  QPoint corner(static_cast<int>(grid().dropLeft), static_cast<int>(grid().dropTop));
+  if (card.width() % 2 == 1) corner.rx() += 1;  // the centre lies between two pixels
+  hand.Drag(card, {3, 3}, corner - half);
+  EXPECT_EQ(match.engine().Total(Seat::Player), 5);
+  EXPECT_FALSE(card.isVisible());
+  EXPECT_EQ(card.pos(), home);
+}
+
+TEST_P(frmGameTest, EndingTheTurnInTheMiddleOfADrag) {
+  MatchScreenSetup setup = Setup();
+  setup.draws = {4, 5, 6};
+  MatchScreen match(setup);
+  match.Begin();
+  ScreenHand hand(*match.screen);
+  ctlCard& card = match.screen->hand().ctlYourDeck(1);
+  const QPoint home = card.pos();
+  hand.Press(hand.CentreOf(card) - QPoint(0, card.height() / 2 - 2));
+  hand.MoveTo({300, 200});
+  EXPECT_NE(card.pos(), home);
+  hand.Key(Qt::Key_Space);
+  EXPECT_EQ(card.pos(), home);
+  hand.Release({300, 200});
+  EXPECT_EQ(match.engine().Table(Seat::Player).size(), 1u);
+  match.Settle();
+  EXPECT_TRUE(card.isVisible());
+  EXPECT_TRUE(card.Enabled());
+}
+
+TEST_P(frmGameTest, FlipButtons) {
+  MatchScreenSetup setup = Setup();
+  setup.draws = {4};
+  setup.hand = {"ps3", "fp2", "s11", "s51"};
+  MatchScreen match(setup);
+  match.Begin();
+  ScreenHand hand(*match.screen);
+  frmGameHand& cards = match.screen->hand();
+  EXPECT_FALSE(cards.imgFlip(1).isVisible());
+  EXPECT_TRUE(cards.imgFlip(2).isVisible());
+  EXPECT_FALSE(cards.imgFlip2(3).isVisible());
+  EXPECT_TRUE(cards.imgFlip2(4).isVisible());
+  EXPECT_TRUE(cards.imgFlipFooter().isVisible());
+
+  hand.MoveTo(hand.CentreOf(cards.imgFlip(2)));
+  EXPECT_TRUE(cards.imgFlip(2).hovered());
+  hand.Click(cards.imgFlip(2));
+  EXPECT_EQ(cards.ctlYourDeck(2).Card(), "fm2");
+  hand.Click(cards.imgFlip2(4));
+  EXPECT_EQ(cards.ctlYourDeck(4).Card(), "s52");
+  hand.Key(Qt::Key_3, Qt::ShiftModifier);
+  EXPECT_EQ(cards.ctlYourDeck(3).Card(), "s1-1");
+  hand.Key(Qt::Key_F);
+  EXPECT_EQ(cards.ctlYourDeck(4).Card(), "s51");
+  hand.MoveTo({5, match.screen->height() / 2});
+  EXPECT_FALSE(cards.imgFlip(2).hovered());
+
+  hand.Key(Qt::Key_4);
+  EXPECT_FALSE(cards.imgFlip2Footer().isVisible()) << "no button of the row is left";
+  EXPECT_FALSE(cards.imgFlip2(4).isVisible());
+}
+
+TEST_P(frmGameTest, KeysEndAndStandAndNothingElse) {
+  MatchScreenSetup setup = Setup();
+  setup.draws = {4, 5, 6};
+  MatchScreen match(setup);
+  match.Begin();
+  ScreenHand hand(*match.screen);
+  hand.Key(Qt::Key_X);
+  hand.Key(Qt::Key_Escape);
+  EXPECT_TRUE(match.screen->cmdTurn().Enabled());
+  hand.Key(Qt::Key_Space);
+  EXPECT_FALSE(match.screen->cmdTurn().Enabled());
+  hand.Key(Qt::Key_Space);  // not the player's turn
+  hand.Key(Qt::Key_1);
+  EXPECT_EQ(match.engine().Table(Seat::Player).size(), 1u);
+  match.Settle();
+  hand.Key(Qt::Key_Tab);
+  EXPECT_TRUE(match.engine().PlayerStood());
+}
+
+TEST_P(frmGameTest, EverythingByFocusWhenTheGameKeysAreOff) {
+  MatchScreenSetup setup = Setup();
+  setup.draws = {4};
+  setup.options = [](clsPlayer& player) { player.KeysEn = false; };
+  MatchScreen match(setup);
+  match.Begin();
+  ScreenHand hand(*match.screen);
+  std::vector<const QWidget*> reached;
+  for (int i = 0; i < 14; ++i) {
+    hand.Key(Qt::Key_Tab);
+    if (const QWidget* widget = QApplication::focusWidget()) reached.push_back(widget);
+  }
+  const auto has = [&](const QWidget& widget) {
+    return std::find(reached.begin(), reached.end(), &widget) != reached.end();
+  };
+  EXPECT_TRUE(has(match.screen->cmdTurn()));
+  EXPECT_TRUE(has(match.screen->cmdForfeit()));
+  EXPECT_TRUE(has(match.screen->hand().ctlYourDeck(1)));
+  EXPECT_TRUE(has(match.screen->hand().imgFlip(2)));
+  match.screen->hand().ctlYourDeck(1).setFocus();
+  hand.Key(Qt::Key_Return);
+  EXPECT_EQ(match.engine().Total(Seat::Player), 7);
+}
+
+TEST_P(frmGameTest, NoKeyDoesAnythingInANetworkMatch) {
+  MatchScreenSetup setup = Setup();
+  setup.mode = std::string(kModeNetwork);
+  MatchScreen match(setup);
+  match.Begin();
+  EXPECT_EQ(match.screen->lblWager().text(), QStringLiteral("Wager: 10\nBonus: 1"));
+  EXPECT_EQ(match.screen->titlebar().Caption(), QStringLiteral("Network Match"));
+  ScreenHand hand(*match.screen);
+  hand.Key(Qt::Key_3, Qt::ShiftModifier);
+  EXPECT_EQ(match.screen->hand().ctlYourDeck(3).Card(), "s11");
+}
+
+TEST_P(frmGameTest, ForfeitAsksFirst) {
+  MatchScreenSetup setup = Setup();
+  setup.draws = {4};
+  MatchScreen match(setup);
+  match.Begin();
+  ScreenHand hand(*match.screen);
+  match.dialogs.answers = {false, true};
+  hand.Click(match.screen->cmdForfeit());
+  ASSERT_EQ(match.dialogs.boxes.size(), 1u);
+  EXPECT_EQ(match.dialogs.boxes[0].text, "Are you sure you wish to forfeit this match?");
+  EXPECT_EQ(match.dialogs.boxes[0].title, "Kelm Vantri: Forfeit Match");
+  EXPECT_TRUE(match.screen->cmdForfeit().Enabled()) << "No gives the button back";
+  EXPECT_TRUE(match.screen->cmdTurn().Enabled());
+
+  hand.Click(match.screen->titlebar().cmdQuit());
+  EXPECT_EQ(match.dialogs.boxes.size(), 2u);
+  EXPECT_EQ(match.screen->banner().lblBust().text(), QStringLiteral("You have been defeated."));
+  EXPECT_EQ(match.screen->side(Seat::Opponent).SetWinsShown(), 3);
+  EXPECT_FALSE(match.screen->cmdTurn().Enabled());
+  EXPECT_FALSE(match.screen->hand().imgFlip(2).isEnabled());
+  EXPECT_EQ(match.bookings, 1);
+  match.Settle();
+  // After the match the title bar's close is the banner's button.
+  hand.Click(match.screen->titlebar().cmdQuit());
+  EXPECT_EQ(match.left, 1);
+  EXPECT_FALSE(match.screen->isVisible());
+  EXPECT_EQ(match.bookings, 1);
+}
+
+TEST_P(frmGameTest, LeavingTheProgramGivesUpTheMatchOnce) {
+  MatchScreenSetup setup = Setup();
+  setup.draws = {4};
+  MatchScreen match(setup);
+  match.Begin();
+  match.dialogs.answers = {false, true};
+  match.screen->close();
+  EXPECT_EQ(match.ended, 0);
+  EXPECT_TRUE(match.screen->isVisible());
+  match.screen->close();
+  EXPECT_EQ(match.ended, 1);
+  EXPECT_EQ(match.bookings, 1);
+}
+
+TEST_P(frmGameTest, AutoConfirm) {
+  MatchScreenSetup setup = Setup();
+  setup.draws = {4, 10, 5, 9};
+  setup.options = [](clsPlayer& player) { player.AutoDialogs_Opt = true; };
+  MatchScreen match(setup);
+  match.strategy.turns.assign(1, [](AiOperations& side) { side.AI_Stand(); });
+  match.Begin();
+  ScreenHand hand(*match.screen);
+  hand.Click(match.screen->cmdStand());
+  while (!match.screen->banner().isVisible()) match.scheduler.Advance(10);
+  EXPECT_FALSE(match.screen->banner().cmdBust().Enabled());
+  const int clicks = match.sound.Count("click");
+  match.scheduler.Advance(780);
+  EXPECT_EQ(match.engine().Table(Seat::Player).size(), 1u);
+  match.scheduler.Advance(400);
+  EXPECT_EQ(match.sound.Count("click"), clicks + 1);
+  match.Settle();
+  EXPECT_FALSE(match.screen->banner().isVisible());
+  EXPECT_EQ(match.engine().SetWins(Seat::Opponent), 1);
+}
+
+TEST_P(frmGameTest, PortraitsAndLights) {
+  MatchScreenSetup setup = Setup();
+  setup.draws = {4};
+  MatchScreen match(setup);
+  match.Begin();
+  ScreenHand hand(*match.screen);
+  FadeTarget& yours = match.screen->side(Seat::Player).portrait();
+  FadeTarget& theirs = match.screen->side(Seat::Opponent).portrait();
+  hand.Click(yours);
+  EXPECT_TRUE(yours.isVisible());
+  hand.DoubleClick(yours);
+  EXPECT_FALSE(yours.isVisible());
+  hand.Click(theirs);
+  EXPECT_FALSE(theirs.isVisible());
+
+  EXPECT_TRUE(match.globals.effects.fading());
+  hand.Click(match.screen->cmdTurn());
+  EXPECT_FALSE(match.globals.effects.fading()) << "both lights are off between the turns";
+}
+
+TEST_P(frmGameTest, CardsPulseInOneStyleOnly) {
+  MatchScreenSetup setup = Setup();
+  setup.draws = {4};
+  MatchScreen match(setup);
+  match.Begin();
+  ScreenHand hand(*match.screen);
+  const ctlCard& card = match.screen->hand().ctlYourDeck(1);
+  hand.MoveTo(hand.CentreOf(card));
+  EXPECT_EQ(match.globals.effects.pulsingCard() != nullptr, StyleIndex() == 1);
+  hand.MoveTo({5, match.screen->height() / 2});
+  EXPECT_EQ(match.globals.effects.pulsingCard(), nullptr);
+}
+
+/// Closes the screen at every few milliseconds of a match: in pauses, between turns, under the banner.
+TEST_P(frmGameTest, ClosesAtAnyMoment) {
+  for (int moment = 0; moment < 2600; moment += 37) {
+    MatchScreenSetup setup = Setup();
+    setup.draws = {4, 10, 5, 9};
+    MatchScreen match(setup);
+    match.strategy.turns.assign(1, [](AiOperations& side) {
+      side.AI_PlayCard(1);
+      side.AI_Stand();
+    });
+    match.scheduler.At(moment, [&] { match.screen->CloseScreen(); });
+    match.scheduler.At(1100, [&] { match.engine().Stand(); });
+    match.Begin();
+    EXPECT_FALSE(match.screen->isVisible());
+    const std::size_t pauses = match.scheduler.pauses.size();
+    match.Settle();
+    EXPECT_EQ(match.scheduler.RunningTimers(), 0) << "closed at " << moment;
+    EXPECT_EQ(match.scheduler.pauses.size(), pauses);
+    match.screen.reset();
+  }
+}
+
+}  // namespace
+}  // namespace kv
