@@ -14,7 +14,8 @@ int main(int argc, char** argv) {
   // The game draws everything itself: a desktop's own theme would only cost memory and time.
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORMTHEME")) qputenv("QT_QPA_PLATFORMTHEME", "generic");
   QApplication application(argc, argv);
-  QApplication::setApplicationDisplayName(QStringLiteral("Kelm Vantri"));
+  // No display name: the toolkit would add it to every title.
+  QApplication::setApplicationName(QStringLiteral("kelm-vantri"));
   QApplication::setQuitOnLastWindowClosed(false);
 
   const std::string programFolder = kv::ProgramFolder();

@@ -33,6 +33,7 @@ int Run(const std::string& text, const std::string& title, DialogIcon icon,
                       QApplication::activeWindow());
   box->setTextFormat(Qt::PlainText);
   box->setEscapeButton(escape);
+  box->setDefaultButton(escape);  // a hasty Enter must not give anything up
   const int answer = box->exec();
   delete box;
   return answer;
