@@ -202,10 +202,20 @@ void ctlCard::DrawLabels(QPainter& painter) const {
     painter.setFont(FontOf(QLatin1String(kLabelFont), layout_->captionFont, layout_->captionBold));
     painter.drawText(caption, Qt::AlignCenter | Qt::TextDontClip, Shown(caption_));
   }
-  if (!showCount_) return;
+  if (showCount_) DrawCount(painter);
+}
+
+void ctlCard::DrawCount(QPainter& painter) const {
   painter.setFont(FontOf(QLatin1String(kLabelFont), layout_->countFont, false));
-  painter.drawText(QRect(layout_->count, QPoint(width() - 3, height() - 1)),
-                   Qt::AlignRight | Qt::AlignVCenter | Qt::TextDontClip, countLabel_);
+  const QRect area(layout_->count, QPoint(width() - 4, height() - 1));
+  constexpr int kFlags = Qt::AlignRight | Qt::AlignVCenter | Qt::TextDontClip;
+  const QRect text = painter.boundingRect(area, kFlags, countLabel_);
+  painter.save();
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(kCaptionPlate);
+  painter.drawRoundedRect(QRectF(text.adjusted(-3, 0, 3, 0)).intersected(rect()), 3, 3);
+  painter.restore();
+  painter.drawText(area, kFlags, countLabel_);
 }
 
 void ctlCard::Raise(const PointerEvent& event, const QMouseEvent& from) const {

@@ -77,6 +77,7 @@ class ctlCard final : public QWidget, public PulsingCard {
   void Refresh(bool dim, bool reloadPicture);
   void ShowCaption(const QString& caption);
   void DrawLabels(QPainter& painter) const;
+  void DrawCount(QPainter& painter) const;
   [[nodiscard]] bool Ember() const;
   [[nodiscard]] QRect CaptionRect() const;
   void Raise(const PointerEvent& event, const QMouseEvent& from) const;

@@ -6,6 +6,7 @@
 // Pictures come from the folder in KV_ASSETS; without it every picture is empty.
 #pragma once
 
+#include <QCoreApplication>
 #include <cstdlib>
 #include <memory>
 #include <string>
