@@ -115,7 +115,8 @@ void DropShadow(QPainter& painter, const QPainterPath& path, double depth, doubl
 }
 
 void Board(QPainter& painter, QRectF area, const Style& style, std::uint64_t seed) {
-  QLinearGradient gradient(area.topLeft(), area.bottomRight());
+  QLinearGradient gradient(area.left() + area.width() * 0.35, area.top(), area.left() + area.width() * 0.65,
+                           area.bottom());
   gradient.setColorAt(0, Mix(style.base, style.edge, 0.08));
   gradient.setColorAt(0.4, style.base);
   gradient.setColorAt(1, style.baseShade);
@@ -222,6 +223,24 @@ void Socket(QPainter& painter, QRectF area, const Style& style, bool round) {
     hole = Cornered(area, 2.5, style.worn);
   }
   painter.fillPath(hole, Downward(area, style.edgeShade, style.well));
+}
+
+QPainterPath Emblem(QPointF centre, double radius) {
+  QPainterPath path = Polygon(centre, radius * 0.46, 4);
+  const QRectF round(centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius);
+  for (const double start : {-52.0, 128.0}) {
+    path.arcMoveTo(round, start);
+    path.arcTo(round, start, 104);
+    const QRectF inner = round.adjusted(radius * 0.26, radius * 0.26, -radius * 0.26, -radius * 0.26);
+    path.arcMoveTo(inner, start + 12);
+    path.arcTo(inner, start + 12, 80);
+  }
+  return path;
+}
+
+void Engrave(QPainter& painter, const QPainterPath& path, const Style& style, double width) {
+  painter.strokePath(path.translated(0.5, 0.8), QPen(Faint(style.edge, 0.16), width));
+  painter.strokePath(path, QPen(Faint(style.edgeShade, 0.55), width));
 }
 
 void Rivet(QPainter& painter, QPointF centre, double radius, const Style& style) {

@@ -54,6 +54,10 @@ void CardSlot(QPainter& painter, QRectF area, const Style& style);
 void PictureFrame(QPainter& painter, QRectF area, const Style& style);
 /// A round seat for a lamp or a marker; `area` is what it holds.
 void Socket(QPainter& painter, QRectF area, const Style& style, bool round);
+/// The house's sign: a lozenge held between two facing arcs.
+[[nodiscard]] QPainterPath Emblem(QPointF centre, double radius);
+/// Lines cut into the metal.
+void Engrave(QPainter& painter, const QPainterPath& path, const Style& style, double width);
 void Rivet(QPainter& painter, QPointF centre, double radius, const Style& style);
 /// Rivets (or thin cut marks) in the four corners of a panel.
 void Fasten(QPainter& painter, QRectF area, const Style& style);

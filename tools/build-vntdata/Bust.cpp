@@ -89,6 +89,7 @@ void PaintPortrait(QPainter& painter, int number) {
   Sitter sitter(*row);
   PaintBackdrop(painter, sitter);
   PaintBehind(painter, sitter);
+  if (row->kind != Kind::Machine) PaintNeck(painter, sitter);
   PaintGarment(painter, sitter);
   if (row->kind == Kind::Machine) {
     PaintMachineHead(painter, sitter);

@@ -20,10 +20,11 @@ QPainterPath Shoulders(const Sitter& sitter, double broad, double rise) {
 void Lapels(QPainter& painter, const Sitter& sitter, QColor colour, double spread) {
   const double x = sitter.head.x() + 1;
   for (const double side : {-1.0, 1.0}) {
-    QPainterPath lapel(QPointF(x + side * 15, 84));
+    QPainterPath lapel(QPointF(x + side * 17, 80));
     lapel.lineTo(x + side * spread, 98);
-    lapel.lineTo(x + side * 9, 116);
+    lapel.lineTo(x + side * 7, 116);
     lapel.lineTo(x, 116);
+    lapel.lineTo(x, 101);
     lapel.closeSubpath();
     Model(painter, lapel, side < 0 ? colour : Mix(colour, Qt::black, 0.25));
   }
@@ -32,10 +33,10 @@ void Lapels(QPainter& painter, const Sitter& sitter, QColor colour, double sprea
 void HighCollar(QPainter& painter, const Sitter& sitter, QColor colour, double height) {
   const double x = sitter.head.x() + 1;
   for (const double side : {-1.0, 1.0}) {
-    QPainterPath half(QPointF(x, 106));
-    half.lineTo(x + side * 19, 96);
-    half.lineTo(x + side * 21, 92 - height);
-    half.quadTo(QPointF(x + side * 12, 94 - height * 0.3), QPointF(x, 100));
+    QPainterPath half(QPointF(x, 105));
+    half.lineTo(x + side * 19, 92);
+    half.lineTo(x + side * 21, 86 - height);
+    half.quadTo(QPointF(x + side * 12, 92 - height * 0.3), QPointF(x, 97));
     half.closeSubpath();
     Model(painter, half, side < 0 ? Mix(colour, Qt::white, 0.1) : Mix(colour, Qt::black, 0.3));
   }
@@ -61,7 +62,7 @@ void Furs(QPainter& painter, Sitter& sitter) {
   const double x = sitter.head.x() + 1;
   for (int i = 0; i < 90; ++i) {
     const double along = sitter.chance.Between(-1, 1);
-    const QPointF root(x + along * 40, 91 + along * along * 12 + sitter.chance.Between(-3, 5));
+    const QPointF root(x + along * 40, 86 + along * along * 14 + sitter.chance.Between(-3, 5));
     painter.setPen(
         QPen(Mix(sitter.hair, i % 3 == 0 ? Qt::white : Qt::black, sitter.chance.Between(0.05, 0.45)), 2,
              Qt::SolidLine, Qt::RoundCap));
@@ -85,7 +86,7 @@ void Scarf(QPainter& painter, const Sitter& sitter) {
   const QColor colour = Mix(sitter.cloth, sitter.eye, 0.35);
   for (int i = 2; i >= 0; --i) {
     QPainterPath fold;
-    fold.addEllipse(QPointF(x + i * 2 - 2, 88 + i * 5), 22 + i * 4, 7);
+    fold.addEllipse(QPointF(x + i * 2 - 2, 84 + i * 5), 22 + i * 4, 7);
     Model(painter, fold, Mix(colour, Qt::black, i * 0.12));
   }
 }
@@ -121,7 +122,6 @@ void PaintGarment(QPainter& painter, Sitter& sitter) {
   const bool big = spec.kind == Kind::Stone || spec.garment == Garment::Armour;
   const QPainterPath body = Shoulders(sitter, big ? 1.12 : 0.86 + 0.16 * spec.jaw, big ? 5 : 0);
   painter.fillPath(body.translated(1, -1.5), Faint(Qt::black, 0.4));
-  // A living neck is painted after this and lies over the garment's back; its front comes with the details.
   Model(painter, body, spec.garment == Garment::Straps ? Mix(sitter.skin, sitter.cloth, 0.4) : sitter.cloth,
         0.9);
   switch (spec.garment) {

@@ -6,22 +6,6 @@
 namespace kv::datafile {
 namespace {
 
-void PaintNeck(QPainter& painter, Sitter& sitter) {
-  const double half =
-      sitter.halfWidth * (sitter.spec.kind == Kind::Stone ? 0.72 : 0.42 + 0.14 * sitter.spec.jaw);
-  const double top = sitter.head.y() + sitter.halfLength * 0.5;
-  QPainterPath neck(QPointF(sitter.head.x() - half, top));
-  neck.lineTo(sitter.head.x() + half, top);
-  neck.quadTo(QPointF(sitter.head.x() + half, 86), QPointF(sitter.head.x() + half + 7, 96));
-  neck.lineTo(sitter.head.x() - half - 5, 96);
-  neck.quadTo(QPointF(sitter.head.x() - half, 86), QPointF(sitter.head.x() - half, top));
-  Model(painter, neck, Mix(sitter.skin, Qt::black, 0.18));
-  painter.save();
-  painter.setClipPath(neck);
-  Spot(painter, sitter.At(0.15, 1.05), sitter.halfWidth * 0.9, Qt::black, 0.7);  // the chin's shadow
-  painter.restore();
-}
-
 /// Light on brow, cheek and chin; shade on the far side and in the sockets.
 void PaintPlanes(QPainter& painter, Sitter& sitter) {
   const double w = sitter.halfWidth;
@@ -135,8 +119,23 @@ void PaintFacePaint(QPainter& painter, Sitter& sitter) {
 
 }  // namespace
 
+void PaintNeck(QPainter& painter, Sitter& sitter) {
+  const double half =
+      sitter.halfWidth * (sitter.spec.kind == Kind::Stone ? 0.72 : 0.42 + 0.14 * sitter.spec.jaw);
+  const double top = sitter.head.y() + sitter.halfLength * 0.5;
+  QPainterPath neck(QPointF(sitter.head.x() - half, top));
+  neck.lineTo(sitter.head.x() + half, top);
+  neck.quadTo(QPointF(sitter.head.x() + half, 86), QPointF(sitter.head.x() + half + 7, 96));
+  neck.lineTo(sitter.head.x() - half - 5, 96);
+  neck.quadTo(QPointF(sitter.head.x() - half, 86), QPointF(sitter.head.x() - half, top));
+  Model(painter, neck, Mix(sitter.skin, Qt::black, 0.18));
+  painter.save();
+  painter.setClipPath(neck);
+  Spot(painter, sitter.At(0.15, 1.05), sitter.halfWidth * 0.9, Qt::black, 0.7);  // the chin's shadow
+  painter.restore();
+}
+
 void PaintHead(QPainter& painter, Sitter& sitter) {
-  PaintNeck(painter, sitter);
   PaintEars(painter, sitter);
   const QPainterPath head = sitter.HeadPath();
   painter.fillPath(head.translated(2, 2.5), Faint(Qt::black, 0.35));

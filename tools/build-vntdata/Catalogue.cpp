@@ -14,8 +14,8 @@
 namespace kv::datafile {
 namespace {
 
-constexpr int kBackgroundQuality = 84;
-constexpr int kPortraitQuality = 86;
+constexpr int kBackgroundQuality = 92;
+constexpr int kPortraitQuality = 93;
 
 bool InGifGroup(int number) {
   return (number > 110 && number <= 250) || number >= 400;

@@ -189,9 +189,9 @@ void PaintBack(QPainter& painter, const Face& face) {
   const QPointF centre = in.center();
   painter.fillPath(Polygon(centre, 13 * unit, 6), face.style.wellShade);
   painter.strokePath(Polygon(centre, 13 * unit, 6), QPen(face.style.edge, 1.2 * unit));
-  painter.strokePath(Polygon(centre, 9.5 * unit, 3), QPen(face.style.accent, 1.4 * unit));
-  painter.strokePath(Polygon(centre, 9.5 * unit, 3, 180), QPen(face.style.accent, 1.4 * unit));
-  painter.fillPath(Polygon(centre, 3.2 * unit, 6), Mix(face.style.accent, Qt::white, 0.5));
+  painter.strokePath(Emblem(centre, 8.6 * unit),
+                     QPen(face.style.accent, 1.3 * unit, Qt::SolidLine, Qt::RoundCap));
+  painter.fillPath(Polygon(centre, 2.4 * unit, 4), Mix(face.style.accent, Qt::white, 0.5));
 }
 
 }  // namespace

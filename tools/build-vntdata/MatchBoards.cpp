@@ -74,7 +74,10 @@ void PaintHand(QPainter& painter, const MatchPlan& plan, int side) {
 }
 
 void PaintStake(QPainter& painter, const MatchPlan& plan) {
-  Plate(painter, plan.stake.adjusted(-14, -6, 14, 8), plan.style, 5, 10);
+  // The warm table's totals begin right below the stake.
+  const bool tight = plan.style.worn;
+  Plate(painter, tight ? plan.stake.adjusted(-8, -4, 8, 1) : plan.stake.adjusted(-14, -6, 14, 8), plan.style,
+        5, 10);
   Well(painter, plan.stake.adjusted(-2, 0, 2, 0), plan.style, 6);
 }
 
@@ -93,8 +96,7 @@ void PaintDivide(QPainter& painter, const MatchPlan& plan, double top, double bo
   DropShadow(painter, emblem, 4, 0.6);
   painter.fillPath(emblem, Downward(emblem.boundingRect(), plan.style.plate, plan.style.plateShade));
   painter.strokePath(emblem, QPen(plan.style.edge, 1));
-  Glow(painter, Polygon(middle, radius * 0.62, 3), plan.style.accent, 0.9, 4);
-  Glow(painter, Polygon(middle, radius * 0.62, 3, 180), plan.style.accent, 0.9, 4);
+  Glow(painter, Emblem(middle, radius * 0.6), plan.style.accent, 1, 4);
 }
 
 void Seat(QPainter& painter, QRectF button, const Style& style) {
@@ -121,6 +123,15 @@ void TitleStrip(QPainter& painter, const MatchPlan& plan) {
   painter.fillRect(bar, Downward(bar, Mix(plan.style.plateShade, Qt::black, 0.2),
                                  Mix(plan.style.wellShade, Qt::black, 0.3)));
   painter.fillRect(QRectF(0, plan.titleBar - 1, bar.width(), 1), Faint(plan.style.edge, 0.35));
+}
+
+/// The house's sign, cut large and faint into the table's free corners.
+void EngraveSign(QPainter& painter, const MatchPlan& plan, QPointF at, double radius) {
+  for (const double x : {at.x(), plan.screen.width() - at.x()}) {
+    Engrave(painter, Emblem({x, at.y()}, radius), plan.style, 2);
+    Engrave(painter, Polygon({x, at.y()}, radius * 1.35, plan.style.worn ? 8 : 6, plan.style.worn ? 22.5 : 0),
+            plan.style, 1.2);
+  }
 }
 
 /// What both sides have alike; `paint` gets each rectangle once as it is and once mirrored.
@@ -154,6 +165,7 @@ void PaintSlateMatch(QPainter& painter) {
     painter.strokePath(facet, QPen(Faint(style.edge, 0.16), 1));
   });
   for (double y = 36; y < 540; y += 12) painter.fillRect(QRectF(0, y, 786, 0.5), Faint(Qt::black, 0.18));
+  EngraveSign(painter, plan, {92, 94}, 34);
   Conduit(painter, plan, {{158, 225}, {172, 225}, {180, 233}, {190, 233}});
   Conduit(painter, plan, {{100, 312}, {100, 360}, {150, 387}, {160, 387}});
   Conduit(painter, plan, {{279, 62}, {240, 62}, {216, 86}, {216, 122}});
@@ -187,14 +199,19 @@ void PaintEmberMatch(QPainter& painter) {
   const Style& style = plan.style;
   Board(painter, plan.screen, style, 107);
   Spot(painter, {512, 240}, 420, kAmber, 0.16);
+  QPainterPath rings;  // turned on a lathe, around the middle of the table
+  for (int i = 0; i < 6; ++i) rings.addEllipse(QPointF(512, 300), 400.0 + i * 26, 400.0 + i * 26);
+  Engrave(painter, rings, style, 1.2);
   // Bands of beaten metal along the table's edge.
-  for (const QRectF& band : {QRectF(-10, 24, 1044, 20), QRectF(-10, 676, 1044, 30)})
+  for (const QRectF& band : {QRectF(-10, 24, 1044, 20), QRectF(-10, 642, 1044, 60)})
     Plate(painter, band, style, 71, 3);
-  for (double x = 20; x < 1024; x += 41) Rivet(painter, {x, 683}, 2.6, style);
+  for (double x = 20; x < 1024; x += 41) Rivet(painter, {x, 686}, 2, style);
+  EngraveSign(painter, plan, {54, 560}, 30);
+  EngraveSign(painter, plan, {50, 410}, 22);
   Conduit(painter, plan, {{80, 170}, {80, 278}, {96, 292}, {110, 300}});
   Conduit(painter, plan, {{160, 319}, {176, 319}, {190, 319}});
   OnBothSides(plan, {QRectF(12, 32, 470, 136)}, [&](QRectF area) {
-    Plate(painter, QRectF(area.left(), area.top(), area.width(), 88), style, 72, 12);
+    Plate(painter, QRectF(area.left(), area.top(), area.width(), 92), style, 72, 12);
   });
   for (const int side : {0, 1}) {
     Plate(painter, TableArea(plan, side).adjusted(-11, -7, 11, 9), style, 73, 12);
@@ -203,7 +220,7 @@ void PaintEmberMatch(QPainter& painter) {
     Plate(painter, area, style, 74, 14);
     Fasten(painter, area, style);
   });
-  OnBothSides(plan, {HandArea(plan, 0).adjusted(-10, -8, 10, 4)},
+  OnBothSides(plan, {HandArea(plan, 0).adjusted(-10, -8, 10, 2)},
               [&](QRectF area) { Plate(painter, area, style, 75, 12); });
   OnBothSides(plan, {QRectF(24, 44, 112, 112)}, [&](QRectF area) { PictureFrame(painter, area, style); });
   OnBothSides(plan, {QRectF(150, 44, 230, 30), QRectF(374, 82, 100, 40)},

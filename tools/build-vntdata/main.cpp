@@ -82,6 +82,7 @@ int Run(int count, char** arguments) {
 }  // namespace kv::datafile
 
 int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");  // it paints, but shows nothing
   const QGuiApplication application(argc, argv);
   return kv::datafile::Run(argc, argv);
 }
