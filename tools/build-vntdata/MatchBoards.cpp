@@ -180,8 +180,10 @@ void PaintSlateMatch(QPainter& painter) {
   OnBothSides(plan, {QRectF(44, 172, 112, 112)}, [&](QRectF area) { PictureFrame(painter, area, style); });
   OnBothSides(plan, {QRectF(24, 290, 152, 22), QRectF(286, 126, 66, 36)},
               [&](QRectF area) { Well(painter, area, style, 4); });
-  OnBothSides(plan, {QRectF(20, 393, 124, 30), QRectF(20, 429, 124, 30)},
-              [&](QRectF area) { Seat(painter, area, style); });
+  OnBothSides(plan, {QRectF(20, 393, 124, 30)}, [&](QRectF area) { Seat(painter, area, style); });
+  Seat(painter, {20, 429, 124, 30}, style);
+  for (double y = 432; y < 460; y += 6)
+    Well(painter, {642, y, 124, 2}, style, 1);  // the opponent has one button
   OnBothSides(plan, {QRectF(226, 137, 15, 15), QRectF(245, 137, 15, 15), QRectF(264, 137, 15, 15)},
               [&](QRectF area) { Socket(painter, area, style, false); });
   OnBothSides(plan, {QRectF(196, 132, 24, 24)}, [&](QRectF area) { Socket(painter, area, style, true); });
