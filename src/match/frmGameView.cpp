@@ -1,4 +1,5 @@
 // The match screen's two borders: what the engine says is shown, and what the person does is handed back.
+#include <QAccessible>
 #include <QKeyEvent>
 
 #include "match/MatchKeys.h"
@@ -63,7 +64,14 @@ void frmGame::LightsChanged() {
   services_.effects.StopFade();
   for (const Seat seat : {Seat::Player, Seat::Opponent}) side(seat).RepaintLight();
   for (const Seat seat : {Seat::Player, Seat::Opponent}) {
-    if (engine_.Light(seat)) services_.effects.FadeLoop(side(seat).LightPair(), kLightFade);
+    if (!engine_.Light(seat)) continue;
+    // Without pulsing effects a light simply shines, and nothing moves while the person thinks.
+    if (services_.player.LightPulse_Opt) {
+      services_.effects.FadeLoop(side(seat).LightPair(), kLightFade);
+    } else {
+      const Effects::Pair pair = side(seat).LightPair();
+      Effects::AlphaBlendPicture(pair.source, *pair.destination, kLightFade.end);
+    }
   }
 }
 
@@ -80,6 +88,8 @@ void frmGame::BannerChanged() {
     services_.effects.StopCardPulse();
     ctlBust_->raise();
     button.setFocus();
+    QAccessibleEvent alert(ctlBust_, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
   } else {
     setFocus();
   }
@@ -170,8 +180,7 @@ bool frmGame::FocusKey(const QKeyEvent& event) {
     case Qt::Key_Left:
     case Qt::Key_Up:
       return focusNextPrevChild(false);
-    case Qt::Key_Q:
-      if (event.modifiers() != Qt::ControlModifier) return false;
+    case Qt::Key_Escape:
       LeaveProgram();
       return true;
     default:
