@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <filesystem>
 
+#include "app/AccessibleRoles.h"
 #include "app/Program.h"
 #include "platform/Folders.h"
 #include "platform/QtDialogs.h"
@@ -17,6 +18,7 @@ int main(int argc, char** argv) {
   // No display name: the toolkit would add it to every title.
   QApplication::setApplicationName(QStringLiteral("kelm-vantri"));
   QApplication::setQuitOnLastWindowClosed(false);
+  kv::InstallAccessibleRoles();
 
   const std::string programFolder = kv::ProgramFolder();
   const std::string playerFolder = kv::UserFolder();

@@ -23,7 +23,8 @@ class frmGame final : public QWidget, private MatchView {
 
   /// Ends everything the screen has started and hides it. It may be destroyed once no pause is under way.
   void CloseScreen();
-  /// Leaving the program from here: a match that is not booked yet must be given up first.
+  /// Leaving the program (Escape, or the window system's close): a match that is not booked yet must be
+  /// given up first.
   void LeaveProgram();
 
   [[nodiscard]] MatchEngine& engine() { return engine_; }
@@ -66,7 +67,7 @@ class frmGame final : public QWidget, private MatchView {
   void PlainHighlights();
   /// True when the key was one of the player's game keys; nothing else is done with it then.
   bool GameKey(const QKeyEvent& event);
-  /// The keys by which everything is reached without a mouse.
+  /// The keys by which everything is reached without a mouse: arrows, and Escape to leave.
   bool FocusKey(const QKeyEvent& event);
 
   frmGameServices services_;

@@ -29,6 +29,7 @@ void frmGameSide::BuildLabels(Layout& layout, const frmGameServices& services) {
   // Labels of plain text: a name is never read as markup.
   name->setTextFormat(Qt::PlainText);
   name->setText(QString::fromStdString(player ? services.player.Name : services.game.OppName));
+  name->setAccessibleName(name->accessibleName() + QStringLiteral(": ") + name->text());
   total_ = layout.NewLabel(player ? u"lblYourTotal" : u"lblOppTotal", &container_);
   ShowTotal(0);
 }

@@ -1,8 +1,10 @@
 // The whole program on the test's own clock: from the player file to one match after another.
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QCoreApplication>
 
+#include "app/AccessibleRoles.h"
 #include "app/Program.h"
 #include "platform/Files.h"
 #include "support/HandScheduler.h"
@@ -92,6 +94,24 @@ TEST_F(ProgramTest, OneMatchFollowsAnother) {
     EXPECT_EQ(program->game().Wager, 10);
     EXPECT_EQ(program->ClosedScreens(), 0u) << "closed screens are destroyed once no pause is under way";
   }
+}
+
+TEST_F(ProgramTest, EveryControlHasANameAndARole) {
+  InstallAccessibleRoles();
+  Start();
+  for (QWidget* widget : program->match()->findChildren<QWidget*>()) {
+    if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus) continue;
+    const QAccessibleInterface* control = QAccessible::queryAccessibleInterface(widget);
+    ASSERT_NE(control, nullptr);
+    EXPECT_EQ(control->role(), QAccessible::Button) << widget->objectName().toStdString();
+    EXPECT_FALSE(control->text(QAccessible::Name).isEmpty()) << widget->objectName().toStdString();
+  }
+  while (!program->match()->cmdTurn().Enabled()) Settle();
+  QAccessibleInterface* card =
+      QAccessible::queryAccessibleInterface(&program->match()->hand().ctlYourDeck(1));
+  const std::size_t cards = program->match()->engine().Table(Seat::Player).size();
+  card->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(program->match()->engine().Table(Seat::Player).size(), cards + 1);
 }
 
 TEST_F(ProgramTest, EndsOnceAndLeavesNothingRunning) {

@@ -176,7 +176,7 @@ TEST_P(frmGameTest, KeysEndAndStandAndNothingElse) {
   match.Begin();
   ScreenHand hand(*match.screen);
   hand.Key(Qt::Key_X);
-  hand.Key(Qt::Key_Escape);
+  hand.Key(Qt::Key_F5);
   EXPECT_TRUE(match.screen->cmdTurn().Enabled());
   hand.Key(Qt::Key_Space);
   EXPECT_FALSE(match.screen->cmdTurn().Enabled());
@@ -262,7 +262,7 @@ TEST_P(frmGameTest, LeavingTheProgramGivesUpTheMatchOnce) {
   match.screen->close();
   EXPECT_EQ(match.ended, 0);
   EXPECT_TRUE(match.screen->isVisible());
-  match.screen->close();
+  ScreenHand(*match.screen).Key(Qt::Key_Escape);
   EXPECT_EQ(match.ended, 1);
   EXPECT_EQ(match.bookings, 1);
 }
