@@ -131,10 +131,13 @@ TEST(Pictures, BrokenBytesStayEmpty) {
   cutJpeg.resize(40);
   Bytes huge = gif;
   huge[6] = huge[7] = huge[8] = huge[9] = 0xff;  // a screen of 65535 by 65535
-  SmallFile file({{"GIF", {{201, {'G', 'I', 'F'}}, {202, huge}, {203, gif}}},
-                  {"JPG", {{101, cutJpeg}, {102, {0xff, 0xd8, 0xff}}, {103, Bytes(400, 0x41)}}}});
+  constexpr std::string_view kDrawing = "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>";
+  const Bytes drawing(kDrawing.begin(), kDrawing.end());  // a picture, but of a kind that is not let in
+  SmallFile file(
+      {{"GIF", {{201, {'G', 'I', 'F'}}, {202, huge}, {203, gif}}},
+       {"JPG", {{101, cutJpeg}, {102, {0xff, 0xd8, 0xff}}, {103, Bytes(400, 0x41)}, {104, drawing}}}});
   ASSERT_TRUE(file.opened);
-  for (const int number : {201, 202, 101, 102, 103}) {
+  for (const int number : {201, 202, 101, 102, 103, 104}) {
     bool ok = true;
     EXPECT_TRUE(file.pictures.getPic(number, ok).empty()) << number;
     EXPECT_FALSE(ok) << number;
