@@ -89,9 +89,10 @@ void PaintPortrait(QPainter& painter, int number) {
   Sitter sitter(*row);
   PaintBackdrop(painter, sitter);
   PaintBehind(painter, sitter);
-  if (row->kind != Kind::Machine) PaintNeck(painter, sitter);
+  const bool machine = row->kind == Kind::Machine;
+  machine ? PaintMachineNeck(painter, sitter) : PaintNeck(painter, sitter);
   PaintGarment(painter, sitter);
-  if (row->kind == Kind::Machine) {
+  if (machine) {
     PaintMachineHead(painter, sitter);
   } else {
     PaintHead(painter, sitter);

@@ -34,6 +34,7 @@ struct Sitter {
 // The layers, from the back to the front.
 void PaintBehind(QPainter& painter, Sitter& sitter);  // hair and gear that the head hides
 void PaintNeck(QPainter& painter, Sitter& sitter);
+void PaintMachineNeck(QPainter& painter, Sitter& sitter);
 void PaintGarment(QPainter& painter, Sitter& sitter);
 void PaintHead(QPainter& painter, Sitter& sitter);  // skin, light, nose
 void PaintMarks(QPainter& painter, Sitter& sitter);

@@ -123,13 +123,16 @@ void PaintWear(QPainter& painter, Sitter& sitter) {
 
 }  // namespace
 
-void PaintMachineHead(QPainter& painter, Sitter& sitter) {
+void PaintMachineNeck(QPainter& painter, Sitter& sitter) {
   QPainterPath neck;
   neck.addRect(QRectF(sitter.At(-0.34, 0.8), QPointF(sitter.At(0.34, 0).x(), 96)));
   Model(painter, neck, Mix(sitter.skin, Qt::black, 0.6));
   painter.setPen(QPen(Faint(Qt::white, 0.2), 1));
   for (double y = sitter.At(0, 1.06).y(); y < 94; y += 3.5)
     painter.drawLine(QPointF(sitter.At(-0.34, 0).x(), y), QPointF(sitter.At(0.34, 0).x(), y));
+}
+
+void PaintMachineHead(QPainter& painter, Sitter& sitter) {
   const QPainterPath shell = Shell(sitter);
   painter.fillPath(shell.translated(2, 2.5), Faint(Qt::black, 0.35));
   Model(painter, shell, sitter.skin, 1.1);
