@@ -121,6 +121,19 @@ void PaintWear(QPainter& painter, Sitter& sitter) {
   }
 }
 
+/// The number on the brow, and the stump of an aerial that somebody bent long ago.
+void PaintNumberPlate(QPainter& painter, Sitter& sitter) {
+  const QRectF plate(sitter.At(-0.78, -0.9), sitter.At(0.74, -0.53));
+  Model(painter, Cornered(plate, 1.5, true), QColor(206, 192, 160), 0.6);
+  DrawLettering(painter, QStringLiteral("H6-J8"), plate, 6.4, QColor(44, 24, 14));
+  QPainterPath aerial(sitter.At(0.5, -0.98));
+  aerial.lineTo(sitter.At(0.56, -1.3));
+  aerial.lineTo(sitter.At(0.95, -1.42));
+  painter.strokePath(aerial, QPen(QColor(24, 20, 18), 2.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.strokePath(aerial, QPen(sitter.hair, 1.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  Spot(painter, sitter.At(0.95, -1.42), 4, sitter.eye, 0.8);
+}
+
 }  // namespace
 
 void PaintMachineNeck(QPainter& painter, Sitter& sitter) {
@@ -148,10 +161,7 @@ void PaintMachineHead(QPainter& painter, Sitter& sitter) {
   PaintSeams(painter, sitter);
   PaintSensors(painter, sitter);
   PaintGrille(painter, sitter);
-  if (sitter.spec.number == kBattered) {
-    DrawLettering(painter, QStringLiteral("H6-J8"), QRectF(sitter.At(-0.8, -0.86), sitter.At(0.8, -0.54)),
-                  6.2, QColor(30, 20, 14));
-  }
+  if (sitter.spec.number == kBattered) PaintNumberPlate(painter, sitter);
 }
 
 }  // namespace kv::datafile

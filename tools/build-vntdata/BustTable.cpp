@@ -89,7 +89,7 @@ constexpr BustSpec kBusts[] = {
     {44, Kind::Human, 0xffb48460, 0xff505848, 0xff787068, 0xff5c6450, 0xff405040, 1.04, 1.02, 0.60,
      Hair::Receding, Gear::Goggles, Eyes::Tired, Mouth::Smile, Garment::Jacket, Mark::Moustache},
     {45, Kind::Machine, 0xff8c8478, 0xff4c4038, 0xffb4602c, 0xff44525c, 0xffff5a28, 1.08, 1.06, 0.80,
-     Hair::None, Gear::Antennae, Eyes::Lens, Mouth::Grille, Garment::Cables, Mark::Scar},
+     Hair::None, Gear::Pods, Eyes::Lens, Mouth::Grille, Garment::Cables, Mark::Scar},
     {46, Kind::Human, 0xff90603c, 0xffc0a060, 0xff0c0a0a, 0xff8c3c2c, 0xff402810, 0.96, 1.00, 0.36,
      Hair::Bun, Gear::Circlet, Eyes::Plain, Mouth::Smile, Garment::Robe, Mark::Freckles},
     {47, Kind::Insect, 0xffc8a848, 0xff4c3c28, 0xff6c5018, 0xff7c6420, 0xff201808, 1.10, 0.96, 0.12,

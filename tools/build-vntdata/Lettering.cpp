@@ -24,7 +24,7 @@ constexpr std::array kAlphabet = {
     Letter{'G', "400006464323"},
     Letter{'H', "0006 4046 0343"},
     Letter{'I', "0006"},
-    Letter{'J', "404606"},
+    Letter{'J', "2040460604"},
     Letter{'K', "0006 400346"},
     Letter{'L', "000646"},
     Letter{'M', "0600234046"},
