@@ -1,6 +1,5 @@
 #include "app/Program.h"
 
-#include <QPoint>
 #include <filesystem>
 
 #include "match/Dealing.h"
@@ -96,7 +95,7 @@ void Program::SettleStake() {
   game_->CreditsRef->Value -= kArcadeStake;
 }
 
-void Program::OpenMatch() {
+void Program::OpenMatch(std::optional<QPoint> position) {
   if (game_->CreditsRef->Value < kArcadeStake) StartRun();
   SettleStake();
   DealYourHand(*game_, services_.random);
@@ -105,6 +104,7 @@ void Program::OpenMatch() {
                                                      buttons_, globals_.effects, globals_.look,
                                                      [this](int number) { return pictures_.getPic(number); },
                                                      player_, *game_, noNetwork_, *booking_, *this});
+  if (position) match_->move(*position);
   match_->show();
 }
 
@@ -118,8 +118,7 @@ void Program::CloseMatch() {
 void Program::LeaveMatch() {
   const QPoint position = match_->pos();
   CloseMatch();
-  OpenMatch();
-  match_->move(position);
+  OpenMatch(position);
 }
 
 void Program::EndProgram() {

@@ -2,8 +2,10 @@
 // owns everything and hands out references; nothing of it is global, so two can run in one process.
 #pragma once
 
+#include <QPoint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -57,7 +59,8 @@ class Program final : public Navigator {
   void LoadPlayer();
   void StartRun();
   void SettleStake();
-  void OpenMatch();
+  /// At a place of the desktop, or where the window system puts it.
+  void OpenMatch(std::optional<QPoint> position = {});
   void CloseMatch();
 
   ProgramServices services_;

@@ -114,6 +114,49 @@ TEST_F(ProgramTest, EveryControlHasANameAndARole) {
   EXPECT_EQ(program->match()->engine().Table(Seat::Player).size(), cards + 1);
 }
 
+/// Clicks, drags and keys anywhere at any time: what is shown is always what the match holds.
+TEST_F(ProgramTest, SurvivesAMonkey) {
+  constexpr Qt::Key kKeys[] = {Qt::Key_1, Qt::Key_2,     Qt::Key_3,      Qt::Key_4,   Qt::Key_Q,
+                               Qt::Key_S, Qt::Key_Space, Qt::Key_Return, Qt::Key_Tab, Qt::Key_Left};
+  Start();
+  SeededRandom monkey(11);
+  const auto upTo = [&](int end) { return static_cast<int>(monkey.Rnd() * end); };
+  for (int step = 0; step < 3000; ++step) {
+    frmGame& screen = *program->match();
+    test::ScreenHand hand(screen);
+    dialogs.answers.assign(1, upTo(4) == 0);
+    const QPoint point(upTo(screen.width()), upTo(screen.height()));
+    const ctlCard& card = screen.hand().ctlYourDeck(1 + upTo(4));
+    switch (upTo(6)) {
+      case 0:
+        hand.Click(screen);
+        break;
+      case 1:
+        hand.Press(point);
+        hand.Release({upTo(screen.width()), upTo(screen.height())});
+        break;
+      case 2:
+        if (card.isVisible()) hand.Drag(card, {3, 3}, point);
+        break;
+      case 3:
+        if (card.isVisible()) hand.DoubleClick(card);
+        break;
+      default:
+        hand.Key(kKeys[upTo(std::size(kKeys))], upTo(5) == 0 ? Qt::ShiftModifier : Qt::NoModifier);
+        break;
+    }
+    scheduler.Advance(upTo(400));
+    frmGame& now = *program->match();
+    for (const Seat seat : {Seat::Player, Seat::Opponent}) {
+      EXPECT_EQ(now.side(seat).lblTotal().text().toInt(), now.engine().Total(seat));
+      EXPECT_EQ(now.side(seat).table().size(), now.engine().Table(seat).size());
+      EXPECT_EQ(now.side(seat).SetWinsShown(), now.engine().SetWins(seat));
+    }
+    EXPECT_EQ(now.cmdTurn().Enabled(), now.engine().controls().endTurn);
+    EXPECT_EQ(now.banner().isVisible(), now.engine().banner().visible);
+  }
+}
+
 TEST_F(ProgramTest, EndsOnceAndLeavesNothingRunning) {
   Start();
   dialogs.answers = {true};
