@@ -16,7 +16,8 @@ class Dialogs {
   /// True for Yes; closing the box counts as No.
   [[nodiscard]] virtual bool AskYesNo(const std::string& text, const std::string& title, DialogIcon icon) = 0;
   /// The typed text, or nothing when cancelled.
-  [[nodiscard]] virtual std::optional<std::string> AskText(const std::string& prompt, const std::string& title,
+  [[nodiscard]] virtual std::optional<std::string> AskText(const std::string& prompt,
+                                                           const std::string& title,
                                                            const std::string& preset) = 0;
 };
 

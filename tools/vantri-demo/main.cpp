@@ -4,13 +4,13 @@
 #include <filesystem>
 #include <iostream>
 
+#include "DemoPlayer.h"
 #include "app/Program.h"
 #include "platform/Folders.h"
 #include "platform/QtDialogs.h"
 #include "platform/QtFontSystem.h"
 #include "platform/QtScheduler.h"
 #include "presentation/Fonts.h"
-#include "DemoPlayer.h"
 #include "vantri-player/PlayerOptions.h"
 
 namespace {
