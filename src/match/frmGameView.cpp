@@ -180,6 +180,12 @@ bool frmGame::FocusKey(const QKeyEvent& event) {
     case Qt::Key_Left:
     case Qt::Key_Up:
       return focusNextPrevChild(false);
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      // The banner waits for nothing else, wherever the focus may be.
+      if (!ctlBust_->isVisible() || event.isAutoRepeat()) return false;
+      ctlBust_->cmdBust().click();
+      return true;
     case Qt::Key_Escape:
       LeaveProgram();
       return true;

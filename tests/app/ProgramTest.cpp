@@ -3,6 +3,7 @@
 
 #include <QAccessible>
 #include <QCoreApplication>
+#include <set>
 
 #include "app/AccessibleRoles.h"
 #include "app/Program.h"
@@ -121,15 +122,16 @@ TEST_F(ProgramTest, SurvivesAMonkey) {
   Start();
   SeededRandom monkey(11);
   const auto upTo = [&](int end) { return static_cast<int>(monkey.Rnd() * end); };
-  for (int step = 0; step < 3000; ++step) {
+  std::set<const clsDeckArray*> hands;
+  for (int step = 0; step < 4000; ++step) {
     frmGame& screen = *program->match();
     test::ScreenHand hand(screen);
     dialogs.answers.assign(1, upTo(4) == 0);
-    const QPoint point(upTo(screen.width()), upTo(screen.height()));
+    const QPoint point(upTo(screen.width() - 100), upTo(screen.height() - 100));
     const ctlCard& card = screen.hand().ctlYourDeck(1 + upTo(4));
     switch (upTo(6)) {
       case 0:
-        hand.Click(screen);
+        hand.Click(upTo(2) == 0 ? static_cast<QWidget&>(screen.cmdTurn()) : screen.banner().cmdBust());
         break;
       case 1:
         hand.Press(point);
@@ -147,6 +149,7 @@ TEST_F(ProgramTest, SurvivesAMonkey) {
     }
     scheduler.Advance(upTo(400));
     frmGame& now = *program->match();
+    hands.insert(program->game().SideDeck.get());
     for (const Seat seat : {Seat::Player, Seat::Opponent}) {
       EXPECT_EQ(now.side(seat).lblTotal().text().toInt(), now.engine().Total(seat));
       EXPECT_EQ(now.side(seat).table().size(), now.engine().Table(seat).size());
@@ -155,6 +158,8 @@ TEST_F(ProgramTest, SurvivesAMonkey) {
     EXPECT_EQ(now.cmdTurn().Enabled(), now.engine().controls().endTurn);
     EXPECT_EQ(now.banner().isVisible(), now.engine().banner().visible);
   }
+  EXPECT_GT(hands.size(), 5u) << "it came through several matches";
+  EXPECT_GT(scheduler.pauses.size(), 500u);
 }
 
 TEST_F(ProgramTest, EndsOnceAndLeavesNothingRunning) {
