@@ -17,9 +17,11 @@ class Pressable final : public QAccessibleWidget {
  public:
   explicit Pressable(QWidget* widget) : QAccessibleWidget(widget, QAccessible::Button) {}
 
+  // A card that nobody can play (on a table, or face down) is something to look at.
+  QAccessible::Role role() const override { return pressable() ? QAccessible::Button : QAccessible::Graphic; }
   QStringList actionNames() const override {
     QStringList names = QAccessibleWidget::actionNames();
-    if (widget()->isEnabled()) names.prepend(pressAction());
+    if (widget()->isEnabled() && pressable()) names.prepend(pressAction());
     return names;
   }
   void doAction(const QString& action) override {
@@ -30,6 +32,12 @@ class Pressable final : public QAccessibleWidget {
     } else if (const auto* card = dynamic_cast<ctlCard*>(widget()); card->Enabled() && card->DblClick) {
       card->DblClick();
     }
+  }
+
+ private:
+  bool pressable() const {
+    const auto* card = dynamic_cast<ctlCard*>(widget());
+    return card == nullptr || card->DblClick;
   }
 };
 

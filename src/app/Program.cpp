@@ -86,7 +86,6 @@ void Program::StartRun() {
     bool found = false;
     return portraits_.GetPortrait(number, name, found);
   });
-  game_->InitArcadeCards();
   booking_ = std::make_unique<ArcadeBooking>(*game_, player_);
 }
 

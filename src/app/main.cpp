@@ -4,6 +4,7 @@
 
 #include "app/AccessibleRoles.h"
 #include "app/Program.h"
+#include "app/StartCheck.h"
 #include "platform/Folders.h"
 #include "platform/QtDialogs.h"
 #include "platform/QtFontSystem.h"
@@ -28,6 +29,7 @@ int main(int argc, char** argv) {
 
   kv::QtScheduler scheduler;
   kv::QtDialogs dialogs(scheduler);
+  if (!kv::CheckDataFile(programFolder, dialogs)) return 1;
   kv::SystemRandom random;
   kv::SdlSoundDevice sound(scheduler);
   kv::QtFontSystem fonts;

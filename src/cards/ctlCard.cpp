@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <utility>
 
 #include "platform/QtPropertyBag.h"
 #include "platform/Text.h"
@@ -98,12 +99,13 @@ void ctlCard::setCard(std::string_view code) {
 
 void ctlCard::setCount(std::string_view text) {
   count_ = static_cast<std::int16_t>(NumberOf(text));
-  countLabel_ = QString::number(count_);
+  countLabel_ = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
   update();
 }
 
 void ctlCard::setEnabled(bool enabled) {
   QWidget::setEnabled(enabled);
+  if (!enabled) press_ = Press::None;
   Refresh(!enabled, true);
 }
 
@@ -229,6 +231,10 @@ void ctlCard::mousePressEvent(QMouseEvent* event) {
 }
 
 void ctlCard::mouseMoveEvent(QMouseEvent* event) {
+  // A release that went to a box over the window never arrives: no button down means no press.
+  if (event->buttons() == Qt::NoButton && std::exchange(press_, Press::None) == Press::Surface) {
+    Raise(MouseUp, *event);
+  }
   // The caption keeps a press to itself; one that is drawn away from it has taken hold of the card.
   const QPoint moved = event->position().toPoint() - pressedAt_;
   if (press_ == Press::Caption && moved.manhattanLength() >= QApplication::startDragDistance() / 2) {

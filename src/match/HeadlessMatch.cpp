@@ -38,7 +38,9 @@ class NobodyWatches final : public MatchView, public MatchBooking, public Dialog
   void ControlsChanged() override {}
   void LightsChanged() override {}
   void BannerChanged() override {
-    if (engine_->banner().visible) CountSet();
+    const bool shown = engine_->banner().visible;
+    if (shown && !bannerShown_) CountSet();
+    bannerShown_ = shown;
     Observe();
   }
   void RunTimer(MatchTimer timer, bool run) override {
@@ -80,6 +82,7 @@ class NobodyWatches final : public MatchView, public MatchBooking, public Dialog
   MatchEngine* engine_ = nullptr;
   HeadlessResult result_;
   bool timerRuns_ = false;
+  bool bannerShown_ = false;
   bool left_ = false;
 };
 

@@ -35,9 +35,9 @@ MatchEngine::MatchEngine(clsGame& game, const MatchOptions& options, MatchView& 
   const int speed = options.speed >= 0 && options.speed <= 2 ? options.speed : 1;
   speedOffset_ = (speed - 1) * kSpeedStep;
   turnDelay_ = BaseDelay(options, isNetwork()) - (isNetwork() ? 0 : speedOffset_);
-  playerHand_.CopyArray(*game.SideDeck);
-  side(Seat::Player).hand = &playerHand_;
-  side(Seat::Opponent).hand = game.CompDeck.get();
+  // The player's flips stay on the table: the hand that was dealt keeps its codes.
+  side(Seat::Player).hand = std::make_shared<clsDeckArray>(*game.SideDeck);
+  side(Seat::Opponent).hand = game.CompDeck;
 }
 
 void MatchEngine::Activate() {
@@ -73,6 +73,7 @@ void MatchEngine::Reset() {
   }
   for (const Seat seat : {Seat::Player, Seat::Opponent}) view_.TableChanged(seat, 0);
   view_.ControlsChanged();
+  view_.BannerChanged();
   if (!Wait(kSetPause - speedOffset_ / 2.0)) return;
   gameState_ = playerStarts_ ? GameStep::PlayerTurn : GameStep::OpponentTurn;
   if (isNetwork() || options_.turnMode == 2) playerStarts_ = !playerStarts_;
@@ -169,6 +170,7 @@ void MatchEngine::Forfeit() {
     view_.ControlsChanged();  // the Forfeit button disabled itself when it was clicked
     return;
   }
+  stopped_ = true;
   StopMatch();
   if (isNetwork()) net_.NetSend("[Forf]");
   while (SetWins(Seat::Opponent) < kSetsToWin - 1) AddSetWin(true);
@@ -190,7 +192,6 @@ void MatchEngine::OppForfeit() {
 void MatchEngine::StopMatch() {
   ++epoch_;
   gameState_ = GameStep::None;
-  stopped_ = true;
   for (const MatchTimer timer : {MatchTimer::Game, MatchTimer::AutoDialogs, MatchTimer::NetWait}) {
     view_.RunTimer(timer, false);
   }

@@ -16,6 +16,7 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string>
 #include <vector>
@@ -122,7 +123,7 @@ class MatchEngine {
   struct Side {
     Side(MatchEngine& engine, Seat seat) : operations(engine, seat) { table.reserve(kTableSize); }
     std::vector<CardCode> table;
-    clsDeckArray* hand = nullptr;
+    std::shared_ptr<clsDeckArray> hand;
     SideOperations operations;
     int total = 0;
     int setWins = 0;
@@ -179,7 +180,6 @@ class MatchEngine {
   Random& random_;
   Strategy* playerStrategy_ = nullptr;
 
-  clsDeckArray playerHand_;
   std::array<Side, 2> sides_;
   MatchControls controls_;
   MatchBanner banner_;

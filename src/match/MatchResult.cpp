@@ -44,6 +44,7 @@ void MatchEngine::ShowResult(GameStep result) {
   } else {
     BustWin();
   }
+  if (closed_) return;  // the screen was left while the booking told of a failed save
   gameState_ = GameStep::None;
   net_.clearPeerReady();
   banner_.visible = true;

@@ -38,7 +38,8 @@ struct MatchControls {
   bool endTurn = false;
   bool stand = false;
   bool forfeit = false;
-  bool hand = false;         // the player's hand cards and flip buttons
+  bool flips = false;        // the flip buttons of the hand: from the first turn until a forfeit
+  bool hand = false;         // the player's hand cards
   bool opponentHand = true;  // false dims the opponent's face-down cards
   bool titlebar = true;
   std::array<bool, 2> table{true, true};  // by Seat; false dims the cards of that table

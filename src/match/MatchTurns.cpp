@@ -1,4 +1,5 @@
 // One turn of either side: the draw, the side card, ending the turn and standing.
+#include <algorithm>
 #include <cmath>
 #include <stdexcept>
 
@@ -37,6 +38,7 @@ void MatchEngine::PlayerTurn() {
 }
 
 void MatchEngine::OpenPlayerTurn() {
+  controls_.flips = true;
   SetTurnControls(true);
   if (playerStrategy_ != nullptr) RunStrategy(*playerStrategy_, Seat::Player);
 }
@@ -66,16 +68,17 @@ void MatchEngine::PlayHandCard(int slot) {
 }
 
 void MatchEngine::FirstFlip(int slot) {
-  if (!controls_.hand || slot < 1 || slot > kHandSize || !HandCard(Seat::Player, slot).hasFirstFlip()) return;
-  playerHand_.setValue(slot, HandCard(Seat::Player, slot).FirstFlip());
+  if (!controls_.flips || slot < 1 || slot > kHandSize || !HandCard(Seat::Player, slot).hasFirstFlip())
+    return;
+  side(Seat::Player).hand->setValue(slot, HandCard(Seat::Player, slot).FirstFlip());
   view_.HandChanged(Seat::Player, slot);
   view_.PlaySound("click");
 }
 
 void MatchEngine::SecondFlip(int slot) {
-  if (!controls_.hand || slot < 1 || slot > kHandSize || !HandCard(Seat::Player, slot).hasSecondFlip())
+  if (!controls_.flips || slot < 1 || slot > kHandSize || !HandCard(Seat::Player, slot).hasSecondFlip())
     return;
-  playerHand_.setValue(slot, HandCard(Seat::Player, slot).SecondFlip());
+  side(Seat::Player).hand->setValue(slot, HandCard(Seat::Player, slot).SecondFlip());
   view_.HandChanged(Seat::Player, slot);
   view_.PlaySound("click");
 }
@@ -197,10 +200,14 @@ void MatchEngine::DrawFor(Seat seat) {
 
 CardCode MatchEngine::DrawMainCard() {
   random_.Randomize();
+  // A peer that reports more draws than there are cards must not leave this side without any.
+  const bool empty = std::all_of(mainDeckCount_.begin() + 1, mainDeckCount_.end(),
+                                 [](std::uint8_t drawn) { return drawn >= kCopiesInMainDeck; });
+  if (empty) mainDeckCount_.fill(0);
   int value = 0;
   do {
     value = static_cast<int>(random_.Rnd() * 10) + 1;
-  } while (mainDeckCount_.at(static_cast<std::size_t>(value)) == kCopiesInMainDeck);
+  } while (mainDeckCount_.at(static_cast<std::size_t>(value)) >= kCopiesInMainDeck);
   DeductDrawCard(value);
   return {CardType::MainDeck, value};
 }

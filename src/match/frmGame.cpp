@@ -64,6 +64,7 @@ void frmGame::BuildControls(Layout& layout) {
   ctlTitlebar_ = new ctlTitlebar(this, services_.buttons);
   ctlTitlebar_->ReadProperties(layout.bag(u"ctlTitlebar"));
   layout.Place(u"ctlTitlebar", *ctlTitlebar_);
+  ctlTitlebar_->setButtonFocus(Qt::TabFocus);
   ctlTitlebar_->Quit = [this] { engine_.Forfeit(); };
   ctlBust_ = new ctlBust(this, layout, services_.buttons);
   ctlBust_->Click = [this] { engine_.Continue(); };
@@ -123,7 +124,7 @@ void frmGame::CloseScreen() {
   lifetime_.Close();
   engine_.Close();
   tmrActivate_->setEnabled(false);
-  hand_->setEnabled(false);
+  hand_->setEnabled(false, false);
   services_.effects.StopFade();
   services_.effects.StopCardPulse();
   hide();

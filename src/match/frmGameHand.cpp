@@ -71,12 +71,12 @@ void frmGameHand::ShowCard(int slot, const CardCode& code) {
   footer2_->setVisible(any(shown.second));
 }
 
-void frmGameHand::setEnabled(bool enabled) {
-  if (!enabled) PutBack();
+void frmGameHand::setEnabled(bool cards, bool flips) {
+  if (!cards) PutBack();
   for (const Slot& slot : slots_) {
-    if (slot.card->Enabled() != enabled) slot.card->setEnabled(enabled);
-    slot.first->setEnabled(enabled);
-    slot.second->setEnabled(enabled);
+    if (slot.card->Enabled() != cards) slot.card->setEnabled(cards);
+    slot.first->setEnabled(flips);
+    slot.second->setEnabled(flips);
   }
 }
 

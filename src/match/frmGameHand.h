@@ -31,7 +31,9 @@ class frmGameHand {
   /// Shows the code in its slot and the flip buttons it needs; an empty code hides both.
   void ShowCard(int slot, const CardCode& code);
   /// Cards and flip buttons; disabling ends a drag.
-  void setEnabled(bool enabled);
+  void setEnabled(bool cards, bool flips);
+  /// Ends a drag: the card goes back to its place.
+  void PutBack();
   [[nodiscard]] FlipsShown flips() const;
   /// All flip buttons back to their plain pictures.
   void PlainFlips();
@@ -56,7 +58,6 @@ class frmGameHand {
   void Grab(int slot, QPoint position);
   void Move(int slot, QPoint position);
   void Release(int slot);
-  void PutBack();
 
   const MatchGrid& grid_;
   std::array<Slot, kHandSize> slots_;

@@ -54,7 +54,7 @@ void frmGame::ControlsChanged() {
   cmdForfeit_->setEnabled(controls.forfeit);
   ctlTitlebar_->setEnabled(controls.titlebar);
   if (!controls.hand) services_.effects.StopCardPulse();
-  hand_->setEnabled(controls.hand);
+  hand_->setEnabled(controls.hand, controls.flips);
   opponent_->setHandEnabled(controls.opponentHand);
   player_->setTableEnabled(controls.table[0]);
   opponent_->setTableEnabled(controls.table[1]);
@@ -81,9 +81,10 @@ void frmGame::BannerChanged() {
   ctlButton& button = ctlBust_->cmdBust();
   button.setCaption(QString::fromStdString(banner.caption));
   button.setEnabled(banner.buttonEnabled);
-  if (banner.visible == ctlBust_->isVisible()) return;
+  const bool retold = banner.visible && ctlBust_->accessibleName() != ctlBust_->lblBust().text();
+  ctlBust_->setAccessibleName(ctlBust_->lblBust().text());
+  if (banner.visible != ctlBust_->isHidden() && !retold) return;
   ctlBust_->setVisible(banner.visible);
-  ctlBust_->setAccessibleName(QString::fromStdString(banner.text));
   if (banner.visible) {
     services_.effects.StopCardPulse();
     ctlBust_->raise();
@@ -124,6 +125,8 @@ void frmGame::PlainHighlights() {
 }
 
 bool frmGame::event(QEvent* event) {
+  // A box over the screen swallows the release: what is being dragged goes home first.
+  if (event->type() == QEvent::WindowBlocked) hand_->PutBack();
   if (event->type() == QEvent::KeyPress) {
     // Before the toolkit takes Tab for itself: it may be one of the game's keys.
     const auto& key = static_cast<QKeyEvent&>(*event);
@@ -145,7 +148,7 @@ bool frmGame::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool frmGame::GameKey(const QKeyEvent& event) {
-  if (services_.game.isNetwork() || !services_.player.KeysEn) return false;
+  if (lifetime_.closing() || services_.game.isNetwork() || !services_.player.KeysEn) return false;
   const int code = VirtualKey(event);
   if (!IsBoundKey(keys_, code)) return false;
   if (event.isAutoRepeat()) return true;  // a key held too long must not end the next turn as well

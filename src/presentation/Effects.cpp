@@ -69,6 +69,8 @@ void Effects::FadeStep() {
 void Effects::StartCardPulse(PulsingCard* card) {
   const clsPlayer* player = context_.player();
   if (player == nullptr || player->Interface_Opt == "Slate" || !player->LightPulse_Opt) return;
+  if (pulsingIsWidget_ && !pulsingWidget_)
+    StopCardPulse();  // another card may lie at the address of one that is gone
   if (card == nullptr || card == pulsing_) return;
   StopCardPulse();
   pulsing_ = card;

@@ -1,6 +1,5 @@
 #include "presentation/Pictures.h"
 
-#include <QFile>
 #include <QGuiApplication>
 #include <QImage>
 #include <algorithm>
@@ -17,7 +16,7 @@
 namespace kv {
 namespace {
 
-constexpr qint64 kMaxDataFile = 64 << 20;  // bytes; a larger file is none of ours
+constexpr std::size_t kMaxDataFile = 64U << 20U;  // bytes; a larger file is none of ours
 
 /// Which group of types holds a number: the first, the second, or none.
 struct Band {
@@ -42,17 +41,16 @@ std::string UpperAscii(std::string_view text) {
 
 }  // namespace
 
-/// The open file: mapped, so that only what is looked at takes memory.
+/// The open file, held whole: a file that is cut or replaced while the game runs changes nothing here.
 struct Pictures::DataFile {
-  QFile file;
+  std::string bytes;
   std::optional<ModuleImage> image;
 
   bool Open(const std::string& path) {
-    file.setFileName(QString::fromStdString(ResolvePath(path)));
-    if (!file.open(QIODevice::ReadOnly) || file.size() <= 0 || file.size() > kMaxDataFile) return false;
-    const uchar* bytes = file.map(0, file.size());
-    if (bytes == nullptr) return false;
-    image = ModuleImage::Read(std::as_bytes(std::span(bytes, static_cast<std::size_t>(file.size())))).image;
+    std::optional<std::string> read = ReadWhole(path, kMaxDataFile).bytes;
+    if (!read) return false;
+    bytes = std::move(*read);
+    image = ModuleImage::Read(std::as_bytes(std::span(bytes))).image;
     return image.has_value();
   }
 };

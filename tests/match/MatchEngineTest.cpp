@@ -98,6 +98,23 @@ TEST(Turn, WhoStoodTakesNoMoreTurns) {
   EXPECT_EQ(table.engine->banner().text, "The opponent wins the set.");
 }
 
+TEST(Turn, FlipsStayUsableUntilAForfeit) {
+  MatchTable table({.hand = {"ps3", "fp2", "s51"}, .draws = {7, 5, 2}});
+  table.engine->Activate();
+  table.engine->FirstFlip(2);
+  EXPECT_EQ(table.engine->HandCard(Seat::Player, 2).text(), "fp2") << "not before the first turn";
+  table.Run();
+  table.Play(1);
+  table.engine->FirstFlip(2);
+  table.engine->SecondFlip(3);
+  EXPECT_EQ(table.engine->HandCard(Seat::Player, 2).text(), "fm2");
+  EXPECT_EQ(table.engine->HandCard(Seat::Player, 3).text(), "s52");
+  EXPECT_EQ(table.game.SideDeck->Value(2).text(), "fp2") << "the dealt hand keeps its codes";
+  table.engine->Forfeit();
+  table.engine->FirstFlip(2);
+  EXPECT_EQ(table.engine->HandCard(Seat::Player, 2).text(), "fm2");
+}
+
 TEST(SpecialCards, DoubleAndInvertersLand) {
   MatchTable table({.hand = {"s299", "s399"}, .draws = {7, 1, 1}});
   table.Start();
@@ -368,6 +385,16 @@ TEST(MainDeck, HoldsFourOfEachValue) {
   EXPECT_EQ(table.Cards(Seat::Player), "no8");
   EXPECT_THROW(table.engine->DeductDrawCard(0), std::out_of_range);
   EXPECT_THROW(table.engine->DeductDrawCard(11), std::out_of_range);
+}
+
+TEST(MainDeck, ReportedDrawsWithoutEndDoNotStopTheNext) {
+  MatchTable table({.draws = {8}});
+  table.engine->Activate();
+  for (int value = 1; value <= 10; ++value) {
+    for (int i = 0; i < 5; ++i) table.engine->DeductDrawCard(value);
+  }
+  table.Run();
+  EXPECT_EQ(table.Cards(Seat::Player), "no8");
 }
 
 TEST(Network, MovesAreHandedToThePeer) {
