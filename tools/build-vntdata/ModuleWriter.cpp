@@ -13,7 +13,7 @@ constexpr std::size_t kSectionTable = kOptionalHeader + 224;
 constexpr std::uint32_t kHighBit = 0x80000000U;
 constexpr std::uint32_t kLanguage = 0x409;
 constexpr std::size_t kAlignment = 8;
-// What the stub says when the file is started by mistake; "$" ends the text.
+// What the part for MS-DOS says when the file is started by mistake; "$" ends the text.
 constexpr std::string_view kStubText = "This file holds pictures.\r\n$";
 constexpr std::uint8_t kStubCode[] = {0x0e, 0x1f, 0xba, 0x0e, 0x00, 0xb4, 0x09,
                                       0xcd, 0x21, 0xb8, 0x01, 0x4c, 0xcd, 0x21};
