@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QMouseEvent>
 
 #include "match/MatchScreenTest.h"
 #include "match/frmGame.h"
@@ -127,6 +128,27 @@ TEST_P(frmGameTest, EndingTheTurnInTheMiddleOfADrag) {
   match.Settle();
   EXPECT_TRUE(card.isVisible());
   EXPECT_TRUE(card.Enabled());
+}
+
+TEST_P(frmGameTest, ABoxInTheMiddleOfADragSendsTheCardHome) {
+  MatchScreenSetup setup = Setup();
+  setup.draws = {4};
+  MatchScreen match(setup);
+  match.Begin();
+  ScreenHand hand(*match.screen);
+  ctlCard& card = match.screen->hand().ctlYourDeck(1);
+  const QPoint home = card.pos();
+  hand.Press(hand.CentreOf(card) - QPoint(0, card.height() / 2 - 2));
+  hand.MoveTo({300, 200});
+  // A modal box blocks the window and swallows the release of the button.
+  QEvent blocked(QEvent::WindowBlocked);
+  QCoreApplication::sendEvent(match.screen.get(), &blocked);
+  EXPECT_EQ(card.pos(), home);
+  QMouseEvent hover(QEvent::MouseMove, QPointF(10, 10), QPointF(10, 10), Qt::NoButton, Qt::NoButton, {});
+  QCoreApplication::sendEvent(&card, &hover);
+  EXPECT_EQ(card.pos(), home) << "the card does not stick to the pointer";
+  hand.Release({300, 200});
+  EXPECT_EQ(match.engine().Table(Seat::Player).size(), 1u);
 }
 
 TEST_P(frmGameTest, FlipButtons) {
