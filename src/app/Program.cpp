@@ -57,7 +57,7 @@ void Program::Start() {
   buttons_.setPlayer(&player_);
   globals_.look.interfaceStyle = player_.Interface_Opt;
   StartRun();
-  OpenMatch();
+  OpenMatch(std::optional<QPoint>());
   tmrSounds_->setEnabled(true);
 }
 
@@ -94,17 +94,22 @@ void Program::SettleStake() {
   game_->CreditsRef->Value -= kArcadeStake;
 }
 
-void Program::OpenMatch(std::optional<QPoint> position) {
+void Program::OpenMatch(std::optional<QPoint> centre) {
   if (game_->CreditsRef->Value < kArcadeStake) StartRun();
   SettleStake();
   DealYourHand(*game_, services_.random);
   SetupCompHand(*game_, services_.random);
-  match_ = std::make_unique<frmGame>(frmGameServices{services_.scheduler, services_.dialogs, services_.random,
-                                                     buttons_, globals_.effects, globals_.look,
-                                                     [this](int number) { return pictures_.getPic(number); },
-                                                     player_, *game_, noNetwork_, *booking_, *this});
-  if (position) match_->move(*position);
-  match_->show();
+  const ScreenServices screen{services_.scheduler,
+                              services_.dialogs,
+                              services_.random,
+                              buttons_,
+                              globals_.effects,
+                              globals_.look,
+                              [this](int number) { return pictures_.getPic(number); },
+                              portraits_,
+                              *this};
+  match_ = std::make_unique<frmGame>(frmGameServices{screen, player_, *game_, noNetwork_, *booking_});
+  match_->Open(centre);
 }
 
 void Program::CloseMatch() {
@@ -115,9 +120,9 @@ void Program::CloseMatch() {
 }
 
 void Program::LeaveMatch() {
-  const QPoint position = match_->pos();
+  const QPoint centre = match_->Centre();
   CloseMatch();
-  OpenMatch(position);
+  OpenMatch(centre);
 }
 
 void Program::EndProgram() {

@@ -11,10 +11,10 @@
 
 #include "app/frmGlobals.h"
 #include "match/ArcadeBooking.h"
-#include "match/Navigator.h"
 #include "match/clsGame.h"
 #include "match/frmGame.h"
 #include "platform/SoundDevice.h"
+#include "presentation/Navigator.h"
 #include "presentation/Pictures.h"
 #include "presentation/Portraits.h"
 #include "presentation/Sounds.h"
@@ -45,8 +45,22 @@ class Program final : public Navigator {
   /// Loads the player and opens the first screen.
   void Start();
 
+  // Only the match screen exists yet: whatever is asked for, a match follows.
+  void OpenSplash() override {}
+  void PlayerLoaded(std::unique_ptr<clsPlayer>) override {}
+  void OpenMenu() override {}
+  void OpenOptions() override {}
+  void OpenCampaign() override {}
+  void OpenCards() override {}
+  void OpenLobby() override {}
+  void OpenMatch() override { OpenMatch(std::optional<QPoint>()); }
+  void OpenPortraits(PortraitCaller&) override {}
+  void ClosePortraits() override {}
+  void NewGame(std::string_view) override { StartRun(); }
   void LeaveMatch() override;
+  void ReloadCards() override {}
   void EndProgram() override;
+  void EndProgramSoon() override { EndProgram(); }
 
   [[nodiscard]] clsPlayer& player() { return player_; }
   [[nodiscard]] clsGame& game() { return *game_; }
@@ -60,7 +74,7 @@ class Program final : public Navigator {
   void StartRun();
   void SettleStake();
   /// At a place of the desktop, or where the window system puts it.
-  void OpenMatch(std::optional<QPoint> position = {});
+  void OpenMatch(std::optional<QPoint> centre);
   void CloseMatch();
 
   ProgramServices services_;

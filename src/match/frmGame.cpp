@@ -1,10 +1,5 @@
 #include "match/frmGame.h"
 
-#include <QCloseEvent>
-#include <QPainter>
-
-#include "presentation/RoundWindow.h"
-
 namespace kv {
 namespace {
 
@@ -13,29 +8,21 @@ constexpr int kGameInterval = 50;
 constexpr int kAutoDialogsInterval = 800;
 constexpr int kNetWaitInterval = 50;
 
-constexpr int kBackground[] = {105, 107};  // by StyleIndex
-
 }  // namespace
 
 frmGame::frmGame(const frmGameServices& services)
-    : services_(services),
+    : Screen(services, "frmGame", services.player.Interface_Opt),
+      services_(services),
       styleIndex_(services.player.Interface_Opt == "Ember" ? 1 : 0),
       engine_(services.game, MatchOptionsOf(services.player), *this, services.network, services.booking,
-              services.dialogs, services.random),
-      background_(services.getPic(kBackground[styleIndex_])) {
-  setObjectName(QStringLiteral("frmGame"));
-  setMouseTracking(true);
-  setFocusPolicy(Qt::StrongFocus);
-  Layout layout("frmGame", services.player.Interface_Opt);
-  setFixedSize(layout.size());
+              services.dialogs, services.random) {
   BuildTimers();
-  BuildControls(layout);
+  BuildControls();
   ConnectHand();
   for (int slot = 1; slot <= kHandSize; ++slot) {
     for (const Seat seat : {Seat::Player, Seat::Opponent}) HandChanged(seat, slot);
   }
   ControlsChanged();
-  RoundWindow(*this, kScreenCorners);
 }
 
 frmGame::~frmGame() {
@@ -43,30 +30,23 @@ frmGame::~frmGame() {
 }
 
 void frmGame::BuildTimers() {
-  tmrActivate_ = services_.scheduler.NewTimer(1, [this] {
-    tmrActivate_->setEnabled(false);
-    Activate();
-  });
-  tmrGame_ = services_.scheduler.NewTimer(kGameInterval, [this] { engine_.GameTick(); });
-  tmrAutoDialogs_ = services_.scheduler.NewTimer(kAutoDialogsInterval, [this] { engine_.AutoDialogsTick(); });
-  tmrNetWait_ = services_.scheduler.NewTimer(kNetWaitInterval, [this] { engine_.NetWaitTick(); });
+  tmrGame_ = NewTimer(kGameInterval, [this] { engine_.GameTick(); });
+  tmrAutoDialogs_ = NewTimer(kAutoDialogsInterval, [this] { engine_.AutoDialogsTick(); });
+  tmrNetWait_ = NewTimer(kNetWaitInterval, [this] { engine_.NetWaitTick(); });
 }
 
-void frmGame::BuildControls(Layout& layout) {
+void frmGame::BuildControls() {
   const MatchGrid& grid = kMatchGrids.at(static_cast<std::size_t>(styleIndex_));
-  player_ = std::make_unique<frmGameSide>(Seat::Player, *this, layout, services_, grid);
-  opponent_ = std::make_unique<frmGameSide>(Seat::Opponent, *this, layout, services_, grid);
-  lblWager_ = layout.NewLabel(u"lblWager", this);
-  hand_ = std::make_unique<frmGameHand>(*this, layout, services_.look, grid);
-  cmdTurn_ = NewButton(u"cmdTurn", layout, [this] { engine_.EndTurn(); });
-  cmdStand_ = NewButton(u"cmdStand", layout, [this] { engine_.Stand(); });
-  cmdForfeit_ = NewButton(u"cmdForfeit", layout, [this] { engine_.Forfeit(); });
-  ctlTitlebar_ = new ctlTitlebar(this, services_.buttons);
-  ctlTitlebar_->ReadProperties(layout.bag(u"ctlTitlebar"));
-  layout.Place(u"ctlTitlebar", *ctlTitlebar_);
-  ctlTitlebar_->setButtonFocus(Qt::TabFocus);
+  player_ = std::make_unique<frmGameSide>(Seat::Player, *this, layout(), services_, grid);
+  opponent_ = std::make_unique<frmGameSide>(Seat::Opponent, *this, layout(), services_, grid);
+  lblWager_ = layout().NewLabel(u"lblWager", this);
+  hand_ = std::make_unique<frmGameHand>(*this, layout(), services_.look, grid);
+  cmdTurn_ = NewMatchButton(u"cmdTurn", [this] { engine_.EndTurn(); });
+  cmdStand_ = NewMatchButton(u"cmdStand", [this] { engine_.Stand(); });
+  cmdForfeit_ = NewMatchButton(u"cmdForfeit", [this] { engine_.Forfeit(); });
+  ctlTitlebar_ = NewTitlebar();
   ctlTitlebar_->Quit = [this] { engine_.Forfeit(); };
-  ctlBust_ = new ctlBust(this, layout, services_.buttons);
+  ctlBust_ = new ctlBust(this, layout(), services_.buttons);
   ctlBust_->Click = [this] { engine_.Continue(); };
   ctlBust_->hide();
   ctlBust_->cmdBust().installEventFilter(this);
@@ -77,11 +57,8 @@ void frmGame::BuildControls(Layout& layout) {
   }
 }
 
-ctlButton* frmGame::NewButton(QStringView control, Layout& layout, std::function<void()> click) {
-  auto* button = new ctlButton(this, services_.buttons);
-  button->ReadProperties(layout.bag(control));
-  layout.Place(control, *button);
-  button->Click = std::move(click);
+ctlButton* frmGame::NewMatchButton(QStringView control, std::function<void()> click) {
+  ctlButton* button = NewButton(control, std::move(click));
   button->installEventFilter(this);
   return button;
 }
@@ -101,15 +78,7 @@ void frmGame::ConnectHand() {
   }
 }
 
-void frmGame::showEvent(QShowEvent* event) {
-  QWidget::showEvent(event);
-  if (activated_ || lifetime_.closing()) return;
-  activated_ = true;
-  setFocus();
-  tmrActivate_->setEnabled(true);
-}
-
-void frmGame::Activate() {
+void frmGame::Shown() {
   keys_.CopyArray(*services_.player.Keys);
   const QString title = QString::fromStdString(engine_.Title());
   ctlTitlebar_->setCaption(title);
@@ -119,44 +88,23 @@ void frmGame::Activate() {
   engine_.Activate();
 }
 
-void frmGame::CloseScreen() {
-  if (lifetime_.closing()) return;
-  lifetime_.Close();
+void frmGame::Closing() {
   engine_.Close();
-  tmrActivate_->setEnabled(false);
   hand_->setEnabled(false, false);
-  services_.effects.StopFade();
-  services_.effects.StopCardPulse();
-  hide();
 }
 
 void frmGame::LeaveProgram() {
-  if (lifetime_.closing()) return;
+  if (closing()) return;
   if (services_.game.Wager != -1) {
     engine_.Forfeit();
-    if (lifetime_.closing() || !engine_.Stopped()) return;
+    if (closing() || !engine_.Stopped()) return;
   }
   services_.navigator.EndProgram();
-}
-
-void frmGame::closeEvent(QCloseEvent* event) {
-  event->ignore();
-  LeaveProgram();
 }
 
 void frmGame::Leave() {
   CloseScreen();
   services_.navigator.LeaveMatch();
-}
-
-void frmGame::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  if (background_.empty()) {
-    painter.fillRect(rect(), Qt::black);
-  } else {
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(rect(), *background_.image());
-  }
 }
 
 }  // namespace kv

@@ -2,7 +2,6 @@
 // about the rules, and whatever it has started (timers, pauses, fades, a drag) ends when it closes.
 #pragma once
 
-#include <QWidget>
 #include <memory>
 
 #include "match/MatchEngine.h"
@@ -10,22 +9,20 @@
 #include "match/frmGameHand.h"
 #include "match/frmGameServices.h"
 #include "match/frmGameSide.h"
-#include "presentation/ctlTitlebar.h"
+#include "presentation/Screen.h"
 
 namespace kv {
 
-class frmGame final : public QWidget, private MatchView {
+class frmGame final : public Screen, private MatchView {
  public:
-  /// Opens in the player's interface style. The hands of the match record must be dealt. The match begins
-  /// once the screen is shown.
+  /// In the player's interface style. The hands of the match record must be dealt. The match begins once the
+  /// screen is shown.
   explicit frmGame(const frmGameServices& services);
   ~frmGame() override;
 
-  /// Ends everything the screen has started and hides it. It may be destroyed once no pause is under way.
-  void CloseScreen();
   /// Leaving the program (Escape, or the window system's close): a match that is not booked yet must be
   /// given up first.
-  void LeaveProgram();
+  void LeaveProgram() override;
 
   [[nodiscard]] MatchEngine& engine() { return engine_; }
   [[nodiscard]] int StyleIndex() const { return styleIndex_; }
@@ -41,10 +38,9 @@ class frmGame final : public QWidget, private MatchView {
  protected:
   bool event(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
-  void paintEvent(QPaintEvent* event) override;
-  void showEvent(QShowEvent* event) override;
-  void closeEvent(QCloseEvent* event) override;
-  void mouseMoveEvent(QMouseEvent* event) override;
+  void Shown() override;
+  void Closing() override;
+  void PlainHighlights() override;
 
  private:
   // What the engine says
@@ -60,11 +56,9 @@ class frmGame final : public QWidget, private MatchView {
   void Leave() override;
 
   void BuildTimers();
-  void BuildControls(Layout& layout);
+  void BuildControls();
   void ConnectHand();
-  ctlButton* NewButton(QStringView control, Layout& layout, std::function<void()> click);
-  void Activate();
-  void PlainHighlights();
+  ctlButton* NewMatchButton(QStringView control, std::function<void()> click);
   /// True when the key was one of the player's game keys; nothing else is done with it then.
   bool GameKey(const QKeyEvent& event);
   /// The keys by which everything is reached without a mouse: arrows, and Escape to leave.
@@ -73,10 +67,7 @@ class frmGame final : public QWidget, private MatchView {
   frmGameServices services_;
   const int styleIndex_;
   MatchEngine engine_;
-  Lifetime lifetime_;
   clsCardArray keys_;  // the player's, as they were when the screen was activated
-  Picture background_;
-  std::unique_ptr<Timer> tmrActivate_;  // one tick after the screen is shown
   std::unique_ptr<Timer> tmrGame_;
   std::unique_ptr<Timer> tmrAutoDialogs_;
   std::unique_ptr<Timer> tmrNetWait_;
@@ -89,7 +80,6 @@ class frmGame final : public QWidget, private MatchView {
   ctlTitlebar* ctlTitlebar_ = nullptr;
   ctlBust* ctlBust_ = nullptr;
   QLabel* lblWager_ = nullptr;
-  bool activated_ = false;
 };
 
 }  // namespace kv

@@ -108,20 +108,14 @@ void frmGame::PlaySound(std::string_view effect) {
 }
 
 bool frmGame::Pause(int milliseconds) {
-  return services_.scheduler.Pause(milliseconds, lifetime_);
+  return Screen::Pause(milliseconds);
 }
 
 // --- What the person does --------------------------------------------------------------------------------
 
-void frmGame::mouseMoveEvent(QMouseEvent*) {
-  PlainHighlights();
-}
-
 void frmGame::PlainHighlights() {
   hand_->PlainFlips();
-  services_.buttons.unColor();
-  ctlTitlebar_->unColorQuit();
-  services_.effects.StopCardPulse();
+  Screen::PlainHighlights();
 }
 
 bool frmGame::event(QEvent* event) {
@@ -148,7 +142,7 @@ bool frmGame::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool frmGame::GameKey(const QKeyEvent& event) {
-  if (lifetime_.closing() || services_.game.isNetwork() || !services_.player.KeysEn) return false;
+  if (closing() || services_.game.isNetwork() || !services_.player.KeysEn) return false;
   const int code = VirtualKey(event);
   if (!IsBoundKey(keys_, code)) return false;
   if (event.isAutoRepeat()) return true;  // a key held too long must not end the next turn as well

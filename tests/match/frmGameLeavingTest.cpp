@@ -40,7 +40,7 @@ TEST_P(frmGameLeavingTest, ForfeitAsksFirst) {
   match.Settle();
   // After the match the title bar's close is the banner's button.
   hand.Click(match.screen->titlebar().cmdQuit());
-  EXPECT_EQ(match.left, 1);
+  EXPECT_EQ(match.recorded.Count("LeaveMatch"), 1);
   EXPECT_FALSE(match.screen->isVisible());
   EXPECT_EQ(match.bookings, 1);
 }
@@ -52,10 +52,10 @@ TEST_P(frmGameLeavingTest, LeavingTheProgramGivesUpTheMatchOnce) {
   match.Begin();
   match.dialogs.answers = {false, true};
   match.screen->close();
-  EXPECT_EQ(match.ended, 0);
+  EXPECT_EQ(match.recorded.Count("EndProgram"), 0);
   EXPECT_TRUE(match.screen->isVisible());
   ScreenHand(*match.screen).Key(Qt::Key_Escape);
-  EXPECT_EQ(match.ended, 1);
+  EXPECT_EQ(match.recorded.Count("EndProgram"), 1);
   EXPECT_EQ(match.bookings, 1);
 }
 

@@ -6,22 +6,13 @@
 // Pictures come from the folder in KV_ASSETS; without it every picture is empty.
 #pragma once
 
-#include <QCoreApplication>
-#include <cstdlib>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include "app/frmGlobals.h"
 #include "match/frmGame.h"
-#include "presentation/PictureSizes.h"
-#include "presentation/Pictures.h"
-#include "presentation/Sounds.h"
-#include "support/HandScheduler.h"
 #include "support/MatchTable.h"
-#include "support/RecordingSound.h"
-#include "support/ScriptedDialogs.h"
-#include "support/ScriptedRandom.h"
+#include "support/ScreenStage.h"
 
 namespace kv::test {
 
@@ -35,69 +26,32 @@ struct MatchScreenSetup {
   double pixelRatio = 1;
 };
 
-class MatchScreen final : public Navigator, public MatchBooking, public MatchNetwork {
+class MatchScreen final : public ScreenStage, public MatchBooking, public MatchNetwork {
  public:
-  explicit MatchScreen(const MatchScreenSetup& setup)
-      : sounds(sound),
-        buttons(sounds),
-        globals(scheduler, buttons),
-        player(dialogs, padding),
-        pictures(setup.pixelRatio) {
-    player.Name = "Player";
-    player.Interface_Opt = setup.style;
+  explicit MatchScreen(const MatchScreenSetup& setup) : ScreenStage(setup.style, setup.pixelRatio) {
     player.TurnMode_Opt = 1;
     player.KeysEn = true;
     if (setup.options) setup.options(player);
-    buttons.setPlayer(&player);
-    sounds.setPlayer(&player);
-    sounds.InitEffects("");
-    if (const char* assets = std::getenv("KV_ASSETS")) {
-      static_cast<void>(pictures.OpenDataFile(std::string(assets) + "/" + kDataFileName));
-    }
-    globals.look.faces.LoadCardPictures([this](int number) { return pictures.getPic(number); });
-    globals.look.interfaceStyle = setup.style;
     for (const int draw : setup.draws) random.Add((draw - 0.5) / 10);
     DealGame(setup);
-    screen = std::make_unique<frmGame>(frmGameServices{
-        scheduler, dialogs, random, buttons, globals.effects, globals.look,
-        [this](int number) { return pictures.getPic(number); }, player, game, *this, *this, *this});
+    screen = std::make_unique<frmGame>(frmGameServices{services(), player, game, *this, *this});
   }
 
   /// Shows the screen and lets the match run until nothing moves: the player is to act.
   void Begin() {
-    screen->show();
+    screen->Open();
     Settle();
-  }
-  /// Lets the events be handled and three seconds pass, longer than anything in a match takes by itself.
-  void Settle() {
-    QCoreApplication::processEvents();
-    scheduler.Advance(3000);
-    QCoreApplication::processEvents();
   }
   [[nodiscard]] MatchEngine& engine() { return screen->engine(); }
 
-  void LeaveMatch() override { ++left; }
-  void EndProgram() override { ++ended; }
   void SaveWin() override { Book(); }
   void SaveLoss() override { Book(); }
   void NetSend(const std::string& message) override { sent.push_back(message); }
 
-  HandScheduler scheduler;
-  ScriptedDialogs dialogs;
-  ScriptedRandom random{};
-  RecordingSound sound;
-  Sounds sounds;
-  ButtonContext buttons;
-  frmGlobals globals;
-  SeededRandom padding{1};
-  clsPlayer player;
-  Pictures pictures;
   clsGame game;
   ScriptedStrategy strategy;
   std::unique_ptr<frmGame> screen;
   std::vector<std::string> sent;
-  int left = 0;
-  int ended = 0;
   int bookings = 0;
 
  private:

@@ -42,7 +42,7 @@ void Gallery::Save(QWidget& screen, const std::string& name) {
 
 void Gallery::MatchStart() {
   test::MatchScreen match(Setup({7}));
-  match.screen->show();
+  match.screen->Open();
   match.scheduler.Advance(20);
   Save(*match.screen, "match-start");
 }

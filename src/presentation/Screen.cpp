@@ -1,0 +1,110 @@
+#include "presentation/Screen.h"
+
+#include <QCloseEvent>
+#include <QPainter>
+
+#include "presentation/RoundWindow.h"
+
+namespace kv {
+
+Screen::Screen(const ScreenServices& services, std::string_view name, std::string_view style)
+    : screenServices_(services), layout_(name, style), tmrShown_(services.scheduler.NewTimer(1, [this] {
+        tmrShown_->setEnabled(false);
+        Shown();
+      })) {
+  setObjectName(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+  setMouseTracking(true);
+  setFocusPolicy(Qt::StrongFocus);
+  setFixedSize(layout_.size());
+  LoadBackground();
+  const PropertyBag window = layout_.has(u"window") ? layout_.bag(u"window") : PropertyBag();
+  RoundWindow(*this, window.number(u"corners", kScreenCorners));
+}
+
+Screen::~Screen() {
+  // What the screen itself has to stop was stopped by CloseScreen; only the base is left here.
+  lifetime_.Close();
+}
+
+void Screen::LoadBackground() {
+  if (!layout_.has(u"window")) return;
+  const PropertyBag window = layout_.bag(u"window");
+  background_ = services().getPic(window.number(u"picture"));
+  if (background_.empty() || !window.has(u"tint")) return;
+  QImage image = background_.image()->convertToFormat(QImage::Format_RGB32);
+  QColor tint = window.colour(u"tint");
+  QPainter painter(&image);
+  // Keeps the light and the shadows of the picture and gives it another hue.
+  painter.setCompositionMode(QPainter::CompositionMode_Overlay);
+  tint.setAlpha(window.number(u"tint_strength", 255));
+  painter.fillRect(image.rect(), tint);
+  painter.end();
+  background_ = Picture(std::make_shared<const QImage>(std::move(image)));
+}
+
+void Screen::Open(std::optional<QPoint> centre) {
+  if (closing()) return;
+  if (centre) move(*centre - rect().center());
+  Activate();
+  if (closing()) return;
+  show();
+  setFocus();
+  tmrShown_->setEnabled(true);
+}
+
+void Screen::CloseScreen() {
+  if (closing()) return;
+  lifetime_.Close();
+  tmrShown_->setEnabled(false);
+  Closing();
+  services().effects.StopEffects();
+  hide();
+}
+
+void Screen::PlainHighlights() {
+  services().buttons.unColor();
+  if (titlebar_ != nullptr) titlebar_->unColorQuit();
+  services().effects.StopCardPulse();
+}
+
+ctlButton* Screen::NewButton(QStringView control, std::function<void()> click) {
+  auto* button = new ctlButton(this, services().buttons);
+  button->ReadProperties(layout_.bag(control));
+  layout_.Place(control, *button);
+  button->Click = std::move(click);
+  return button;
+}
+
+ctlTitlebar* Screen::NewTitlebar() {
+  titlebar_ = new ctlTitlebar(this, services().buttons);
+  titlebar_->ReadProperties(layout_.bag(u"ctlTitlebar"));
+  layout_.Place(u"ctlTitlebar", *titlebar_);
+  titlebar_->setButtonFocus(Qt::TabFocus);
+  setWindowTitle(titlebar_->Caption());
+  return titlebar_;
+}
+
+std::unique_ptr<Timer> Screen::NewTimer(int milliseconds, std::function<void()> tick) const {
+  return services().scheduler.NewTimer(milliseconds, std::move(tick));
+}
+
+void Screen::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  if (background_.empty()) {
+    painter.fillRect(rect(), Qt::black);
+  } else {
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(rect(), *background_.image());
+  }
+}
+
+void Screen::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  if (!closing()) LeaveProgram();
+}
+
+void Screen::mouseMoveEvent(QMouseEvent*) {
+  PlainHighlights();
+}
+
+}  // namespace kv
