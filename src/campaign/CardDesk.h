@@ -1,0 +1,114 @@
+// The card screen without its window: working copies of credits, side deck and collection, on which the deck
+// is edited and the shop trades until Continue stores them. Whatever is not stored is as if it had not been.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "campaign/Shop.h"
+#include "cards/clsNumbers.h"
+
+namespace kv {
+
+class Random;
+class clsGame;
+class clsPlayer;
+struct NetworkStake;
+
+enum class CardView : std::uint8_t { Null, Deck, Buy, Sell };
+
+/// One card of the collection banks; its badge shows `count`.
+struct BankCard {
+  CardCode code;
+  std::int16_t count = 0;
+  bool visible = false;
+  bool enabled = false;
+};
+
+/// The buttons of the lower panel: whether deck, buy and sell are shown, and which buttons are enabled.
+struct DeskButtons {
+  bool shown = false;
+  bool deck = false;
+  bool buy = false;
+  bool sell = false;
+  bool next = false;  // Continue
+};
+
+struct TradeArea {
+  bool shown = false;
+  std::string_view amountHeader;  // "# Owned:" or "# Left:"
+  std::string_view priceHeader;   // "Cost:" or "Value:"
+  std::string_view caption;       // "buy" or "sell"
+  CardCode card;                  // empty while none is picked: then the button is disabled
+  std::string price = "?";
+  std::string amount = "?";
+};
+
+enum class BankClick : std::uint8_t { Ignored, Added, Picked };
+
+class CardDesk {
+ public:
+  /// Opens the desk: no stake is open any more (in "Network_Arcade" one of 0 is), and the record's references
+  /// become working copies. All three must outlive it.
+  CardDesk(clsGame& game, clsPlayer& player, NetworkStake& networkStake);
+
+  /// The stake was settled: the deck view opens.
+  void StakeSettled();
+  /// Switches the lower panel; nothing is picked afterwards.
+  void YourDeck(CardView view);
+  /// A click on a collection card: adds it to the deck, or picks it for the shop.
+  BankClick ClickBank(const CardPlace& place);
+  /// A click on a deck slot, 1 to 10: its card goes back to the collection. False when nothing happened.
+  bool RemoveCard(int slot);
+  /// Carries out the deal with the picked card. False when nothing was traded.
+  bool Trade();
+  /// Continue: the working copies go back to where the mode keeps them. Does not save the file. Nothing can
+  /// be changed on the desk afterwards.
+  void Store();
+  /// Whether the title bar leaves without asking: no match is at stake.
+  [[nodiscard]] bool LeavesFreely() const;
+
+  [[nodiscard]] std::string_view Title() const;
+  /// "ok" when only the deck is looked at; otherwise empty: the button keeps its caption.
+  [[nodiscard]] std::string_view ContinueCaption() const;
+  [[nodiscard]] CardView view() const { return view_; }
+  [[nodiscard]] std::int32_t Credits() const { return credits_->Value; }
+  [[nodiscard]] BankCard Bank(const CardPlace& place) const;
+  /// The card in a slot, 1 to 10; empty for none.
+  [[nodiscard]] const CardCode& Slot(int slot) const { return deck_->Value(slot); }
+  [[nodiscard]] int DeckCount() const;  // 0 to 10
+  [[nodiscard]] DeskButtons Buttons() const;
+  [[nodiscard]] TradeArea Shop() const;
+
+ private:
+  enum class BankState : std::uint8_t { Hidden, Disabled, Enabled };
+
+  void TakeOutDeck();
+  void RefreshBanks();
+  void RefreshBank(const CardPlace& place);
+  [[nodiscard]] BankState StateInView(const CardPlace& place) const;
+  [[nodiscard]] BankState& State(const CardPlace& place);
+  [[nodiscard]] bool InDeck(const CardPlace& place) const;
+  BankClick AddCard(const CardPlace& place);
+  void ChangeCount(const CardPlace& place, int change);
+
+  clsGame& game_;
+  clsPlayer& player_;
+  NetworkStake& networkStake_;
+  std::shared_ptr<clsLong> credits_;
+  std::shared_ptr<clsDeckArray> deck_;
+  std::shared_ptr<clsCardArray> cards_;
+  std::array<std::array<BankState, kCardNumbers>, kCardKinds> banks_{};
+  CardPlace picked_;
+  CardView view_ = CardView::Null;
+  bool stored_ = false;
+};
+
+/// Deals both hands of the match that Continue begins. In "Campaign", CampaignWinRef becomes the player's
+/// counter against the opponent.
+void DealMatch(clsGame& game, clsPlayer& player, Random& random);
+
+}  // namespace kv
