@@ -1,0 +1,65 @@
+// The key frame of the options screen: one button for each key binding. It holds the bindings until they are
+// written somewhere; catching the pressed key is the screen's business.
+#pragma once
+
+#include <QWidget>
+#include <array>
+#include <cstdint>
+#include <functional>
+
+#include "cards/clsCardArray.h"
+#include "presentation/ButtonContext.h"
+#include "presentation/Layout.h"
+#include "presentation/ctlButton.h"
+
+class QLabel;
+
+namespace kv {
+
+inline constexpr int kKeyButtons = 14;
+inline constexpr std::int16_t kNoKey = -1;
+
+class frmOptionsKeys final : public QWidget {
+ public:
+  /// All lies in the layout under the names of the key frame's controls. `layout` is used here only,
+  /// `context` must outlive the frame.
+  frmOptionsKeys(QWidget* parent, Layout& layout, ButtonContext& context);
+
+  /// A key button was clicked, and has disabled itself; `index` is 0 to 13.
+  std::function<void(int index)> KeyClick;
+  std::function<void()> DoneClick;
+
+  /// Shows the bindings of a key table, and stores those that are shown.
+  void Read(const clsCardArray& keys);
+  void Write(clsCardArray& keys) const;
+  /// Binds a key (16-bit code; kNoKey for none) to a button. `index` out of 0 to 13 throws std::out_of_range.
+  void Bind(int index, std::int16_t keyCode);
+  [[nodiscard]] std::int16_t KeyOf(int index) const { return tags_.at(static_cast<std::size_t>(index)); }
+  [[nodiscard]] ctlButton& KeyButton(int index) const {
+    return *buttons_.at(static_cast<std::size_t>(index));
+  }
+  [[nodiscard]] ctlButton& cmdKeysDone() const { return *cmdKeysDone_; }
+
+  [[nodiscard]] QString Title() const;
+  void setTitle(const QString& title);
+  /// "Configure Keys".
+  [[nodiscard]] const QString& OwnTitle() const { return ownTitle_; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void NewKeyButton(int index, Layout& layout, ButtonContext& context);
+
+  std::array<std::int16_t, kKeyButtons> tags_{};
+  std::array<ctlButton*, kKeyButtons> buttons_{};  // children
+  ctlButton* cmdKeysDone_ = nullptr;
+  QLabel* title_ = nullptr;
+  QString ownTitle_;
+  QColor scrim_;
+  QRect panel_;
+  QColor fill_;
+  QColor border_;
+};
+
+}  // namespace kv
