@@ -6,7 +6,7 @@
 #include "campaign/WagerEntry.h"
 #include "match/Dealing.h"
 #include "match/clsGame.h"
-#include "profile/clsPlayer.h"
+#include "profile/PlayerFields.h"
 
 namespace kv {
 namespace {
@@ -45,7 +45,7 @@ void ForEachPlace(const Action& action) {
 
 }  // namespace
 
-CardDesk::CardDesk(clsGame& game, clsPlayer& player, NetworkStake& networkStake)
+CardDesk::CardDesk(clsGame& game, PlayerFields& player, NetworkStake& networkStake)
     : game_(game),
       player_(player),
       networkStake_(networkStake),
@@ -240,7 +240,7 @@ TradeArea CardDesk::Shop() const {
   return area;
 }
 
-void DealMatch(clsGame& game, clsPlayer& player, Random& random) {
+void DealMatch(clsGame& game, PlayerFields& player, Random& random) {
   DealYourHand(game, random);
   if (game.Mode == kModeCampaign) game.CampaignWinRef = WinCounter(player, game.OppName);
   SetupCompHand(game, random);

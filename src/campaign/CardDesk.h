@@ -5,9 +5,9 @@
 #include <array>
 #include <cstdint>
 #include <memory>
-#include <string>
 #include <string_view>
 
+#include "campaign/DeskView.h"
 #include "campaign/Shop.h"
 #include "cards/clsNumbers.h"
 
@@ -15,45 +15,14 @@ namespace kv {
 
 class Random;
 class clsGame;
-class clsPlayer;
+struct PlayerFields;
 struct NetworkStake;
-
-enum class CardView : std::uint8_t { Null, Deck, Buy, Sell };
-
-/// One card of the collection banks; its badge shows `count`.
-struct BankCard {
-  CardCode code;
-  std::int16_t count = 0;
-  bool visible = false;
-  bool enabled = false;
-};
-
-/// The buttons of the lower panel: whether deck, buy and sell are shown, and which buttons are enabled.
-struct DeskButtons {
-  bool shown = false;
-  bool deck = false;
-  bool buy = false;
-  bool sell = false;
-  bool next = false;  // Continue
-};
-
-struct TradeArea {
-  bool shown = false;
-  std::string_view amountHeader;  // "# Owned:" or "# Left:"
-  std::string_view priceHeader;   // "Cost:" or "Value:"
-  std::string_view caption;       // "buy" or "sell"
-  CardCode card;                  // empty while none is picked: then the button is disabled
-  std::string price = "?";
-  std::string amount = "?";
-};
-
-enum class BankClick : std::uint8_t { Ignored, Added, Picked };
 
 class CardDesk {
  public:
   /// Opens the desk: no stake is open any more (in "Network_Arcade" one of 0 is), and the record's references
   /// become working copies. All three must outlive it.
-  CardDesk(clsGame& game, clsPlayer& player, NetworkStake& networkStake);
+  CardDesk(clsGame& game, PlayerFields& player, NetworkStake& networkStake);
 
   /// The stake was settled: the deck view opens.
   void StakeSettled();
@@ -96,7 +65,7 @@ class CardDesk {
   void ChangeCount(const CardPlace& place, int change);
 
   clsGame& game_;
-  clsPlayer& player_;
+  PlayerFields& player_;
   NetworkStake& networkStake_;
   std::shared_ptr<clsLong> credits_;
   std::shared_ptr<clsDeckArray> deck_;
@@ -109,6 +78,6 @@ class CardDesk {
 
 /// Deals both hands of the match that Continue begins. In "Campaign", CampaignWinRef becomes the player's
 /// counter against the opponent.
-void DealMatch(clsGame& game, clsPlayer& player, Random& random);
+void DealMatch(clsGame& game, PlayerFields& player, Random& random);
 
 }  // namespace kv

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "match/clsGame.h"
-#include "profile/clsPlayer.h"
+#include "profile/PlayerFields.h"
 
 namespace kv {
 namespace {
@@ -33,7 +33,7 @@ std::shared_ptr<clsInteger> WinCounter(const PlayerFields& player, std::string_v
   return row == kOpponents.end() || row->wins == nullptr ? nullptr : player.*(row->wins);
 }
 
-Circuit::Circuit(clsGame& game, clsPlayer& player) : game_(game), player_(player) {
+Circuit::Circuit(clsGame& game, PlayerFields& player) : game_(game), player_(player) {
   game_.CreditsRef = player_.Credits;
   game_.WinsRef = player_.Wins;
   game_.LossesRef = player_.Losses;

@@ -12,7 +12,6 @@
 namespace kv {
 
 class clsGame;
-class clsPlayer;
 struct PlayerFields;
 
 inline constexpr int kCircuitTiles = 7;
@@ -44,7 +43,7 @@ struct CircuitTile {
 class Circuit {
  public:
   /// Ties the match record to the player's campaign account. Both must outlive the circuit.
-  Circuit(clsGame& game, clsPlayer& player);
+  Circuit(clsGame& game, PlayerFields& player);
 
   /// The tile of an index from 0 to 6.
   [[nodiscard]] CircuitTile Tile(int index) const;
@@ -62,7 +61,7 @@ class Circuit {
 
  private:
   clsGame& game_;
-  clsPlayer& player_;
+  PlayerFields& player_;
 };
 
 }  // namespace kv

@@ -6,19 +6,20 @@
 
 namespace kv {
 
-bool SettleStake(clsGame& game, clsPlayer& player, std::int32_t amount) {
+bool TakeStake(clsGame& game, PlayerFields& player, std::int32_t amount) {
   if (amount < 0 || amount > game.CreditsRef->Value) return false;
   game.Wager = amount;
   game.CreditsRef->Value -= amount;
-  // The credits in the record are still the old ones, for CreditsRef is a working copy: the file gets the
-  // entry that the match is lost, and the stake leaves it when Continue stores the copy.
-  if (game.Mode == kModeNetwork) {
-    Raise(player.Disconnects);
-    player.WritePlayerFile();
-  } else if (game.Mode == kModeCampaign) {
-    Raise(player.Losses->Value);
-    player.WritePlayerFile();
-  }
+  if (game.Mode == kModeNetwork) Raise(player.Disconnects);
+  if (game.Mode == kModeCampaign) Raise(player.Losses->Value);
+  return true;
+}
+
+bool SettleStake(clsGame& game, clsPlayer& player, std::int32_t amount) {
+  if (!TakeStake(game, player, amount)) return false;
+  // The record still holds the old credits, for CreditsRef is a working copy: the file now says that the
+  // match is lost, and the stake leaves it when Continue stores the copy.
+  if (game.Mode == kModeNetwork || game.Mode == kModeCampaign) player.WritePlayerFile();
   return true;
 }
 

@@ -11,9 +11,12 @@ namespace kv {
 
 class clsGame;
 class clsPlayer;
+struct PlayerFields;
 
-/// The stake becomes the open one and leaves CreditsRef; the advance entry is written to the player file.
-/// False, and nothing changed, for an amount that is negative or more than the credits.
+/// The stake becomes the open one and leaves CreditsRef; the advance entry is counted. False, and nothing
+/// changed, for an amount that is negative or more than the credits.
+[[nodiscard]] bool TakeStake(clsGame& game, PlayerFields& player, std::int32_t amount);
+/// The same, and an advance entry is written to the player file before this returns.
 [[nodiscard]] bool SettleStake(clsGame& game, clsPlayer& player, std::int32_t amount);
 
 /// Whether losing this stake would end the campaign: it is all the credits, and no card is left to sell.

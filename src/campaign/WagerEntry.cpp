@@ -7,7 +7,7 @@
 
 #include "campaign/Settlement.h"
 #include "match/clsGame.h"
-#include "profile/clsPlayer.h"
+#include "profile/PlayerFields.h"
 
 namespace kv {
 namespace {
@@ -32,7 +32,7 @@ std::int64_t AmountOf(std::string_view digits) {
   return error == std::errc::result_out_of_range ? std::numeric_limits<std::int64_t>::max() : amount;
 }
 
-WagerEntry::WagerEntry(const clsGame& game, const clsPlayer& player, const NetworkStake& networkStake,
+WagerEntry::WagerEntry(const clsGame& game, const PlayerFields& player, const NetworkStake& networkStake,
                        bool hosting)
     : game_(game), player_(player), networkStake_(networkStake) {
   if (game_.Mode != kModeNetwork) return;

@@ -11,7 +11,7 @@
 namespace kv {
 
 class clsGame;
-class clsPlayer;
+struct PlayerFields;
 
 /// The stake of the previous network match, -1 for none. One for the whole program: the card screen's
 /// Continue sets it, the lobby resets it when it opens.
@@ -19,9 +19,8 @@ struct NetworkStake {
   std::int32_t last = -1;
 };
 
-/// The main button's caption carries the state of the panel.
+/// The state of the panel: "wager", "propose", "(waiting)", "accept" on the main button.
 enum class WagerCaption : std::uint8_t { Wager, Propose, Waiting, Accept };
-/// "wager", "propose", "(waiting)", "accept".
 [[nodiscard]] std::string_view CaptionText(WagerCaption caption);
 
 /// What the amount box shows after a change; the cursor is counted in characters.
@@ -46,7 +45,7 @@ class WagerEntry {
  public:
   /// The panel as the card screen opens it, with an empty box. In "Network" everything is disabled; `hosting`
   /// tells whose turn it is to propose. All three must outlive the entry.
-  WagerEntry(const clsGame& game, const clsPlayer& player, const NetworkStake& networkStake, bool hosting);
+  WagerEntry(const clsGame& game, const PlayerFields& player, const NetworkStake& networkStake, bool hosting);
 
   /// After every change of the box: what must stand in it now. Sets the button and its caption.
   [[nodiscard]] BoxText Change(std::string_view text, int cursor);
@@ -79,7 +78,7 @@ class WagerEntry {
   BoxText Fill(std::int64_t amount);
 
   const clsGame& game_;
-  const clsPlayer& player_;
+  const PlayerFields& player_;
   const NetworkStake& networkStake_;
   std::string text_;  // the last valid content of the box
   WagerCaption caption_ = WagerCaption::Wager;

@@ -20,58 +20,65 @@ constexpr const char* kFinishedText =
 constexpr const char* kArcadeOppTitle = "Kelm Vantri: Arcade Opponent!";
 constexpr const char* kArcadeOppText = "Congratulations! You have unlocked H6-J8 as your Arcade opponent!";
 
+/// Takes the open stake, so that nothing that runs while a box of ours is open can book the match again.
+std::int32_t CloseStake(clsGame& game) {
+  return std::exchange(game.Wager, -1);
+}
+
 void AddCredits(clsLong& credits, std::int64_t gain) {
   credits.Value = static_cast<std::int32_t>(std::min<std::int64_t>(kMostCredits, credits.Value + gain));
 }
 
+void CountCampaignWin(clsGame& game, PlayerFields& player, Dialogs& dialogs) {
+  Lower(game.LossesRef->Value);
+  if (game.CampaignWinRef) {
+    Raise(game.CampaignWinRef->Value);
+    if (game.CampaignWinRef->Value != kWinsToUnlock) game.CampaignWinRef.reset();
+  }
+  // All is in the record before a box opens: whatever saves the player meanwhile saves the whole result.
+  if (game.OppName == kFinalOpponent && player.Orrin_Wins->Value == kWinsToUnlock) {
+    dialogs.Message(kFinishedText, kFinishedTitle, DialogIcon::Information);
+  } else if (game.OppName == kSpecialOpponent && player.H6J8_Wins->Value == kWinsToArcadeOpp) {
+    player.ArcadeOpp_Opt = 1;
+    game.CampaignWinRef = player.H6J8_Wins;
+    dialogs.Message(kArcadeOppText, kArcadeOppTitle, DialogIcon::Information);
+  }
+}
+
 }  // namespace
 
+bool BookWin(clsGame& game, PlayerFields& player, Dialogs& dialogs) {
+  if (game.Wager == -1) return false;
+  const std::int32_t stake = CloseStake(game);
+  Raise(game.WinsRef->Value);
+  AddCredits(*game.CreditsRef, std::int64_t{2} * stake);
+  if (game.Mode == kModeNetwork) {
+    Lower(player.Disconnects);
+    AddCredits(*game.CreditsRef, stake / kBonusDivisor);
+  } else if (game.Mode == kModeCampaign) {
+    CountCampaignWin(game, player, dialogs);
+  }
+  return true;
+}
+
+bool BookLoss(clsGame& game, PlayerFields& player) {
+  if (game.Wager == -1) return false;
+  static_cast<void>(CloseStake(game));
+  if (game.Mode == kModeCampaign) {
+    game.CampaignWinRef.reset();
+  } else if (game.Mode == kModeNetwork) {
+    Lower(player.Disconnects);
+    Raise(game.LossesRef->Value);
+  }
+  return true;
+}
+
 void SaveBooking::SaveWin() {
-  if (game_.Wager == -1) return;
-  const std::int32_t stake = TakeStake();
-  Raise(game_.WinsRef->Value);
-  PayOut(stake);
-  if (game_.Mode == kModeCampaign) CountCampaignWin();
-  player_.WritePlayerFile();
+  if (BookWin(game_, player_, dialogs_)) player_.WritePlayerFile();
 }
 
 void SaveBooking::SaveLoss() {
-  if (game_.Wager == -1) return;
-  static_cast<void>(TakeStake());
-  if (game_.Mode == kModeCampaign) {
-    game_.CampaignWinRef.reset();
-  } else if (game_.Mode == kModeNetwork) {
-    Lower(player_.Disconnects);
-    Raise(game_.LossesRef->Value);
-  }
-  player_.WritePlayerFile();
-}
-
-std::int32_t SaveBooking::TakeStake() {
-  return std::exchange(game_.Wager, -1);
-}
-
-void SaveBooking::PayOut(std::int32_t stake) {
-  AddCredits(*game_.CreditsRef, std::int64_t{2} * stake);
-  if (game_.Mode != kModeNetwork) return;
-  Lower(player_.Disconnects);
-  AddCredits(*game_.CreditsRef, stake / kBonusDivisor);
-}
-
-void SaveBooking::CountCampaignWin() {
-  Lower(game_.LossesRef->Value);
-  if (game_.CampaignWinRef) {
-    Raise(game_.CampaignWinRef->Value);
-    if (game_.CampaignWinRef->Value != kWinsToUnlock) game_.CampaignWinRef.reset();
-  }
-  // All is in the record before a box opens: whatever saves the player meanwhile saves the whole result.
-  if (game_.OppName == kFinalOpponent && player_.Orrin_Wins->Value == kWinsToUnlock) {
-    dialogs_.Message(kFinishedText, kFinishedTitle, DialogIcon::Information);
-  } else if (game_.OppName == kSpecialOpponent && player_.H6J8_Wins->Value == kWinsToArcadeOpp) {
-    player_.ArcadeOpp_Opt = 1;
-    game_.CampaignWinRef = player_.H6J8_Wins;
-    dialogs_.Message(kArcadeOppText, kArcadeOppTitle, DialogIcon::Information);
-  }
+  if (BookLoss(game_, player_)) player_.WritePlayerFile();
 }
 
 }  // namespace kv

@@ -3,8 +3,6 @@
 // never twice.
 #pragma once
 
-#include <cstdint>
-
 #include "match/MatchPartners.h"
 
 namespace kv {
@@ -12,24 +10,24 @@ namespace kv {
 class Dialogs;
 class clsGame;
 class clsPlayer;
+struct PlayerFields;
 
+/// The booking of a won or lost match in memory. Without an open stake (Wager is -1) there is no match to
+/// book: false, and nothing changed. Whichever way a match ends, only the first booking counts.
+[[nodiscard]] bool BookWin(clsGame& game, PlayerFields& player, Dialogs& dialogs);
+[[nodiscard]] bool BookLoss(clsGame& game, PlayerFields& player);
+
+/// The bookings of the running program: in memory and, at once, in the player file.
 class SaveBooking final : public MatchBooking {
  public:
   /// All three must outlive the booking.
   SaveBooking(clsGame& game, clsPlayer& player, Dialogs& dialogs)
       : game_(game), player_(player), dialogs_(dialogs) {}
 
-  /// The local player won, or lost, the match whose stake is open. Without an open stake (Wager is -1) there
-  /// is no match to book and nothing happens: whichever way a match ends, only the first booking counts.
   void SaveWin() override;
   void SaveLoss() override;
 
  private:
-  /// Takes the open stake, so that nothing that runs inside a box of ours can book the match again.
-  [[nodiscard]] std::int32_t TakeStake();
-  void PayOut(std::int32_t stake);
-  void CountCampaignWin();
-
   clsGame& game_;
   clsPlayer& player_;
   Dialogs& dialogs_;
