@@ -10,6 +10,10 @@ void ButtonContext::PlayEffect(std::string_view name) {
   sounds_.PlayEffect(name);
 }
 
+void ButtonContext::PlayEffectOnce(std::string_view name) {
+  sounds_.PlayEffectOnce(name);
+}
+
 void ButtonContext::PlayHover() {
   if (player_ == nullptr || !player_->Mute_Highlight_Opt) PlayEffect("hover");
 }

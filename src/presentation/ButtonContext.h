@@ -24,6 +24,8 @@ class ButtonContext {
   [[nodiscard]] const clsPlayer* player() const { return player_; }
 
   void PlayEffect(std::string_view name);
+  /// Past buffers and mute options: the last sound before the program ends.
+  void PlayEffectOnce(std::string_view name);
   /// "hover", unless the player has muted highlights.
   void PlayHover();
 

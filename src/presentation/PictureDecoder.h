@@ -5,14 +5,29 @@
 #include <QImage>
 #include <QSize>
 #include <cstddef>
+#include <cstdint>
 #include <span>
 
 namespace kv {
 
 inline constexpr int kMaxPictureSide = 4096;  // stored pixels
 
+/// Stored pixels of a picture that has to be decoded whole: 32 bits each, so 16 MB.
+inline constexpr std::int64_t kMaxWholePixels = std::int64_t{4} << 20;
+/// Coefficients of a JPEG that comes in several scans (progressive, mostly) and so has to be held whole: one
+/// for each pixel and colour, 2 bytes each, so 48 MB for 8 million pixels.
+inline constexpr std::int64_t kMaxCoefficients = std::int64_t{24} << 20;
+/// Scans of one JPEG. Real files have about ten; a forged one can have thousands, each as dear as a picture.
+inline constexpr int kMaxScans = 64;
+/// Coefficients times scans: what a JPEG of several scans may cost, about a second at most.
+inline constexpr std::int64_t kMaxScanWork = 12 * kMaxCoefficients;
+
 /// The decoded image in its stored size, or reduced to `limit` when that is smaller and not empty. A null
-/// image for bytes that are broken or ask for more than kMaxPictureSide. No alpha channel unless it is used.
+/// image for bytes that are broken or ask for more than the limits above. No alpha channel unless it is used.
 [[nodiscard]] QImage DecodePicture(std::span<const std::byte> bytes, QSize limit = {});
+
+/// The middle square of the picture, of `side` pixels or, when the picture is smaller, of as many as it has.
+/// Within the same limits, and without a second image of the stored size.
+[[nodiscard]] QImage DecodeSquare(std::span<const std::byte> bytes, int side);
 
 }  // namespace kv

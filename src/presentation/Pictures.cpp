@@ -97,7 +97,7 @@ Picture Pictures::getPic(int number, bool& ok) {
       ok = false;
       return {};
     }
-    known = decoded_.emplace(number, LoadNumbered(number)).first;
+    known = decoded_.emplace(number, LoadReduced(number, LayoutSizeOf(number))).first;
   }
   ok = !known->second.empty();
   return known->second;
@@ -109,7 +109,7 @@ Picture Pictures::getPic(int number) {
 }
 
 /// Walks the group in its order and stops as soon as a greater number is next.
-Picture Pictures::LoadNumbered(int number) const {
+Picture Pictures::LoadReduced(int number, LayoutSize layout) const {
   const auto band = std::ranges::find_if(kBands, [&](const Band& b) { return number <= b.last; });
   if (file_ == nullptr || band == kBands.end() || band->group >= tree_.types.size()) return {};
   const TypeNode& type = tree_.types[band->group];
@@ -119,7 +119,6 @@ Picture Pictures::LoadNumbered(int number) const {
     first = false;
     if (name.number != number) continue;
     if (!IsPictureType(type.text)) return {};
-    const LayoutSize layout = LayoutSizeOf(number);
     const QSize limit = (QSizeF(layout.width, layout.height) * pixelRatio_).toSize();
     QImage image = DecodePicture(file_->image->FindResource(name.text, ResourceTypeText(type.text)), limit);
     if (image.isNull()) return {};

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/Picture.h"
+#include "presentation/PictureSizes.h"
 #include "presentation/ResourceTree.h"
 
 namespace kv {
@@ -31,6 +32,9 @@ class Pictures {
   /// layout size. Each picture is decoded once; asking again returns the same one.
   [[nodiscard]] Picture getPic(int number, bool& ok);
   [[nodiscard]] Picture getPic(int number);
+  /// The picture with that number reduced to `layout` pixels, freshly decoded and not kept; empty if there is
+  /// none.
+  [[nodiscard]] Picture LoadReduced(int number, LayoutSize layout) const;
 
   /// Clears the tree, opens the file and adds a node for each type with a placeholder below it; the first two
   /// types are expanded. An empty tree with the title when the file cannot be opened.
@@ -45,8 +49,6 @@ class Pictures {
 
  private:
   struct DataFile;
-
-  [[nodiscard]] Picture LoadNumbered(int number) const;
 
   double pixelRatio_;
   std::unique_ptr<DataFile> file_;

@@ -18,14 +18,12 @@ constexpr std::size_t kMaxOwnPicture = 16 << 20;  // bytes
 constexpr int kStoredSide = 2 * kPortraitSide;
 constexpr std::array<std::string_view, 4> kAccepted = {".jpeg", ".jpg", ".gif", ".bmp"};
 
-/// The middle square of a picture, no larger than a portrait is ever shown.
-QImage MiddleSquare(const QImage& image) {
-  const int side = std::min(image.width(), image.height());
-  QImage square = image.copy((image.width() - side) / 2, (image.height() - side) / 2, side, side);
-  if (side > kStoredSide)
-    square = square.scaled(kStoredSide, kStoredSide, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-  square.setDevicePixelRatio(static_cast<double>(square.width()) / kPortraitSide);
-  return square;
+/// The same picture, shown at `side` layout pixels.
+Picture Reduced(const Picture& picture, int side) {
+  if (picture.empty()) return {};
+  QImage image = *picture.image();
+  image.setDevicePixelRatio(static_cast<double>(image.width()) / side);
+  return Picture(std::make_shared<const QImage>(std::move(image)));
 }
 
 }  // namespace
@@ -44,6 +42,17 @@ Picture Portraits::GetPortrait(int number, std::string_view name, bool& found) {
   return pictures_.getPic(kPortraitBase + (number == kOwnPortrait ? owner.portrait : number));
 }
 
+std::vector<Picture> Portraits::GetReduced(std::span<const int> numbers, std::string_view name,
+                                           int side) const {
+  std::vector<Picture> portraits;
+  portraits.reserve(numbers.size());
+  const Picture own = Reduced(OwnPicture(name), side);
+  for (const int number : numbers) {
+    portraits.push_back(own.empty() ? pictures_.LoadReduced(kPortraitBase + number, {side, side}) : own);
+  }
+  return portraits;
+}
+
 Picture Portraits::OwnPicture(std::string_view name) const {
   // A peer chooses the name: it may neither leave the folder nor match whatever is there.
   if (name.empty() || name.find_first_of("/\\*?") != std::string_view::npos) return {};
@@ -54,8 +63,10 @@ Picture Portraits::OwnPicture(std::string_view name) const {
     return {};
   const FileBytes file = ReadWhole(folder_ + "/" + files.front(), kMaxOwnPicture);
   if (!file.bytes) return {};
-  const QImage image = DecodePicture(std::as_bytes(std::span(*file.bytes)));
-  return image.isNull() ? Picture() : Picture(std::make_shared<const QImage>(MiddleSquare(image)));
+  QImage image = DecodeSquare(std::as_bytes(std::span(*file.bytes)), kStoredSide);
+  if (image.isNull()) return {};
+  image.setDevicePixelRatio(static_cast<double>(image.width()) / kPortraitSide);
+  return Picture(std::make_shared<const QImage>(std::move(image)));
 }
 
 }  // namespace kv

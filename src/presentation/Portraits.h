@@ -3,8 +3,10 @@
 #pragma once
 
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/Picture.h"
 #include "presentation/Pictures.h"
@@ -29,6 +31,11 @@ class Portraits {
   /// without regard to case, when it is a .jpeg, .jpg, .gif or .bmp that can be read, and then `found` is
   /// true; otherwise built-in portrait `number`. kOwnPortrait and an empty name stand for the current player.
   [[nodiscard]] Picture GetPortrait(int number, std::string_view name, bool& found);
+
+  /// The same for many numbers at once, each reduced to `side` layout pixels. They are decoded afresh and not
+  /// kept, so that a sheet of all portraits costs no more than it shows.
+  [[nodiscard]] std::vector<Picture> GetReduced(std::span<const int> numbers, std::string_view name,
+                                                int side) const;
 
  private:
   [[nodiscard]] Picture OwnPicture(std::string_view name) const;

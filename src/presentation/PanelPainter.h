@@ -1,0 +1,15 @@
+// Framed, translucent panels behind the text of a screen, as its layout describes them.
+#pragma once
+
+#include <QPainter>
+#include <QRect>
+
+#include "platform/QtPropertyBag.h"
+
+namespace kv {
+
+/// Paints a panel in `area`. `bag` gives "fill_color", "fill_alpha" (0 to 255, 255 if not given),
+/// "border_color" and "corners" (radius in layout pixels). The painter is left as it was.
+void PaintPanel(QPainter& painter, const QRect& area, const PropertyBag& bag);
+
+}  // namespace kv

@@ -1,0 +1,169 @@
+#include "screens/frmPortraits.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <optional>
+
+#include "presentation/PanelPainter.h"
+#include "presentation/PictureSizes.h"
+
+namespace kv {
+namespace {
+
+constexpr std::string_view kNobody = "0";  // whose portraits the tiles show
+
+QString NameOf(int tile) {
+  return QStringLiteral("portrait %1").arg(PortraitOfTile(tile));
+}
+
+std::optional<PortraitKey> PortraitKeyOf(int key) {
+  switch (key) {
+    case Qt::Key_Left:
+      return PortraitKey::Left;
+    case Qt::Key_Right:
+      return PortraitKey::Right;
+    case Qt::Key_Up:
+      return PortraitKey::Up;
+    case Qt::Key_Down:
+      return PortraitKey::Down;
+    default:
+      return {};
+  }
+}
+
+bool Activates(int key) {
+  return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+}  // namespace
+
+frmPortraits::frmPortraits(const ScreenServices& services, clsPlayer& player, PortraitCaller& caller,
+                           const frmPortraitsServices& picker)
+    : Screen(services, "frmPortraits", player.Interface_Opt),
+      picker_(picker),
+      player_(player),
+      caller_(caller) {
+  BuildTiles();
+  BuildControls();
+  ShowOverride();
+  Select(TileOfPortrait(player_.Portrait));
+}
+
+frmPortraits::~frmPortraits() {
+  CloseScreen();
+}
+
+void frmPortraits::BuildTiles() {
+  std::array<int, kPortraitTiles> numbers{};
+  for (int tile = 0; tile < kPortraitTiles; ++tile) {
+    numbers.at(static_cast<std::size_t>(tile)) = PortraitOfTile(tile);
+  }
+  const QRect first = layout().rect(u"imgPortrait");
+  const std::vector<Picture> pictures = services().portraits.GetReduced(numbers, kNobody, first.width());
+  for (int tile = 0; tile < kPortraitTiles; ++tile) {
+    auto* image = new FadeTarget(this);
+    image->setObjectName(QStringLiteral("imgPortrait%1").arg(tile));
+    image->setAccessibleName(NameOf(tile));
+    image->setGeometry(
+        first.translated(tile % kPortraitColumns * kPortraitStep, tile / kPortraitColumns * kPortraitStep));
+    image->setPicture(pictures.at(static_cast<std::size_t>(tile)));
+    image->MouseMove = [this] { PlainHighlights(); };
+    image->Click = [this, tile] { Select(tile); };
+    image->DblClick = [this, tile] {
+      Select(tile);
+      PlayEffect("click");
+      Confirm();
+    };
+    tiles_.at(static_cast<std::size_t>(tile)) = image;
+  }
+}
+
+void frmPortraits::BuildControls() {
+  imgSelected_ = new FadeTarget(this);
+  imgSelected_->setFocusPolicy(Qt::StrongFocus);
+  layout().Place(u"imgSelected", *imgSelected_);
+  imgOverride_ = new FadeTarget(this);
+  imgOverride_->setFocusPolicy(Qt::TabFocus);
+  imgOverride_->setCursor(Qt::PointingHandCursor);
+  layout().Place(u"imgOverride", *imgOverride_);
+  imgOverride_->Click = [this] { OpenFolder(); };
+  for (FadeTarget* image : {imgSelected_, imgOverride_}) image->MouseMove = [this] { PlainHighlights(); };
+  lblSelected_ = layout().NewLabel(u"lblSelected", this);
+  layout().NewLabel(u"lblKeys", this);
+  lblOverride_ = layout().NewLabel(u"lblOverride", this);
+  cmdOK_ = NewButton(u"cmdOK", [this] { Confirm(); });
+  ctlTitlebar_ = NewTitlebar();
+  ctlTitlebar_->Quit = [this] { LeaveProgram(); };
+}
+
+void frmPortraits::ShowOverride() {
+  bool found = false;
+  const Picture own = services().portraits.GetPortrait(kOwnPortrait, "", found);
+  if (found) imgOverride_->setPicture(own);
+  imgOverride_->setVisible(found);
+  lblOverride_->setVisible(found);
+}
+
+void frmPortraits::Activate() {
+  imgSelected_->setFocus();
+}
+
+void frmPortraits::Select(int tile) {
+  selected_ = tile;
+  const std::array number = {PortraitOfTile(tile)};
+  imgSelected_->setPicture(services().portraits.GetReduced(number, kNobody, kPortraitSide).front());
+  imgSelected_->setAccessibleName(NameOf(tile) + QStringLiteral(", selected"));
+  lblSelected_->setText(NameOf(tile));
+  update();
+}
+
+void frmPortraits::paintEvent(QPaintEvent* event) {
+  Screen::paintEvent(event);
+  QPainter painter(this);
+  for (const char16_t* panel : {u"panelTiles", u"panelChoice"}) {
+    PaintPanel(painter, layout().rect(panel), layout().bag(panel));
+  }
+  const auto frame = [&](const QWidget& picture, QStringView bag, int width) {
+    painter.fillRect(picture.geometry().adjusted(-width, -width, width, width),
+                     layout().bag(bag).colour(u"color"));
+  };
+  for (const FadeTarget* tile : tiles_) frame(*tile, u"frameTile", 1);
+  frame(*tiles_.at(static_cast<std::size_t>(selected_)), u"frameSelected", 3);
+  frame(*imgSelected_, u"frameSelected", imgSelected_->hasFocus() ? 3 : 2);
+  if (!imgOverride_->isHidden()) frame(*imgOverride_, u"frameOverride", imgOverride_->hasFocus() ? 3 : 2);
+}
+
+void frmPortraits::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) {
+    LeaveProgram();
+  } else if (const auto key = PortraitKeyOf(event->key())) {
+    Select(TileAfter(*key, selected_));
+  } else if (!Activates(event->key()) && event->key() != Qt::Key_Space) {
+    Screen::keyPressEvent(event);
+  } else if (imgOverride_->hasFocus()) {
+    if (!event->isAutoRepeat()) OpenFolder();
+  } else if (Activates(event->key()) && !event->isAutoRepeat()) {
+    PlayEffect("click");
+    Confirm();
+  }
+}
+
+void frmPortraits::OpenFolder() {
+  if (picker_.openFolder) picker_.openFolder(picker_.portraitFolder);
+}
+
+void frmPortraits::Confirm() {
+  if (closing()) return;
+  const int number = PortraitOfTile(selected_);
+  player_.Portrait = static_cast<std::int16_t>(number);
+  bool found = false;
+  caller_.PortraitChosen(services().portraits.GetPortrait(number, "", found));
+  services().navigator.ClosePortraits();
+}
+
+void frmPortraits::LeaveProgram() {
+  if (!closing()) services().navigator.ClosePortraits();
+}
+
+}  // namespace kv
