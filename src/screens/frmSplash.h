@@ -1,0 +1,122 @@
+// The start screen: the person picks a player file and types its PIN, or creates a new player. It loads and
+// creates player files; it never changes one that exists, and no player is current until a load succeeds.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "presentation/FadeTarget.h"
+#include "presentation/Screen.h"
+#include "presentation/WindowDrag.h"
+#include "profile/clsPlayer.h"
+
+class QLabel;
+class QLineEdit;
+class QListWidget;
+
+namespace kv {
+
+class PinBox;
+class TextLink;
+
+struct frmSplashServices {
+  std::string workingFolder;  // player files; empty for the current folder
+  std::function<std::unique_ptr<clsPlayer>()> newPlayer;
+  std::function<void(const std::string& address)> openAddress;
+};
+
+class frmSplash final : public Screen {
+ public:
+  /// Nobody's style is known yet: "Slate" unless another one is asked for.
+  frmSplash(const ScreenServices& services, const frmSplashServices& splash,
+            std::string_view style = "Slate");
+  ~frmSplash() override;
+
+  /// Ends the program at once.
+  void LeaveProgram() override;
+
+ protected:
+  void Activate() override;
+  void Shown() override;
+  void Closing() override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  // What the screen shows: the list, or one of the two steps of creating a player.
+  enum class View { List, PlayerName, FileName };
+
+  void BuildTitle();
+  void BuildList();
+  void BuildCreation();
+  void BuildFrame();
+  QLineEdit* NewBox(QStringView control, int maxLength);
+  PinBox* NewPinBox(QStringView control);
+  void Show(View view);
+
+  void RefreshPlayerList();
+  void PlayerSelected();
+  void SelectPlayer(const std::string& name);
+  void Continue();
+  void LoadFailed();
+  void LoadWatchTick();
+  void EnableControls(bool enabled);
+
+  void Create();
+  void CheckPlayerName();
+  void NewName();
+  void CheckFileName();
+  void NewFile();
+  void BackToList();
+
+  /// What the Enter key does in the present view; null while that is not allowed.
+  [[nodiscard]] ctlButton* StepButton() const;
+  void cmdNew2();
+
+  void StartTitle();
+  void PulseTick();
+  void EndPulse();
+
+  const frmSplashServices splash_;
+  std::vector<std::string> players_;  // the list's entries, in its order
+  View view_ = View::List;
+  bool loaded_ = false;      // the screen stands; the hand-over waits for it
+  bool pulseEnded_ = false;  // by a click on the title
+  WindowDrag drag_;
+  std::optional<QPoint> press_;  // where the title was pressed, while that may still become a click
+  Picture imgFadeText_;
+  Picture imgFadeLine_;
+  Picture textOff_;
+  Picture lineOff_;
+  std::unique_ptr<Timer> tmrInitial_;
+  std::unique_ptr<Timer> tmrPulse_;
+  std::unique_ptr<Timer> tmrLoadWatch_;
+
+  FadeTarget* imgFadeText_Target_ = nullptr;  // children, all that follow
+  FadeTarget* imgFadeLine_Target_ = nullptr;
+  QLabel* lblPlayerHeader_ = nullptr;
+  QListWidget* lstPlayers_ = nullptr;
+  QLabel* lblPINtitle_ = nullptr;
+  PinBox* txtPIN_ = nullptr;
+  ctlButton* cmdContinue_ = nullptr;
+  ctlButton* cmdCreate_ = nullptr;
+  QLabel* lblHeader_ = nullptr;
+  QLineEdit* txtPlayer_ = nullptr;
+  ctlButton* cmdNewName_ = nullptr;
+  QLineEdit* txtName_ = nullptr;
+  QLabel* lblNewPIN_ = nullptr;
+  PinBox* txtNewPIN_ = nullptr;
+  TextLink* lblPINReveal_ = nullptr;
+  ctlButton* cmdNewFile_ = nullptr;
+  QLabel* lblCreateInfo_ = nullptr;
+};
+
+}  // namespace kv
