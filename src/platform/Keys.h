@@ -8,6 +8,7 @@ inline constexpr int KeyEnter = 13;
 inline constexpr int KeyShift = 16;
 inline constexpr int KeyControl = 17;
 inline constexpr int KeyAlt = 18;
+inline constexpr int KeyEscape = 27;
 inline constexpr int KeySpace = 32;
 
 /// The modifiers held while a key is pressed.

@@ -28,7 +28,7 @@ constexpr Key kKeys[] = {
     {KeyAlt, u"Alt", {Qt::Key_Alt, Qt::Key_AltGr}},
     {19, u"Pause", {Qt::Key_Pause}},
     {20, u"Caps Lock", {Qt::Key_CapsLock}},
-    {27, u"Esc", {Qt::Key_Escape}},
+    {KeyEscape, u"Esc", {Qt::Key_Escape}},
     {KeySpace, u"Space", {Qt::Key_Space}},
     {33, u"Page Up", {Qt::Key_PageUp}},
     {34, u"Page Down", {Qt::Key_PageDown}},

@@ -11,13 +11,13 @@
 #include "presentation/Screen.h"
 #include "profile/clsPlayer.h"
 
-class QCheckBox;
 class QLineEdit;
-class QListWidget;
-class QRadioButton;
 
 namespace kv {
 
+class PinBox;
+class frmOptionsFields;
+class frmOptionsFrame;
 class frmOptionsKeys;
 class frmOptionsPortrait;
 
@@ -42,36 +42,34 @@ class frmOptions final : public Screen, public PortraitCaller {
  private:
   void BuildControls();
   void BuildPlayer();
-  void BuildLists();
   void BuildKeys();
-  QWidget& Place(QStringView control, QWidget* widget);
-  QListWidget* NewList(QStringView control);
   ctlButton* NewFrameButton(QStringView control, std::function<void()> click);
-
   void FillControls();
-  void NameChanged();
-  void KeyDown(const QKeyEvent& key);
-  void KeyCaught(std::int16_t keyCode);
+  [[nodiscard]] bool NameGiven() const;
+
+  void EscapeKey();
   void ShowKeyFrame();
   void HideKeyFrame();
+  void KeyDown(const QKeyEvent& key);
+  void KeyCaught(std::int16_t keyCode);
 
   void OKClick();
   /// True when the PIN may be stored: it is not changed, or the person is sure.
   [[nodiscard]] bool PINConfirmed();
   void StoreControls();
   void Cancel();
-  void PutPortraitBack() { player_.Portrait = portraitBefore_; }
 
   clsPlayer& player_;
-  const std::int16_t portraitBefore_;  // the picker changes the record at once; only OK keeps that
-  std::uint8_t turnMode_;              // index of the turn system that was clicked last
-  std::optional<int> waiting_;         // the key button that waits for its key
+  std::int16_t portraitBefore_;  // the picker changes the record at once; without OK it is put back
+  std::optional<int> waiting_;   // the key button that waits for its key
   std::unique_ptr<Timer> tmrKeys_;
-  QWidget* frmeOptions_ = nullptr;  // children
+  std::unique_ptr<frmOptionsFields> fields_;
+  frmOptionsFrame* frmeOptions_ = nullptr;  // children
   frmOptionsKeys* frmeKeys_ = nullptr;
   frmOptionsPortrait* imgYourPic_ = nullptr;
   QLineEdit* txtName_ = nullptr;
-  QLineEdit* txtPIN_ = nullptr;
+  PinBox* txtPIN_ = nullptr;
+  ctlButton* lblPINReveal_ = nullptr;
   ctlButton* cmdKeys_ = nullptr;
   ctlButton* cmdOK_ = nullptr;
   ctlButton* cmdCancel_ = nullptr;

@@ -11,6 +11,7 @@
 #include "presentation/ButtonContext.h"
 #include "presentation/Layout.h"
 #include "presentation/ctlButton.h"
+#include "screens/frmOptionsFrame.h"
 
 class QLabel;
 
@@ -34,9 +35,9 @@ class frmOptionsKeys final : public QWidget {
   void Write(clsCardArray& keys) const;
   /// Binds a key (16-bit code; kNoKey for none) to a button. `index` out of 0 to 13 throws std::out_of_range.
   void Bind(int index, std::int16_t keyCode);
-  [[nodiscard]] std::int16_t KeyOf(int index) const { return tags_.at(static_cast<std::size_t>(index)); }
-  [[nodiscard]] ctlButton& KeyButton(int index) const {
-    return *buttons_.at(static_cast<std::size_t>(index));
+  [[nodiscard]] std::int16_t KeyOf(int index) const { return keys_.at(static_cast<std::size_t>(index)).tag; }
+  [[nodiscard]] ctlButton& cmdKey(int index) const {
+    return *keys_.at(static_cast<std::size_t>(index)).button;
   }
   [[nodiscard]] ctlButton& cmdKeysDone() const { return *cmdKeysDone_; }
 
@@ -49,17 +50,19 @@ class frmOptionsKeys final : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  void NewKeyButton(int index, Layout& layout, ButtonContext& context);
+  struct KeyButton {
+    ctlButton* button = nullptr;  // child
+    QString what;                 // what the key does, for screen readers
+    std::int16_t tag = kNoKey;
+  };
 
-  std::array<std::int16_t, kKeyButtons> tags_{};
-  std::array<ctlButton*, kKeyButtons> buttons_{};  // children
-  ctlButton* cmdKeysDone_ = nullptr;
+  ctlButton* NewButton(QStringView control, Layout& layout, ButtonContext& context);
+
+  std::array<KeyButton, kKeyButtons> keys_;
+  ctlButton* cmdKeysDone_ = nullptr;  // children
   QLabel* title_ = nullptr;
   QString ownTitle_;
-  QColor scrim_;
-  QRect panel_;
-  QColor fill_;
-  QColor border_;
+  Panel panel_;
 };
 
 }  // namespace kv

@@ -1,0 +1,108 @@
+#include "screens/frmOptionsKeys.h"
+
+#include <QLabel>
+#include <QPainter>
+
+#include "screens/modgetKeyName.h"
+
+namespace kv {
+namespace {
+
+constexpr int kScrimAlpha = 170;  // what lies beneath can be told, but not mistaken for usable
+
+/// A key button, what it does and the entry of the key table that it edits.
+struct KeyEntry {
+  QStringView control;
+  int row;
+  int column;
+};
+constexpr std::array<KeyEntry, kKeyButtons> kKeyEntries = {{
+    {u"cmdKeysTurn", 1, 1},
+    {u"cmdKeysStand", 1, 2},
+    {u"cmdKeysPlay(0)", 2, 1},
+    {u"cmdKeysPlay(1)", 2, 2},
+    {u"cmdKeysPlay(2)", 2, 3},
+    {u"cmdKeysPlay(3)", 2, 4},
+    {u"cmdKeysFlip1(0)", 3, 1},
+    {u"cmdKeysFlip1(1)", 3, 2},
+    {u"cmdKeysFlip1(2)", 3, 3},
+    {u"cmdKeysFlip1(3)", 3, 4},
+    {u"cmdKeysFlip2(0)", 4, 1},
+    {u"cmdKeysFlip2(1)", 4, 2},
+    {u"cmdKeysFlip2(2)", 4, 3},
+    {u"cmdKeysFlip2(3)", 4, 4},
+}};
+
+}  // namespace
+
+frmOptionsKeys::frmOptionsKeys(QWidget* parent, Layout& layout, ButtonContext& context)
+    : QWidget(parent), panel_(PanelOf(layout, u"pnlKeys")) {
+  setMouseTracking(true);
+  layout.Place(u"frmeKeys", *this);
+  title_ = layout.NewLabel(u"lblKeysTitle", this);
+  ownTitle_ = title_->text();
+  for (const QStringView label :
+       {u"lblKeysTurn", u"lblKeysStand", u"lblKeysPlay", u"lblKeysFlip1", u"lblKeysFlip2"}) {
+    layout.NewLabel(label, this);
+  }
+  for (int index = 0; index < kKeyButtons; ++index) {
+    KeyButton& key = keys_.at(static_cast<std::size_t>(index));
+    key.button = NewButton(kKeyEntries.at(static_cast<std::size_t>(index)).control, layout, context);
+    key.what = key.button->accessibleName();
+    key.button->Click = [this, index] {
+      if (KeyClick) KeyClick(index);
+    };
+  }
+  cmdKeysDone_ = NewButton(u"cmdKeysDone", layout, context);
+  cmdKeysDone_->Click = [this] {
+    if (DoneClick) DoneClick();
+  };
+}
+
+ctlButton* frmOptionsKeys::NewButton(QStringView control, Layout& layout, ButtonContext& context) {
+  auto* button = new ctlButton(this, context);
+  button->ReadProperties(layout.bag(control));
+  layout.Place(control, *button);
+  return button;
+}
+
+void frmOptionsKeys::Read(const clsCardArray& keys) {
+  for (int index = 0; index < kKeyButtons; ++index) {
+    const KeyEntry& entry = kKeyEntries.at(static_cast<std::size_t>(index));
+    Bind(index, keys.Value(entry.row, entry.column));
+  }
+}
+
+void frmOptionsKeys::Write(clsCardArray& keys) const {
+  for (int index = 0; index < kKeyButtons; ++index) {
+    const KeyEntry& entry = kKeyEntries.at(static_cast<std::size_t>(index));
+    keys.setValue(entry.row, entry.column, KeyOf(index));
+  }
+}
+
+void frmOptionsKeys::Bind(int index, std::int16_t keyCode) {
+  KeyButton& key = keys_.at(static_cast<std::size_t>(index));
+  const QString name = getKeyName(keyCode);
+  key.tag = keyCode;
+  key.button->setCaption(name);
+  key.button->setAccessibleName(key.what + QStringLiteral(": ") +
+                                (name.isEmpty() ? QStringLiteral("no key") : name));
+  key.button->setColor_Style(keyCode <= 0 ? QStringLiteral("Ember") : QStringLiteral("Ember_Menu"));
+}
+
+QString frmOptionsKeys::Title() const {
+  return title_->text();
+}
+
+void frmOptionsKeys::setTitle(const QString& title) {
+  title_->setText(title);
+  title_->setAccessibleName(title);
+}
+
+void frmOptionsKeys::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), QColor(0, 0, 0, kScrimAlpha));
+  PaintPanel(painter, panel_);
+}
+
+}  // namespace kv

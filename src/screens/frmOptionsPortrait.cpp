@@ -1,0 +1,48 @@
+#include "screens/frmOptionsPortrait.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace kv {
+namespace {
+
+constexpr int kFrame = 2;  // layout pixels
+
+}  // namespace
+
+frmOptionsPortrait::frmOptionsPortrait(QWidget* parent, Layout& layout, QStringView control)
+    : QAbstractButton(parent) {
+  const PropertyBag bag = layout.bag(control);
+  border_ = bag.colour(u"border_color", Qt::gray);
+  accent_ = bag.colour(u"accent_color", Qt::white);
+  setAttribute(Qt::WA_Hover);
+  setCursor(Qt::PointingHandCursor);
+  setFocusPolicy(Qt::TabFocus);
+  layout.Place(control, *this);
+}
+
+void frmOptionsPortrait::setPicture(const Picture& picture) {
+  picture_ = picture;
+  update();
+}
+
+void frmOptionsPortrait::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.fillRect(rect(), Qt::black);
+  if (!picture_.empty()) painter.drawImage(rect(), *picture_.image());
+  const bool lit = isEnabled() && (underMouse() || hasFocus());
+  painter.setPen(QPen(lit ? accent_ : border_, kFrame));
+  painter.drawRect(QRectF(rect()).adjusted(kFrame / 2.0, kFrame / 2.0, -kFrame / 2.0, -kFrame / 2.0));
+}
+
+void frmOptionsPortrait::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (enter && !event->isAutoRepeat()) {
+    click();
+  } else {
+    QAbstractButton::keyPressEvent(event);
+  }
+}
+
+}  // namespace kv
