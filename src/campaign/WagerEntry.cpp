@@ -19,17 +19,18 @@ bool AllDigits(std::string_view text) {
   return text.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
-}  // namespace
-
-std::string_view CaptionText(WagerCaption caption) {
-  return kCaptions.at(static_cast<std::size_t>(caption));
-}
-
+/// What passes 64 bits becomes the largest number, and what is not all digits is 0.
 std::int64_t AmountOf(std::string_view digits) {
   if (!AllDigits(digits)) return 0;
   std::int64_t amount = 0;
   const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), amount);
   return error == std::errc::result_out_of_range ? std::numeric_limits<std::int64_t>::max() : amount;
+}
+
+}  // namespace
+
+std::string_view CaptionText(WagerCaption caption) {
+  return kCaptions.at(static_cast<std::size_t>(caption));
 }
 
 WagerEntry::WagerEntry(const clsGame& game, const PlayerFields& player, const NetworkStake& networkStake,

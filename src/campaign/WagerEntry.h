@@ -86,10 +86,6 @@ class WagerEntry {
   bool buttonEnabled_ = false;
 };
 
-/// The value of decimal digits, however many; what passes 64 bits becomes the largest number, and any other
-/// text is 0.
-[[nodiscard]] std::int64_t AmountOf(std::string_view digits);
-
 /// What both sides are told of a proposal: the messages for the peer, in order, and the line for the own
 /// chat.
 struct ProposalTexts {

@@ -1,0 +1,98 @@
+// The circuit: which tiles are open, what choosing one prepares, bankruptcy, and the hands of its matches.
+#include "campaign/CampaignFixture.h"
+#include "match/Dealing.h"
+
+namespace kv::test {
+namespace {
+
+using CircuitRulesTest = CampaignFixture;
+
+TEST_F(CircuitRulesTest, TilesFollowWinsAndCredits) {
+  struct Row {
+    const char* what;
+    std::array<std::int16_t, 6> wins;
+    std::int32_t credits;
+    std::string tiles;  // by tile: "o" open, "g" grey, "." hidden
+  };
+  for (const Row& row :
+       std::vector<Row>{{"new", {}, 100, "o......"},
+                        {"nine against each", {9, 9, 9, 9, 9, 9}, 5000, "o......"},
+                        {"first unlock", {10}, 0, "oo....."},
+                        {"too poor for the third", {10, 10}, 99, "oog...."},
+                        {"just enough for the third", {10, 10}, 100, "ooo...."},
+                        {"one short of the last", {10, 10, 10, 10}, 749, "oooog.."},
+                        {"the last", {10, 10, 10, 10, 9}, 750, "ooooo.."},
+                        {"finished",
+                         {10, 10, 10, 10, 10},
+                         349,
+                         "ooogg"
+                         "oo"},
+                        {"finished and broke", {10, 10, 10, 10, 10, 3}, 0, "oogggoo"},
+                        {"special wins alone show nothing", {0, 0, 0, 0, 0, 10}, 750, "o......"}}) {
+    SCOPED_TRACE(row.what);
+    for (std::size_t i = 0; i < row.wins.size(); ++i) {
+      (player.*(CircuitOpponents()[i].wins))->Value = row.wins[i];
+    }
+    player.Credits->Value = row.credits;
+    Circuit circuit(game, player);
+    std::string tiles;
+    for (int i = 0; i < kCircuitTiles; ++i) {
+      const CircuitTile tile = circuit.Tile(i);
+      tiles += !tile.visible ? '.' : tile.enabled ? 'o' : 'g';
+      EXPECT_EQ(circuit.Choose(i), tile.enabled);
+    }
+    EXPECT_EQ(tiles, row.tiles);
+    EXPECT_EQ(circuit.Finished(), row.wins[4] >= 10);
+  }
+  EXPECT_EQ(Circuit(game, player).Tile(kYourself).wins, -1);
+}
+
+TEST_F(CircuitRulesTest, ChoosingPreparesTheMatch) {
+  std::vector<int> portraits;
+  clsGame record(player, [&](int number, const std::string&) {
+    portraits.push_back(number);
+    return Picture();
+  });
+  player.Portrait = 12;
+  player.Orrin_Wins->Value = player.Brummox_Wins->Value = 10;
+  player.Credits->Value = 800;
+  Circuit circuit(record, player);
+  circuit.ChooseDeckView();
+  EXPECT_EQ(record.Mode, "Deck Config");
+  ASSERT_TRUE(circuit.Choose(4));
+  EXPECT_EQ(record.Mode, "Campaign");
+  EXPECT_EQ(record.OppName, "Orrin Vaal");
+  EXPECT_EQ(record.MinWager, 750);
+  EXPECT_EQ(record.MaxWager, 750);
+  EXPECT_EQ(portraits.back(), 5);
+  EXPECT_EQ(record.CreditsRef, player.Credits);
+
+  DealMatch(record, player, random);
+  EXPECT_EQ(record.CampaignWinRef, player.Orrin_Wins);
+  ASSERT_TRUE(circuit.Choose(kYourself));
+  EXPECT_EQ(portraits.back(), 12);
+  DealMatch(record, player, random);
+  EXPECT_EQ(record.CampaignWinRef, nullptr);
+  clsDeckArray sorted(*record.SideDeck);
+  AI_SortDeck(sorted);
+  for (int slot = 1; slot <= kHandSize; ++slot) {
+    EXPECT_EQ(record.CompDeck->Value(slot), sorted.Value(slot));
+  }
+  record.Mode = kModeArcade;
+  record.OppName = "H6-J8";
+  DealMatch(record, player, random);
+  EXPECT_EQ(record.CampaignWinRef, nullptr) << "arcade counts no wins against an opponent";
+}
+
+TEST_F(CircuitRulesTest, BankruptIsWhoHasNothingToSell) {
+  player.Credits->Value = 0;
+  EXPECT_TRUE(Circuit(game, player).Bankrupt()) << "the side deck does not count";
+  player.Cards->setValue(4, 2, 1);
+  EXPECT_FALSE(Circuit(game, player).Bankrupt());
+  player.Cards->Fill(0);
+  player.Credits->Value = 1;
+  EXPECT_FALSE(Circuit(game, player).Bankrupt());
+}
+
+}  // namespace
+}  // namespace kv::test
