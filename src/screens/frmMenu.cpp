@@ -88,6 +88,7 @@ void frmMenu::paintEvent(QPaintEvent* event) {
   Screen::paintEvent(event);
   QPainter painter(this);
   for (const char16_t* panel : kPanels) PaintPanel(painter, layout().rect(panel), layout().bag(panel));
+  PaintPanel(painter, cmdPlayer_->geometry(), layout().bag(u"panelPlayer"));
 }
 
 void frmMenu::keyPressEvent(QKeyEvent* event) {

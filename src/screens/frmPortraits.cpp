@@ -1,5 +1,6 @@
 #include "screens/frmPortraits.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
@@ -92,9 +93,11 @@ void frmPortraits::BuildControls() {
   lblSelected_ = layout().NewLabel(u"lblSelected", this);
   layout().NewLabel(u"lblKeys", this);
   lblOverride_ = layout().NewLabel(u"lblOverride", this);
+  lblHint_ = layout().NewLabel(u"lblHint", this);
   cmdOK_ = NewButton(u"cmdOK", [this] { Confirm(); });
   ctlTitlebar_ = NewTitlebar();
   ctlTitlebar_->Quit = [this] { LeaveProgram(); };
+  connect(qApp, &QApplication::focusChanged, this, [this] { update(); });  // the frames show the focus
 }
 
 void frmPortraits::ShowOverride() {
@@ -103,6 +106,7 @@ void frmPortraits::ShowOverride() {
   if (found) imgOverride_->setPicture(own);
   imgOverride_->setVisible(found);
   lblOverride_->setVisible(found);
+  lblHint_->setVisible(!found);
 }
 
 void frmPortraits::Activate() {

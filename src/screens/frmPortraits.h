@@ -61,6 +61,7 @@ class frmPortraits final : public Screen {
   QLabel* lblSelected_ = nullptr;
   FadeTarget* imgOverride_ = nullptr;
   QLabel* lblOverride_ = nullptr;
+  QLabel* lblHint_ = nullptr;
   ctlButton* cmdOK_ = nullptr;
   ctlTitlebar* ctlTitlebar_ = nullptr;
 };
