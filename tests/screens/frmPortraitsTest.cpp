@@ -1,0 +1,149 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <QLabel>
+
+#include "screens/frmPortraits.h"
+#include "support/ScreenHand.h"
+#include "support/ScreenStage.h"
+#include "support/TempFolder.h"
+
+namespace kv {
+namespace {
+
+using test::ScreenHand;
+using test::ScreenStage;
+using test::TempFolder;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+struct Caller final : PortraitCaller {
+  std::vector<Picture> chosen;
+  void PortraitChosen(const Picture& picture) override { chosen.push_back(picture); }
+};
+
+class frmPortraitsTest : public testing::Test {
+ protected:
+  void PutOwnPicture(const std::string& name) const {
+    QImage image(40, 40, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    ASSERT_TRUE(image.save(QString::fromStdString(folder / name)));
+  }
+  frmPortraits& Open(int portrait = 7) {
+    stage.player.FileName = "/players/Bob.vnt";
+    stage.player.Portrait = static_cast<std::int16_t>(portrait);
+    picker = std::make_unique<frmPortraits>(
+        stage.services(), stage.player, caller,
+        frmPortraitsServices{folder.path(), [this](const std::string& path) { opened.push_back(path); }});
+    picker->Open();
+    stage.Settle();
+    hand = std::make_unique<ScreenHand>(*picker);
+    return *picker;
+  }
+
+  TempFolder folder;
+  ScreenStage stage{"Slate", 1, folder.path()};
+  Caller caller;
+  std::vector<std::string> opened;
+  std::unique_ptr<frmPortraits> picker;
+  std::unique_ptr<ScreenHand> hand;
+};
+
+TEST(PortraitGridTest, TilesAndPortraitsMatch) {
+  for (int tile = 0; tile < kPortraitTiles; ++tile) EXPECT_EQ(TileOfPortrait(PortraitOfTile(tile)), tile);
+  EXPECT_EQ(PortraitOfTile(0), 7);
+  EXPECT_EQ(PortraitOfTile(1), 10);
+  EXPECT_EQ(PortraitOfTile(56), 65);
+  for (const int nobody : {-32768, -1, 0, 6, 8, 9, 66, 32767}) EXPECT_EQ(TileOfPortrait(nobody), 0) << nobody;
+}
+
+TEST(PortraitGridTest, KeysWrapAround) {
+  struct Case {
+    PortraitKey key;
+    int from;
+    int to;
+  };
+  for (const auto& [key, from, to] :
+       {Case{PortraitKey::Up, 3, 51}, Case{PortraitKey::Up, 9, 45}, Case{PortraitKey::Up, 51, 39},
+        Case{PortraitKey::Down, 51, 3}, Case{PortraitKey::Down, 45, 9}, Case{PortraitKey::Down, 36, 48},
+        Case{PortraitKey::Up, 8, 56}, Case{PortraitKey::Right, 56, 0}, Case{PortraitKey::Left, 0, 56},
+        Case{PortraitKey::Right, 11, 12}}) {
+    EXPECT_EQ(TileAfter(key, from), to) << from;
+  }
+}
+
+TEST_F(frmPortraitsTest, TilesShowTheirPortraitsInRowsOfTwelve) {
+  Open(12);
+  EXPECT_EQ(picker->SelectedTile(), 3);
+  const QPoint first = picker->imgPortrait(0).pos();
+  EXPECT_EQ(picker->imgPortrait(11).pos() - first, QPoint(616, 0));
+  EXPECT_EQ(picker->imgPortrait(12).pos().x(), first.x());
+  EXPECT_GT(picker->imgPortrait(12).y(), picker->imgPortrait(0).geometry().bottom());
+  for (int tile = 0; tile < kPortraitTiles; ++tile) {
+    const FadeTarget& image = picker->imgPortrait(tile);
+    ASSERT_FALSE(image.picture().empty()) << tile;
+    EXPECT_EQ(image.picture().image()->deviceIndependentSize(), QSizeF(image.size())) << tile;
+  }
+}
+
+TEST_F(frmPortraitsTest, KeysMoveAndEnterConfirms) {
+  Open(65);
+  for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Down, Qt::Key_Left}) hand->Key(key);
+  EXPECT_EQ(picker->SelectedTile(), 11);
+  EXPECT_EQ(stage.player.Portrait, 65) << "nothing is chosen yet";
+  hand->Key(Qt::Key_Return);
+  EXPECT_EQ(stage.player.Portrait, 20);
+  EXPECT_THAT(caller.chosen, ElementsAre(stage.pictures.getPic(320)));
+  EXPECT_THAT(stage.recorded.calls, ElementsAre("ClosePortraits"));
+  EXPECT_EQ(stage.sound.Count("click"), 1);
+}
+
+TEST_F(frmPortraitsTest, ClickSelectsAndDoubleClickOrOkConfirms) {
+  Open();
+  hand->Click(picker->imgPortrait(5));
+  EXPECT_EQ(picker->SelectedTile(), 5);
+  EXPECT_THAT(stage.sound.played, IsEmpty());
+  EXPECT_THAT(caller.chosen, IsEmpty());
+  hand->Click(picker->cmdOK());
+  EXPECT_EQ(stage.player.Portrait, 14);
+  Open();
+  hand->DoubleClick(picker->imgPortrait(56));
+  EXPECT_EQ(stage.player.Portrait, 65);
+  EXPECT_EQ(caller.chosen.size(), 2U);
+  EXPECT_EQ(stage.sound.Count("click"), 2);
+  EXPECT_EQ(stage.recorded.Count("ClosePortraits"), 2);
+}
+
+TEST_F(frmPortraitsTest, LeavingChoosesNothing) {
+  for (const int way : {0, 1, 2}) {
+    Open(30);
+    hand->Key(Qt::Key_Right);
+    if (way == 0) hand->Key(Qt::Key_Escape);
+    if (way == 1) hand->Click(picker->titlebar().cmdQuit());
+    if (way == 2) picker->close();
+    EXPECT_EQ(stage.recorded.Count("ClosePortraits"), way + 1);
+    EXPECT_EQ(stage.player.Portrait, 30);
+    EXPECT_THAT(caller.chosen, IsEmpty());
+  }
+}
+
+TEST_F(frmPortraitsTest, AnOwnPictureIsShownWinsAndOpensItsFolder) {
+  Open();
+  EXPECT_TRUE(picker->imgOverride().isHidden());
+  EXPECT_TRUE(picker->lblOverride().isHidden());
+  PutOwnPicture("bob.BMP");
+  Open();
+  EXPECT_FALSE(picker->imgOverride().isHidden() || picker->lblOverride().isHidden());
+  hand->Click(picker->imgOverride());
+  picker->imgOverride().setFocus();
+  hand->Key(Qt::Key_Return);
+  EXPECT_THAT(opened, ElementsAre(folder.path(), folder.path()));
+  hand->DoubleClick(picker->imgPortrait(4));
+  EXPECT_EQ(stage.player.Portrait, 13);
+  ASSERT_EQ(caller.chosen.size(), 1U);
+  EXPECT_EQ(QColor(caller.chosen[0].image()->pixel(0, 0)), QColor(Qt::red));
+}
+
+}  // namespace
+}  // namespace kv
