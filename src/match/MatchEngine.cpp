@@ -62,7 +62,9 @@ void MatchEngine::Reset() {
   if (closed_) return;
   ++epoch_;
   gameState_ = GameStep::None;
-  autoStood_ = false;
+  begun_ = true;
+  setDecided_ = opponentActs_ = autoStood_ = false;
+  turn_ = playerStarts_ ? Seat::Player : Seat::Opponent;
   banner_.caption = "continue";
   mainDeckCount_.fill(0);
   controls_.table = {true, true};
@@ -191,6 +193,7 @@ void MatchEngine::OppForfeit() {
 /// Nothing of the match goes on: timers, running turns, lights and everything that can be used.
 void MatchEngine::StopMatch() {
   ++epoch_;
+  opponentActs_ = false;
   gameState_ = GameStep::None;
   for (const MatchTimer timer : {MatchTimer::Game, MatchTimer::AutoDialogs, MatchTimer::NetWait}) {
     view_.RunTimer(timer, false);

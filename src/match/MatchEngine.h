@@ -80,10 +80,22 @@ class MatchEngine {
   void PlayCard(const CardCode& code, bool isOpponent);
   /// Lays `code` on a table; a full table takes no more.
   void LoadNextCard(const CardCode& code, bool isOpponent);
+  /// The peer plays `code` from hand slot 1 to 4, which is empty afterwards.
+  void OppPlayHand(int slot, const CardCode& code);
   /// A card drawn on either side leaves the common main deck. Throws std::out_of_range outside 1 to 10.
   void DeductDrawCard(int value);
   /// The peer's "[WhoS]".
   void setPlayerStarts(bool starts) { playerStarts_ = starts; }
+
+  /// Whether the moves of the peer's turn can be taken now. Soon: they are due, but this side has not come to
+  /// them yet (a pause is under way, or its own turn is just ending).
+  [[nodiscard]] PeerTurn peerTurn() const;
+  /// The set is decided and its banner is not shown yet.
+  [[nodiscard]] bool deciding() const { return setDecided_ && !banner_.visible; }
+  /// False until the first set begins.
+  [[nodiscard]] bool begun() const { return begun_; }
+  /// A "[Play]" of the peer's is due: this side waits for it, or its banner is on view.
+  [[nodiscard]] bool expectsPlay() const { return !begun_ || banner_.visible || peerWait_ != PeerWait::None; }
 
   /// The operations through which a strategy plays a side.
   [[nodiscard]] AiOperations& operations(Seat seat) { return side(seat).operations; }
@@ -186,6 +198,10 @@ class MatchEngine {
   std::array<std::uint8_t, 11> mainDeckCount_{};  // [1] to [10]
   GameStep gameState_ = GameStep::None;
   bool playerStarts_ = false;
+  Seat turn_ = Seat::Player;   // whose turn it is, or comes next
+  bool opponentActs_ = false;  // in a network match: the peer's moves are taken
+  bool setDecided_ = false;
+  bool begun_ = false;
   bool autoStood_ = false;
   bool stopped_ = false;
   bool closed_ = false;

@@ -11,6 +11,7 @@ void MatchEngine::SettleBust(Seat seat) {
 bool MatchEngine::CheckSetEnd(Seat closing, bool tableFull) {
   const bool over = tableFull || (PlayerStood() && OpponentStood());
   if (!over) return false;
+  setDecided_ = true;
   controls_.table = {false, false};
   view_.ControlsChanged();
   // A pause that was cut short leaves the set undecided: the match is being closed or has just been

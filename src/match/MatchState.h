@@ -23,6 +23,9 @@ enum class GameStep : std::uint8_t {
   PlayerWins = 12,
 };
 
+/// Where a match stands in the peer's turn.
+enum class PeerTurn : std::uint8_t { NotTheirs, Soon, Theirs };
+
 /// The options of the player record that a match follows, taken when it opens.
 struct MatchOptions {
   int speed = 1;             // GameSpeed_Opt: 0 slow, 1 normal, 2 fast; anything else is taken as normal

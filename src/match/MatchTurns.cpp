@@ -92,6 +92,7 @@ void MatchEngine::Stand() {
 }
 
 void MatchEngine::EndPlayerTurn() {
+  turn_ = Seat::Opponent;
   if (isNetwork()) {
     net_.NetSend("[Turn]");
     net_.startTurnRepeat();
@@ -117,6 +118,7 @@ void MatchEngine::OpponentTurn() {
   if (OpponentStood()) {
     if (isNetwork()) {
       SetLights(false, Light(Seat::Opponent));
+      opponentActs_ = true;
     } else {
       StartGameTimer(GameStep::PlayerTurn);
     }
@@ -127,7 +129,10 @@ void MatchEngine::OpponentTurn() {
   if (!Wait(turnDelay_)) return;
   if (!isNetwork()) DrawFor(Seat::Opponent);
   if (Total(Seat::Opponent) > kTargetTotal) view_.PlaySound("bust");
-  if (isNetwork()) return;
+  if (isNetwork()) {
+    opponentActs_ = true;
+    return;
+  }
   if (!Wait(kThinkingPause - speedOffset_ / 2.0)) return;
   if (game_.AI != nullptr) RunStrategy(*game_.AI, Seat::Opponent);
 }
@@ -148,7 +153,24 @@ void MatchEngine::OppStand() {
   if (!isNetwork()) OppEndTurn();
 }
 
+void MatchEngine::OppPlayHand(int slot, const CardCode& code) {
+  EmptyHandSlot(Seat::Opponent, slot);
+  view_.PlaySound("playcard");
+  PlayCard(code, true);
+}
+
+PeerTurn MatchEngine::peerTurn() const {
+  if (closed_ || stopped_ || game_.Wager == -1) return PeerTurn::NotTheirs;
+  // The peer may have begun the set that this side begins on its next tick.
+  if (peerWait_ == PeerWait::NextSet && net_.peerReady()) return PeerTurn::Soon;
+  if (!begun_ || setDecided_) return PeerTurn::NotTheirs;
+  if (opponentActs_) return PeerTurn::Theirs;
+  return turn_ == Seat::Opponent ? PeerTurn::Soon : PeerTurn::NotTheirs;
+}
+
 void MatchEngine::OppEndTurn() {
+  turn_ = Seat::Player;
+  opponentActs_ = false;
   SetLights(Light(Seat::Player), false);
   if (!CheckSetEnd(Seat::Opponent, TableFull(Seat::Opponent))) StartGameTimer(GameStep::PlayerTurn);
 }
