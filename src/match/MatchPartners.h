@@ -2,6 +2,7 @@
 // result. Each is one small interface, so that a match runs in tests without either.
 #pragma once
 
+#include <functional>
 #include <string>
 
 namespace kv {
@@ -19,6 +20,16 @@ class MatchNetwork {
   virtual void clearPeerReady() {}
   /// Starts repeating "[Turn]" until the peer answers.
   virtual void startTurnRepeat() {}
+
+  /// Adds a line to this side's chat log; the peer is told nothing.
+  virtual void AddChatLine(const std::string& line) { static_cast<void>(line); }
+  /// A line that the person sends with Enter: said to both sides, or one of the chat commands "/quit" and
+  /// "/disconnect". The screen may be closed when this returns.
+  virtual void SubmitChat(const std::string& line) { static_cast<void>(line); }
+  /// Tells `mirror` the whole chat log now and after every change; one at a time, an empty one to end it. The
+  /// log is plain text in UTF-8.
+  using ChatMirror = std::function<void(const std::string& log)>;
+  virtual void MirrorChat(ChatMirror mirror) { static_cast<void>(mirror); }
 };
 
 /// Books the end of a match: credits, counters, the player file. Each match is booked exactly once.
