@@ -1,6 +1,10 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
+#include <QBuffer>
 #include <QImage>
+#include <array>
 
 #include "presentation/PictureSizes.h"
 #include "presentation/Portraits.h"
@@ -63,11 +67,105 @@ TEST_F(PortraitsTest, OnlyTheFirstFileOfTheNameCounts) {
   EXPECT_TRUE(Found(-1, ""));
 }
 
-TEST_F(PortraitsTest, BrokenAndHugePicturesAreNotFound) {
-  folder.Put("Player1.bmp", "BM no picture");
-  EXPECT_FALSE(Found(-1, ""));
-  PutPicture("big.bmp", "bmp", 5000, 1);
-  EXPECT_FALSE(Found(7, "big"));
+std::string Jpeg(int width, int height) {
+  QImage image(width, height, QImage::Format_RGB32);
+  image.fill(Qt::red);
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  EXPECT_TRUE(image.save(&buffer, "jpg"));
+  return bytes.toStdString();
+}
+
+/// A number as bytes, the lowest first or, for a negative count, last.
+std::string Bytes(std::uint32_t number, int count) {
+  std::string bytes;
+  for (int i = 0; i < std::abs(count); ++i) bytes.push_back(static_cast<char>(number >> 8 * i));
+  return count > 0 ? bytes : std::string(bytes.rbegin(), bytes.rend());
+}
+
+/// The same JPEG claiming another kind of frame, another size, and `scans` scans.
+std::string Forged(std::string jpeg, char frame, int side, int scans) {
+  const std::size_t at = jpeg.find("\xFF\xC0");
+  jpeg[at + 1] = frame;
+  if (side > 0)
+    jpeg.replace(at + 5, 4,
+                 Bytes(static_cast<std::uint32_t>(side), -2) + Bytes(static_cast<std::uint32_t>(side), -2));
+  const std::size_t scan = jpeg.find("\xFF\xDA");
+  const std::string once = jpeg.substr(scan, jpeg.size() - 2 - scan);
+  for (int i = 1; i < scans; ++i) jpeg.insert(scan, once);
+  return jpeg;
+}
+
+std::string Bmp(std::uint32_t width, std::uint32_t height, std::uint32_t bits, std::uint32_t packing = 0) {
+  return "BM" + Bytes(154, 4) + Bytes(0, 4) + Bytes(54, 4) + Bytes(40, 4) + Bytes(width, 4) +
+         Bytes(height, 4) + Bytes(1, 2) + Bytes(bits, 2) + Bytes(packing, 4) + std::string(120, '\0');
+}
+
+std::string Gif(std::uint32_t screen, std::uint32_t frame) {
+  return "GIF89a" + Bytes(screen, 2) + Bytes(screen, 2) + std::string("\x80\0\0\xFF\0\0\0\0\xFF", 9) + "," +
+         Bytes(0, 4) + Bytes(frame, 2) + Bytes(frame, 2) + std::string("\0\x02\x02\x44\x01\0;", 7);
+}
+
+TEST_F(PortraitsTest, HostileFilesFallBackToTheBuiltInPortrait) {
+  const std::string small = Jpeg(40, 20);
+  const std::string large = Jpeg(4000, 3000);
+  struct Case {
+    const char* name;
+    std::string bytes;
+    bool found;
+  };
+  const std::vector<Case> cases = {
+      {"a.jpg", small, true},
+      {"b.jpg", large, true},
+      {"empty.jpg", "", false},
+      {"text.bmp", "BM no picture", false},
+      {"script.gif", "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>", false},
+      {"cut.jpg", small.substr(0, small.size() / 3), false},
+      {"side.jpg", Forged(small, '\xC0', 30000, 1), false},
+      {"several.jpg", Forged(large, '\xC2', 0, 1), false},
+      {"scans.jpg", Forged(small, '\xC2', 0, 5000), false},
+      {"work.jpg", Forged(small, '\xC2', 2800, 60), false},
+      {"wide.bmp", Bmp(30000, 30000, 1), false},
+      {"packed.bmp", Bmp(4000, 4000, 8, 1), false},
+      {"negative.bmp", Bmp(0x80000000U, 0x80000000U, 24), false},
+      {"overflow.bmp", Bmp(0x10001, 0x10001, 32), false},
+      {"screen.gif", Gif(65535, 1), false},
+      {"frame.gif", Gif(1, 65535), true},  // cut to its screen
+      {"unset.gif", Gif(0, 65535), false},
+      {"fine.gif", Gif(1, 1), true},
+      {"fat.bmp", std::string(17 << 20, 'B'), false},
+  };
+  for (const Case& c : cases) {
+    folder.Put(c.name, c.bytes);
+    EXPECT_EQ(Found(7, std::filesystem::path(c.name).stem().string()), c.found) << c.name;
+  }
+}
+
+TEST_F(PortraitsTest, WhatIsNoPlainFileIsPassedOver) {
+  const auto at = [this](const char* name) { return folder / name; };
+  std::filesystem::create_directory(at("folder.jpg"));
+  std::filesystem::create_symlink("loop.jpg", at("loop.jpg"));
+  std::filesystem::create_symlink("/dev/zero", at("device.jpg"));
+  ASSERT_EQ(::mkfifo(at("pipe.jpg").c_str(), 0600), 0);
+  PutPicture("locked.jpg", "jpg");
+  std::filesystem::permissions(at("locked.jpg"), std::filesystem::perms::none);
+  for (const char* name : {"folder", "loop", "device", "pipe"}) EXPECT_FALSE(Found(7, name)) << name;
+  EXPECT_EQ(Found(7, "locked"), ::geteuid() == 0);
+}
+
+TEST_F(PortraitsTest, ASheetOfPortraitsIsReducedAndNotKept) {
+  constexpr std::array kNumbers = {7, 65, 6};
+  const std::vector<Picture> sheet = portraits.GetReduced(kNumbers, "0", 50);
+  ASSERT_EQ(sheet.size(), 3U);
+  EXPECT_EQ(sheet[1].image()->size(), QSize(50, 50));
+  EXPECT_TRUE(sheet[2].empty());
+  EXPECT_NE(portraits.GetReduced(kNumbers, "0", 50)[0], sheet[0]);
+  PutPicture("0.gif.bmp", "bmp");
+  for (const Picture& picture : portraits.GetReduced(kNumbers, "0", 50)) {
+    EXPECT_EQ(picture.image()->deviceIndependentSize(), QSizeF(50, 50));
+    EXPECT_EQ(QColor(picture.image()->pixel(3, 3)), QColor(Qt::red));
+  }
 }
 
 TEST_F(PortraitsTest, APeersNameCannotLeaveTheFolderOrMatchAnything) {
