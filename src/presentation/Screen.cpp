@@ -16,8 +16,8 @@ Screen::Screen(const ScreenServices& services, std::string_view name, std::strin
   setMouseTracking(true);
   setFocusPolicy(Qt::StrongFocus);
   setFixedSize(layout_.size());
-  LoadBackground();
   const PropertyBag window = layout_.has(u"window") ? layout_.bag(u"window") : PropertyBag();
+  if (window.has(u"picture")) background_ = TintedPicture(window.number(u"picture"));
   RoundWindow(*this, window.number(u"corners", kScreenCorners));
 }
 
@@ -26,12 +26,13 @@ Screen::~Screen() {
   lifetime_.Close();
 }
 
-void Screen::LoadBackground() {
-  if (!layout_.has(u"window")) return;
-  const PropertyBag window = layout_.bag(u"window");
-  background_ = services().getPic(window.number(u"picture"));
-  if (background_.empty() || !window.has(u"tint")) return;
-  QImage image = background_.image()->convertToFormat(QImage::Format_RGB32);
+Picture Screen::TintedPicture(int number) const {
+  const Picture picture = services().getPic(number);
+  const PropertyBag window = layout_.has(u"window") ? layout_.bag(u"window") : PropertyBag();
+  if (picture.empty() || !window.has(u"tint")) return picture;
+  QImage image = picture.image()->convertToFormat(QImage::Format_RGB32);
+  const double ratio = image.devicePixelRatio();
+  image.setDevicePixelRatio(1);
   QColor tint = window.colour(u"tint");
   QPainter painter(&image);
   // Keeps the light and the shadows of the picture and gives it another hue.
@@ -39,7 +40,8 @@ void Screen::LoadBackground() {
   tint.setAlpha(window.number(u"tint_strength", 255));
   painter.fillRect(image.rect(), tint);
   painter.end();
-  background_ = Picture(std::make_shared<const QImage>(std::move(image)));
+  image.setDevicePixelRatio(ratio);
+  return Picture(std::make_shared<const QImage>(std::move(image)));
 }
 
 void Screen::Open(std::optional<QPoint> centre) {

@@ -53,6 +53,8 @@ class Screen : public QWidget {
   ctlButton* NewButton(QStringView control, std::function<void()> click);
   /// The layout's "ctlTitlebar". Its Quit is the screen's to set.
   ctlTitlebar* NewTitlebar();
+  /// A picture of the data file in the window's tint, to lie on the background without a seam.
+  [[nodiscard]] Picture TintedPicture(int number) const;
   [[nodiscard]] std::unique_ptr<Timer> NewTimer(int milliseconds, std::function<void()> tick) const;
   /// Sound, question, pause: shorthand for what every screen does.
   void PlayEffect(std::string_view effect) { services().buttons.PlayEffect(effect); }
@@ -67,8 +69,6 @@ class Screen : public QWidget {
   void mouseMoveEvent(QMouseEvent* event) override;
 
  private:
-  void LoadBackground();
-
   const ScreenServices screenServices_;
   Layout layout_;
   Lifetime lifetime_;

@@ -11,6 +11,7 @@
 
 #include "presentation/FadeTarget.h"
 #include "presentation/Screen.h"
+#include "presentation/TitleButton.h"
 #include "presentation/WindowDrag.h"
 #include "profile/clsPlayer.h"
 
@@ -54,36 +55,45 @@ class frmSplash final : public Screen {
   // What the screen shows: the list, or one of the two steps of creating a player.
   enum class View { List, PlayerName, FileName };
 
-  void BuildTitle();
   void BuildList();
   void BuildCreation();
   void BuildFrame();
-  QLineEdit* NewBox(QStringView control, int maxLength);
+  void BuildTitle();
+  QLineEdit* NewBox(QStringView control);
   PinBox* NewPinBox(QStringView control);
-  void Show(View view);
+  void Dress(QStringView control, QLineEdit& box);
+  TextLink* NewLink(QStringView control);
+  TitleButton* NewTitleButton(QStringView control, TitleButton::Sign sign);
+  void ShowView(View view);
 
   void RefreshPlayerList();
   void PlayerSelected();
-  void SelectPlayer(const std::string& name);
+  void MoveSelection(int rows);
+  void SelectPlayer(const std::string& name, const std::string& pin);
+  void FocusList();
+  void EnableList(bool enabled);
   void Continue();
   void LoadFailed();
   void LoadWatchTick();
-  void EnableControls(bool enabled);
 
   void Create();
   void CheckPlayerName();
   void NewName();
   void CheckFileName();
+  void TrimFileName();
   void NewFile();
   void BackToList();
 
-  /// What the Enter key does in the present view; null while that is not allowed.
+  /// The button of the step that the Enter key performs.
   [[nodiscard]] ctlButton* StepButton() const;
   void cmdNew2();
 
-  void StartTitle();
+  void StartFadeIn();
+  void InitialTick();
   void PulseTick();
   void EndPulse();
+  void StopTitle();
+  void TitleMoved(const QMouseEvent& event);
 
   const frmSplashServices splash_;
   std::vector<std::string> players_;  // the list's entries, in its order
