@@ -9,10 +9,21 @@ namespace {
 
 constexpr std::int32_t kAnyStake = 10;
 
-/// The screen, the book and the dialogs of a match that nobody watches.
+/// A book that nobody reads.
+class NoBook final : public MatchBooking {
+ public:
+  explicit NoBook(clsGame& game) : game_(game) {}
+  void SaveWin() override { game_.Wager = -1; }
+  void SaveLoss() override { game_.Wager = -1; }
+
+ private:
+  clsGame& game_;
+};
+
+/// The screen and the dialogs of a match that nobody watches; notes who won on the way to the book.
 class NobodyWatches final : public MatchView, public MatchBooking, public Dialogs {
  public:
-  NobodyWatches(clsGame& game, const MatchObserver& observer) : game_(game), observer_(observer) {}
+  NobodyWatches(MatchBooking& book, const MatchObserver& observer) : book_(book), observer_(observer) {}
 
   HeadlessResult Play(MatchEngine& engine) {
     engine_ = &engine;
@@ -50,8 +61,14 @@ class NobodyWatches final : public MatchView, public MatchBooking, public Dialog
   bool Pause(int) override { return true; }
   void Leave() override { left_ = true; }
 
-  void SaveWin() override { Book(Seat::Player); }
-  void SaveLoss() override { Book(Seat::Opponent); }
+  void SaveWin() override {
+    result_.winner = Seat::Player;
+    book_.SaveWin();
+  }
+  void SaveLoss() override {
+    result_.winner = Seat::Opponent;
+    book_.SaveLoss();
+  }
 
   void Message(const std::string&, const std::string&, DialogIcon) override {}
   bool AskYesNo(const std::string&, const std::string&, DialogIcon) override { return false; }
@@ -64,11 +81,6 @@ class NobodyWatches final : public MatchView, public MatchBooking, public Dialog
     if (observer_) observer_(*engine_);
   }
 
-  void Book(Seat winner) {
-    result_.winner = winner;
-    game_.Wager = -1;
-  }
-
   void CountSet() {
     ++result_.sets;
     result_.ties = result_.sets - result_.setWins[0] - result_.setWins[1];
@@ -77,7 +89,7 @@ class NobodyWatches final : public MatchView, public MatchBooking, public Dialog
     }
   }
 
-  clsGame& game_;
+  MatchBooking& book_;
   const MatchObserver& observer_;
   MatchEngine* engine_ = nullptr;
   HeadlessResult result_;
@@ -96,10 +108,16 @@ HeadlessResult PlayHeadless(const HeadlessSetup& setup, Random& random, const Ma
   AI_SortDeck(*game.CompDeck);
   // The strategy is lent for the length of the match; the record does not own it.
   game.AI = std::shared_ptr<Strategy>(std::shared_ptr<Strategy>(), &setup.opponent);
-  NobodyWatches screen(game, observer);
+  NoBook book(game);
+  return PlayPrepared(game, setup.player, book, setup.options, random, observer);
+}
+
+HeadlessResult PlayPrepared(clsGame& game, Strategy& player, MatchBooking& booking,
+                            const MatchOptions& options, Random& random, const MatchObserver& observer) {
+  NobodyWatches screen(booking, observer);
   MatchNetwork network;
-  MatchEngine engine(game, setup.options, screen, network, screen, screen, random);
-  engine.setPlayerStrategy(&setup.player);
+  MatchEngine engine(game, options, screen, network, screen, screen, random);
+  engine.setPlayerStrategy(&player);
   return screen.Play(engine);
 }
 

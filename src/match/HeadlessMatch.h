@@ -33,4 +33,10 @@ using MatchObserver = std::function<void(const MatchEngine&)>;
 [[nodiscard]] HeadlessResult PlayHeadless(const HeadlessSetup& setup, Random& random,
                                           const MatchObserver& observer = {});
 
+/// Plays the match that `game` holds ready: hands dealt, a strategy for the opponent, a stake open. `player`
+/// sits in the player's seat; `booking` books the result and so closes the stake.
+[[nodiscard]] HeadlessResult PlayPrepared(clsGame& game, Strategy& player, MatchBooking& booking,
+                                          const MatchOptions& options, Random& random,
+                                          const MatchObserver& observer = {});
+
 }  // namespace kv
