@@ -1,9 +1,12 @@
 // The game. It takes no options: everything it remembers is in the player file.
 #include <QApplication>
+#include <QDesktopServices>
+#include <QUrl>
 #include <filesystem>
 
 #include "app/AccessibleRoles.h"
 #include "app/Program.h"
+#include "app/SingleInstance.h"
 #include "app/StartCheck.h"
 #include "platform/Folders.h"
 #include "platform/QtDialogs.h"
@@ -12,7 +15,30 @@
 #include "platform/SdlSoundDevice.h"
 #include "presentation/Fonts.h"
 
+namespace {
+
+void OpenFolder(const std::string& folder) {
+  std::error_code error;
+  const std::string absolute = std::filesystem::absolute(folder, error).string();
+  QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(absolute)));
+}
+
+void OpenAddress(const std::string& address) {
+  QDesktopServices::openUrl(QUrl::fromUserInput(QString::fromStdString(address)));
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
+  // Everything that the player owns is found in the working folder from here on.
+  const std::string programFolder = kv::ProgramFolder();
+  const std::string playerFolder = kv::UserFolder();
+  std::error_code error;  // a folder that cannot be made is told when the player is saved
+  std::filesystem::create_directories(playerFolder, error);
+  std::filesystem::current_path(playerFolder, error);
+  const kv::SingleInstance instance(playerFolder);
+  if (instance.OtherRuns()) return 0;
+
   // The game draws everything itself: a desktop's own theme would only cost memory and time.
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORMTHEME")) qputenv("QT_QPA_PLATFORMTHEME", "generic");
   QApplication application(argc, argv);
@@ -21,22 +47,19 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);
   kv::InstallAccessibleRoles();
 
-  const std::string programFolder = kv::ProgramFolder();
-  const std::string playerFolder = kv::UserFolder();
-  std::error_code error;  // a folder that cannot be made is told when the player is saved
-  std::filesystem::create_directories(playerFolder, error);
-  std::filesystem::current_path(playerFolder, error);
-
   kv::QtScheduler scheduler;
   kv::QtDialogs dialogs(scheduler);
-  if (!kv::CheckDataFile(programFolder, dialogs)) return 1;
+  if (!kv::CheckProgramFiles(programFolder, {}, dialogs)) return 1;
   kv::SystemRandom random;
   kv::SdlSoundDevice sound(scheduler);
   kv::QtFontSystem fonts;
   for (const kv::DisplayFont& font : kv::kDisplayFonts) {
     kv::InstallFont(programFolder + "/" + font.file, font.name, false, fonts, dialogs);
   }
-  kv::Program program({scheduler, dialogs, random, sound, &QCoreApplication::quit}, {programFolder, {}});
+  // A plain end of the event loop: asking every window first whether it may be closed would let one refuse.
+  const auto quit = [] { QCoreApplication::exit(0); };
+  kv::Program program({scheduler, dialogs, random, sound, quit, OpenFolder, OpenAddress},
+                      {programFolder, {}, kv::PortraitFolder(programFolder, {})});
   program.Start();
   return QApplication::exec();
 }
