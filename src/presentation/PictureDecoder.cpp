@@ -14,6 +14,8 @@ namespace {
 
 /// Plain raster formats only: others of the toolkit's decoders can be asked for far more work than they look.
 constexpr std::array kFormats = {"jpeg", "gif", "png", "bmp", "tiff"};
+/// What a portrait may be, whatever its file's name says.
+constexpr std::array kPortraitFormats = {"jpeg", "gif", "bmp"};
 
 std::int64_t PixelsOf(QSize size) {
   return std::int64_t{size.width()} * size.height();
@@ -49,11 +51,13 @@ class PictureFile {
     reader_.setDevice(&buffer_);
   }
 
-  /// False for what is no picture and for what asks for too much. `reduced` is the size that will do.
-  [[nodiscard]] bool Accept(const std::function<QSize(QSize stored)>& reducedSize) {
+  /// False for what is no picture of these formats and for what asks for too much. `reducedSize` tells the
+  /// size that will do.
+  [[nodiscard]] bool Accept(std::span<const char* const> formats,
+                            const std::function<QSize(QSize stored)>& reducedSize) {
     if (bytes_.empty()) return false;
     const QByteArray format = reader_.format();
-    if (std::ranges::none_of(kFormats, [&](const char* known) { return format == known; })) return false;
+    if (std::ranges::none_of(formats, [&](const char* known) { return format == known; })) return false;
     const QSize stored = reader_.size();
     if (!WithinSide(stored)) return false;
     const QSize reduced = reducedSize(stored);
@@ -62,11 +66,9 @@ class PictureFile {
       if (!Affordable(ScansOf(bytes_), stored)) return false;
       // JPEG reduces while it decodes, so the large image never exists.
       if (smaller) reader_.setScaledSize(reduced);
-      return smaller || PixelsOf(stored) <= kMaxWholePixels;
+      return smaller || MayBeWhole(stored);
     }
-    if (format == "gif" && !WithinSide(GifScreen(bytes_))) return false;
-    return PixelsOf(stored) <= kMaxWholePixels &&
-           (format != "gif" || PixelsOf(GifScreen(bytes_)) <= kMaxWholePixels);
+    return MayBeWhole(format == "gif" ? GifScreen(bytes_) : stored) && MayBeWhole(stored);
   }
 
   [[nodiscard]] QImage Read() {
@@ -80,6 +82,8 @@ class PictureFile {
   static bool WithinSide(QSize size) {
     return !size.isEmpty() && std::max(size.width(), size.height()) <= kMaxPictureSide;
   }
+
+  static bool MayBeWhole(QSize size) { return WithinSide(size) && PixelsOf(size) <= kMaxWholePixels; }
 
   std::span<const std::byte> bytes_;
   QByteArray raw_;
@@ -96,7 +100,7 @@ QImage DecodePicture(std::span<const std::byte> bytes, QSize limit) {
     reduce = !limit.isEmpty() && limit.width() < stored.width();
     return reduce ? limit : stored;
   };
-  if (!file.Accept(reduced)) return {};
+  if (!file.Accept(kFormats, reduced)) return {};
   QImage image = file.Read();
   if (reduce && !image.isNull() && image.size() != limit) {
     image = image.scaled(limit, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
@@ -110,7 +114,7 @@ QImage DecodeSquare(std::span<const std::byte> bytes, int side) {
     const bool reduce = std::min(stored.width(), stored.height()) > side;
     return reduce ? stored.scaled(side, side, Qt::KeepAspectRatioByExpanding) : stored;
   };
-  if (!file.Accept(reduced)) return {};
+  if (!file.Accept(kPortraitFormats, reduced)) return {};
   const QImage image = file.Read();
   if (image.isNull()) return {};
   const int edge = std::min(image.width(), image.height());

@@ -19,15 +19,15 @@ inline constexpr std::int64_t kMaxWholePixels = std::int64_t{4} << 20;
 inline constexpr std::int64_t kMaxCoefficients = std::int64_t{24} << 20;
 /// Scans of one JPEG. Real files have about ten; a forged one can have thousands, each as dear as a picture.
 inline constexpr int kMaxScans = 64;
-/// Coefficients times scans: what a JPEG of several scans may cost, about a second at most.
+/// Coefficients times scans: what a JPEG of several scans may cost, some tenths of a second at most.
 inline constexpr std::int64_t kMaxScanWork = 12 * kMaxCoefficients;
 
 /// The decoded image in its stored size, or reduced to `limit` when that is smaller and not empty. A null
 /// image for bytes that are broken or ask for more than the limits above. No alpha channel unless it is used.
 [[nodiscard]] QImage DecodePicture(std::span<const std::byte> bytes, QSize limit = {});
 
-/// The middle square of the picture, of `side` pixels or, when the picture is smaller, of as many as it has.
-/// Within the same limits, and without a second image of the stored size.
+/// The middle square of a JPEG, GIF or BMP, of `side` pixels or, when the picture is smaller, of as many as
+/// it has. Within the same limits, and without a second image of the stored size.
 [[nodiscard]] QImage DecodeSquare(std::span<const std::byte> bytes, int side);
 
 }  // namespace kv

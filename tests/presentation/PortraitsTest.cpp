@@ -152,6 +152,8 @@ TEST_F(PortraitsTest, WhatIsNoPlainFileIsPassedOver) {
   std::filesystem::permissions(at("locked.jpg"), std::filesystem::perms::none);
   for (const char* name : {"folder", "loop", "device", "pipe"}) EXPECT_FALSE(Found(7, name)) << name;
   EXPECT_EQ(Found(7, "locked"), ::geteuid() == 0);
+  PutPicture("other.jpg", "png");
+  EXPECT_FALSE(Found(7, "other"));
 }
 
 TEST_F(PortraitsTest, ASheetOfPortraitsIsReducedAndNotKept) {
