@@ -44,7 +44,7 @@ class frmCampaign final : public Screen {
   void BuildTarget(int index);
   void ShowAccount();
   /// The layout's control of this name, or its place in the finished campaign.
-  [[nodiscard]] QString PlaceOf(QStringView control) const;
+  [[nodiscard]] QString PlaceOf(QStringView control);
   void Choose(int index);
   void ViewDeck();
   /// Back to the menu.

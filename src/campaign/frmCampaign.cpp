@@ -1,0 +1,198 @@
+#include "campaign/frmCampaign.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "match/clsGame.h"
+#include "presentation/PanelPainter.h"
+
+namespace kv {
+namespace {
+
+constexpr const char* kDefeatTitle = "Vantri Arcade: Defeat!";
+constexpr const char* kDefeatText =
+    "You are bankrupt with no extra cards to sell. You can start a new campaign by double-clicking the "
+    "campaign "
+    "stats text in the main menu.";
+constexpr int kNarrowTiles = 5;
+// A name that no portrait file bears: opponents look the same to everybody.
+constexpr std::string_view kNobody = "0";
+constexpr QColor kPressedFrame(255, 255, 255);
+
+QString ToText(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString TileName(int index) {
+  return QStringLiteral("ctlOpp%1").arg(index);
+}
+
+}  // namespace
+
+frmCampaign::frmCampaign(const ScreenServices& services, clsPlayer& player, clsGame& game)
+    : Screen(services, "frmCampaign", player.Interface_Opt), player_(player), circuit_(game, player) {
+  for (const QStringView heading : {u"lblName", u"lblCredits", u"lblWins", u"lblLosses"}) {
+    NewAccountLabel(heading);
+  }
+  lblPName_ = NewAccountLabel(u"lblPName");
+  lblPCredits_ = NewAccountLabel(u"lblPCredits");
+  lblPWins_ = NewAccountLabel(u"lblPWins");
+  lblPLosses_ = NewAccountLabel(u"lblPLosses");
+  NewAccountLabel(u"lblHint")->setVisible(!circuit_.Finished());
+  for (int i = 0; i < kCircuitTiles; ++i) BuildTile(i);
+  cmdDeck_ = NewButton(u"cmdDeck", [this] { ViewDeck(); });
+  cmdDeck_->setGeometry(layout().rect(PlaceOf(u"cmdDeck")));
+  ctlTitlebar_ = NewTitlebar();
+  ctlTitlebar_->Quit = [this] { Close(); };
+}
+
+frmCampaign::~frmCampaign() {
+  CloseScreen();
+}
+
+QString frmCampaign::PlaceOf(QStringView control) {
+  const QString wide = control.toString() + QStringLiteral("Wide");
+  return circuit_.Finished() && layout().has(wide) ? wide : control.toString();
+}
+
+QLabel* frmCampaign::NewAccountLabel(QStringView control) {
+  QLabel* label = layout().NewLabel(control, this);
+  label->setGeometry(layout().rect(PlaceOf(control)));
+  return label;
+}
+
+void frmCampaign::BuildTile(int index) {
+  const CircuitTile tile = circuit_.Tile(index);
+  const QString name = TileName(index);
+  auto* shown = new ctlOpponent(this, layout(), [this, index](int number) {
+    bool found = false;
+    return services().portraits.GetPortrait(number, index == kYourself ? std::string_view() : kNobody, found);
+  });
+  shown->ReadProperties(layout().bag(name));
+  shown->setObjectName(name);
+  shown->move(layout().rect(PlaceOf(name)).topLeft());
+  shown->setOppName(ToText(tile.opponent.name));
+  shown->setMinWager(tile.opponent.minWager);
+  shown->setMaxWager(tile.opponent.maxWager);
+  shown->setOppPic(tile.opponent.portrait);
+  shown->setWins(tile.wins);
+  if (!tile.enabled) {
+    shown->setNote(QStringLiteral("needs %1 credits").arg(tile.opponent.minWager));
+    shown->setEnabled(false);
+  }
+  shown->setVisible(tile.visible);
+  shown->setAccessibleName(shown->Description());
+  tiles_.at(static_cast<std::size_t>(index)) = shown;
+  if (tile.enabled) BuildTarget(index);
+}
+
+void frmCampaign::BuildTarget(int index) {
+  ctlOpponent& tile = ctlOpp(index);
+  auto* target = new frmCampaignTarget(this);
+  const QString name = TileName(index);
+  layout().Place(name, *target);
+  target->setObjectName(QStringLiteral("cmdOpp%1").arg(index));
+  target->setGeometry(tile.geometry());
+  target->setAccessibleName(tile.Description());
+  target->Entered = [this, &tile] {
+    PlainHighlights();
+    tile.Color(layout().bag(u"ctlOpponent").colour(u"hover_color", Qt::white));
+    services().buttons.PlayHover();
+  };
+  target->Pressed = [&tile] { tile.Color(kPressedFrame); };
+  target->Left = [&tile] {
+    if (tile.Enabled()) tile.unColor();
+  };
+  target->Click = [this, index] { Choose(index); };
+  targets_.at(static_cast<std::size_t>(index)) = target;
+}
+
+void frmCampaign::Activate() {
+  ShowAccount();
+  if (circuit_.TakeLevelUp()) PlayEffect("levelup");
+}
+
+void frmCampaign::ShowAccount() {
+  const QString name = QString::fromStdString(player_.Name);
+  lblPName_->setText(lblPName_->fontMetrics().elidedText(name, Qt::ElideRight, lblPName_->width()));
+  lblPName_->setAccessibleName(QStringLiteral("Name: ") + name);
+  const auto show = [](QLabel& label, const QString& heading, int value) {
+    label.setText(QString::number(value));
+    label.setAccessibleName(heading + label.text());
+  };
+  show(*lblPCredits_, QStringLiteral("Credits: "), player_.Credits->Value);
+  show(*lblPWins_, QStringLiteral("Wins: "), player_.Wins->Value);
+  show(*lblPLosses_, QStringLiteral("Losses: "), player_.Losses->Value);
+}
+
+void frmCampaign::Shown() {
+  if (!circuit_.Bankrupt() || !Begin()) return;
+  services().dialogs.Message(kDefeatText, kDefeatTitle, DialogIcon::Information);
+  if (closing()) return;
+  busy_ = false;
+  Close();
+}
+
+bool frmCampaign::Begin() {
+  if (busy_ || closing()) return false;
+  busy_ = true;
+  setFocus();  // else the focus would wander from tile to tile as they are disabled
+  for (frmCampaignTarget* target : targets_) {
+    if (target != nullptr) target->setEnabled(false);
+  }
+  cmdDeck_->setEnabled(false);
+  ctlTitlebar_->setEnabled(false);
+  return true;
+}
+
+void frmCampaign::Choose(int index) {
+  if (!Begin()) return;
+  PlayEffect("click");
+  if (!circuit_.Choose(index)) return;
+  ctlOpp(index).setEnabled(false);
+  services().navigator.OpenCards();
+}
+
+void frmCampaign::ViewDeck() {
+  if (!Begin()) return;
+  circuit_.ChooseDeckView();
+  services().navigator.OpenCards();
+}
+
+void frmCampaign::Close() {
+  if (!Begin()) return;
+  PlayEffect("click");
+  services().navigator.OpenMenu();
+}
+
+void frmCampaign::LeaveProgram() {
+  if (!closing()) services().navigator.EndProgram();
+}
+
+void frmCampaign::PlainHighlights() {
+  Screen::PlainHighlights();
+  for (ctlOpponent* tile : tiles_) {
+    if (tile->Enabled()) tile->unColor();
+  }
+}
+
+void frmCampaign::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape && !event->isAutoRepeat()) {
+    Close();
+  } else {
+    Screen::keyPressEvent(event);
+  }
+}
+
+void frmCampaign::paintEvent(QPaintEvent* event) {
+  Screen::paintEvent(event);
+  QPainter painter(this);
+  const QString account = PlaceOf(u"panelAccount");
+  PaintPanel(painter, layout().rect(account), layout().bag(account));
+  // The places of the opponents who are still to come.
+  for (int i = 0; i < kNarrowTiles; ++i) {
+    if (ctlOpp(i).isHidden()) PaintPanel(painter, ctlOpp(i).geometry(), layout().bag(u"panelEmpty"));
+  }
+}
+
+}  // namespace kv
