@@ -1,37 +1,44 @@
-// Every screen with sample data, rendered into picture files. It plays on a clock of its own and leaves
-// nothing but the files.
+// The pictures of every screen with sample data, in one style and at one scale. They are played on a clock of
+// its own, and nothing but the picture files is left.
 #pragma once
 
+#include <QWidget>
 #include <string>
 #include <vector>
 
-#include "support/MatchScreen.h"
+#include "support/ScreenStage.h"
 
 namespace kv {
 
 class Gallery {
  public:
   /// Files are named <folder>/<style>-<screen>@<scale>.png; the folder must exist.
-  Gallery(std::string folder, std::string style, int scale);
+  Gallery(std::string folder, std::string style, int scale)
+      : folder_(std::move(folder)), style_(std::move(style)), scale_(scale) {}
 
   /// Renders everything; the names of files that could not be written.
   [[nodiscard]] std::vector<std::string> Render();
 
- private:
-  void MatchStart();
-  void MatchTurn();
-  void MatchOpponent();
-  void MatchSetWon();
-  void MatchWon();
-  void MatchNetwork();
-  void Cards();
-  [[nodiscard]] test::MatchScreenSetup Setup(std::vector<int> draws) const;
   void Save(QWidget& screen, const std::string& name);
+  [[nodiscard]] const std::string& style() const { return style_; }
+  [[nodiscard]] int scale() const { return scale_; }
 
-  std::string folder_;
-  std::string style_;
-  int scale_;
+ private:
+  const std::string folder_;
+  const std::string style_;
+  const int scale_;
   std::vector<std::string> failed_;
 };
+
+/// Each renders one group of screens.
+void RenderStart(Gallery& gallery);
+void RenderMenu(Gallery& gallery);
+void RenderOptions(Gallery& gallery);
+void RenderPortraits(Gallery& gallery);
+void RenderCampaign(Gallery& gallery);
+void RenderMatch(Gallery& gallery);
+
+/// A player a good way into the game, in this style.
+void FillSamplePlayer(clsPlayer& player);
 
 }  // namespace kv

@@ -1,0 +1,107 @@
+// The start screen, the main menu, the options and the portrait picker.
+#include <QLineEdit>
+#include <QListWidget>
+
+#include "Gallery.h"
+#include "screens/PlayerFiles.h"
+#include "screens/frmMenu.h"
+#include "screens/frmOptions.h"
+#include "screens/frmPortraits.h"
+#include "screens/frmSplash.h"
+#include "support/ScreenHand.h"
+#include "support/TempFolder.h"
+
+namespace kv {
+namespace {
+
+template <typename Kind>
+Kind& Child(Screen& screen, const char* name) {
+  return *screen.findChild<Kind*>(QString::fromLatin1(name));
+}
+
+void Click(test::ScreenStage& stage, Screen& screen, const char* control) {
+  test::ScreenHand(screen).Click(Child<QWidget>(screen, control));
+  stage.Settle(500);
+}
+
+/// The caller that the picker tells of a choice; the gallery makes none.
+struct NoCaller final : PortraitCaller {
+  void PortraitChosen(const Picture&) override {}
+};
+
+void Picker(Gallery& gallery, bool own) {
+  const test::TempFolder folder;
+  test::ScreenStage stage(gallery.style(), gallery.scale(), folder.path());
+  FillSamplePlayer(stage.player);
+  if (own) {
+    QImage picture(kPortraitSide, kPortraitSide, QImage::Format_RGB32);
+    picture.fill(QColor(70, 130, 90));
+    picture.save(QString::fromStdString(folder / "mara.jpg"));
+  }
+  NoCaller caller;
+  frmPortraits picker(stage.services(), stage.player, caller, {folder.path(), {}});
+  picker.Open();
+  stage.Settle();
+  gallery.Save(picker, own ? "portraits-own" : "portraits");
+}
+
+}  // namespace
+
+void RenderStart(Gallery& gallery) {
+  const test::TempFolder folder;
+  test::ScreenStage stage(gallery.style(), gallery.scale());
+  const auto newPlayer = [&stage] { return std::make_unique<clsPlayer>(stage.dialogs, stage.padding); };
+  for (const char* name : {"bram", "mara", "old rival", "teth"}) {
+    static_cast<void>(CreatePlayerFile(*newPlayer(), folder.path(), name));
+  }
+  frmSplash splash(stage.services(), {folder.path(), newPlayer, {}}, gallery.style());
+  splash.Open();
+  stage.Settle();
+  Child<QListWidget>(splash, "lstPlayers").setCurrentRow(1);
+  gallery.Save(splash, "start-list");
+  Click(stage, splash, "cmdCreate");
+  Child<QLineEdit>(splash, "txtPlayer").setText(QStringLiteral("Lior"));
+  gallery.Save(splash, "start-name");
+  Click(stage, splash, "cmdNewName");
+  gallery.Save(splash, "start-file");
+}
+
+void RenderMenu(Gallery& gallery) {
+  struct State {
+    const char* name;
+    void (*change)(clsPlayer& player);
+  };
+  constexpr State kStates[] = {{"menu", [](clsPlayer&) {}},
+                               {"menu-defeated", [](clsPlayer& player) { player.Credits->Value = 0; }},
+                               {"menu-victory", [](clsPlayer& player) {
+                                  player.Orrin_Wins->Value = 10;
+                                  player.Arcade_Best = 2'000'000'000;
+                                }}};
+  for (const auto& [name, change] : kStates) {
+    test::ScreenStage stage(gallery.style(), gallery.scale());
+    FillSamplePlayer(stage.player);
+    change(stage.player);
+    frmMenu menu(stage.services(), stage.player);
+    menu.Open();
+    stage.Settle();
+    gallery.Save(menu, name);
+  }
+}
+
+void RenderOptions(Gallery& gallery) {
+  test::ScreenStage stage(gallery.style(), gallery.scale());
+  FillSamplePlayer(stage.player);
+  frmOptions options(stage.services(), stage.player);
+  options.Open();
+  stage.Settle();
+  gallery.Save(options, "options");
+  Click(stage, options, "cmdKeys");
+  gallery.Save(options, "options-keys");
+}
+
+void RenderPortraits(Gallery& gallery) {
+  Picker(gallery, false);
+  Picker(gallery, true);
+}
+
+}  // namespace kv
