@@ -60,8 +60,8 @@ void DrawPlate(QPainter& painter, const QRect& r, const QColor& color) {
   painter.fillRect(r, metal);
 }
 
-void DrawPane(QPainter& painter, const QRect& r, const QColor& color) {
-  if (color.lightness() < kDarkestOnDark) {
+void DrawPane(QPainter& painter, const QRect& r, const QColor& color, bool captioned) {
+  if (captioned && color.lightness() < kDarkestOnDark) {
     DrawPlate(painter, r, color);
   } else {
     DrawDarkPane(painter, r, color);
@@ -142,7 +142,7 @@ void ctlButton::Paint(const QColor& color) {
 
 void ctlButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  DrawPane(painter, rect(), color_);
+  DrawPane(painter, rect(), color_, !caption_.isEmpty());
   const bool byKeyboard = window()->testAttribute(Qt::WA_KeyboardFocusChange);
   if (hasFocus() && byKeyboard) DrawFrame(painter, rect().adjusted(3, 3, -3, -3), color_);
   // A substitute typeface may run wider than the one the layout was made for.

@@ -93,9 +93,7 @@ void frmOptions::HideKeyFrame() {
 void frmOptions::getKey(int index) {
   // With the focus on the screen itself every key comes here first; the frame's own controls get none.
   setFocus();
-  frmeKeys_->cmdKeysDone().setEnabled(false);
-  frmeKeys_->setEnabled(false);
-  frmeKeys_->setTitle(QStringLiteral("Push key...(esc = none)"));
+  frmeKeys_->BeginWaiting(index);
   waiting_ = index;
 }
 
@@ -110,12 +108,7 @@ void frmOptions::KeyCaught(std::int16_t keyCode) {
   waiting_.reset();
   frmeKeys_->Bind(index, keyCode == KeyEscape ? kNoKey : keyCode);
   if (keyCode == KeyAlt) services().dialogs.Message(kAltWarning, kAltTitle, DialogIcon::Critical);
-  if (closing()) return;
-  frmeKeys_->setEnabled(true);
-  frmeKeys_->cmdKeysDone().setEnabled(true);
-  frmeKeys_->setTitle(frmeKeys_->OwnTitle());
-  frmeKeys_->cmdKey(index).setEnabled(true);
-  frmeKeys_->cmdKey(index).setFocus();
+  if (!closing()) frmeKeys_->EndWaiting();
 }
 
 // --- The ways out ----------------------------------------------------------------------------------------

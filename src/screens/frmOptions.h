@@ -69,7 +69,6 @@ class frmOptions final : public Screen, public PortraitCaller {
   frmOptionsPortrait* imgYourPic_ = nullptr;
   QLineEdit* txtName_ = nullptr;
   PinBox* txtPIN_ = nullptr;
-  ctlButton* lblPINReveal_ = nullptr;
   ctlButton* cmdKeys_ = nullptr;
   ctlButton* cmdOK_ = nullptr;
   ctlButton* cmdCancel_ = nullptr;

@@ -7,6 +7,7 @@
 
 #include "presentation/WidgetSkin.h"
 #include "screens/PinBox.h"
+#include "screens/TextLink.h"
 #include "screens/frmOptions.h"
 #include "screens/frmOptionsFields.h"
 #include "screens/frmOptionsFrame.h"
@@ -20,12 +21,11 @@ namespace {
 constexpr int kNameLimit = 20;  // characters
 constexpr int kArcadeUnlockWins = 5;
 
-constexpr QStringView kPanels[] = {u"grpPlayer",    u"grpArcade", u"grpGame",
-                                   u"grpInterface", u"grpSounds", u"grpKeys"};
-constexpr QStringView kLabels[] = {u"lblInfo(0)",    u"lblInfo(1)",  u"lblName",
-                                   u"lblPIN",        u"lblSpeed",    u"lblArcadeOpp",
-                                   u"lblArcadeInfo", u"lblArcadeAI", u"lblTurnSystem",
-                                   u"lblInterface",  u"lblKeysInfo", u"lblEmberSizeWarning"};
+constexpr QStringView kPanels[] = {u"grpPlayer", u"grpArcade",     u"grpGame", u"grpInterface",
+                                   u"grpSounds", u"grpTurnSystem", u"grpKeys"};
+constexpr QStringView kLabels[] = {
+    u"lblInfo(0)",    u"lblInfo(1)",  u"lblName",      u"lblPIN",      u"lblSpeed",           u"lblArcadeOpp",
+    u"lblArcadeInfo", u"lblArcadeAI", u"lblInterface", u"lblKeysInfo", u"lblEmberSizeWarning"};
 
 /// Takes leading blanks away wherever they come from, and keeps the caret before the same character.
 class NoLeadingBlanks final : public QValidator {
@@ -45,7 +45,7 @@ class NoLeadingBlanks final : public QValidator {
 void frmOptions::BuildControls() {
   NewTitlebar()->Quit = [this] { Cancel(); };
   frmeOptions_ = new frmOptionsFrame(this, layout(), u"frmeOptions");
-  for (const QStringView panel : kPanels) frmeOptions_->AddPanel(PanelOf(layout(), panel));
+  for (const QStringView panel : kPanels) frmeOptions_->AddPanel(layout(), panel);
   for (const QStringView label : kLabels) layout().NewLabel(label, frmeOptions_);
   BuildPlayer();
   fields_ = std::make_unique<frmOptionsFields>(*frmeOptions_, layout(), [this] { PlayEffect("check"); });
@@ -71,10 +71,10 @@ void frmOptions::BuildPlayer() {
   txtPIN_->setToolTip(layout().bag(u"txtPIN").text(u"tooltip"));
   SkinWidget(*txtPIN_, layout().bag(u"txtPIN"));
   layout().Place(u"txtPIN", *txtPIN_);
-  lblPINReveal_ = NewFrameButton(u"lblPINReveal", [this] {
-    lblPINReveal_->setEnabled(true);
-    RevealPIN(*txtPIN_, services().scheduler, lifetime());
-  });
+  auto* reveal = new TextLink(frmeOptions_, layout().bag(u"lblPINReveal"));
+  layout().Place(u"lblPINReveal", *reveal);
+  QObject::connect(reveal, &QAbstractButton::clicked, this,
+                   [this] { RevealPIN(*txtPIN_, services().scheduler, lifetime()); });
 }
 
 void frmOptions::BuildKeys() {

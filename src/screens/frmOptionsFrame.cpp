@@ -1,5 +1,6 @@
 #include "screens/frmOptionsFrame.h"
 
+#include <QLabel>
 #include <QPainter>
 
 namespace kv {
@@ -7,7 +8,7 @@ namespace {
 
 constexpr int kHeadingHeight = 26;  // layout pixels
 constexpr int kHeadingIndent = 12;
-constexpr int kFillAlpha = 226;  // the picture behind stays a hint
+constexpr int kFillStrength = 226;  // the picture behind stays a hint
 constexpr int kHeadingAlpha = 70;
 
 QColor Faint(QColor color, int alpha) {
@@ -15,16 +16,17 @@ QColor Faint(QColor color, int alpha) {
   return color;
 }
 
+QRect HeadingOf(const Panel& panel) {
+  return {panel.rect.left() + 1, panel.rect.top() + 1, panel.rect.width() - 2, kHeadingHeight - 1};
+}
+
 void PaintHeading(QPainter& painter, const Panel& panel) {
-  const QRect bar(panel.rect.left() + 1, panel.rect.top() + 1, panel.rect.width() - 2, kHeadingHeight - 1);
+  const QRect bar = HeadingOf(panel);
   QLinearGradient light(bar.topLeft(), bar.topRight());
   light.setColorAt(0, Faint(panel.border, 2 * kHeadingAlpha));
   light.setColorAt(1, Faint(panel.border, kHeadingAlpha / 4));
   painter.fillRect(bar, light);
   painter.fillRect(bar.left(), bar.bottom(), bar.width(), 1, panel.border);
-  painter.setFont(panel.font);
-  painter.setPen(panel.color);
-  painter.drawText(bar.adjusted(kHeadingIndent, 0, 0, -1), Qt::AlignVCenter | Qt::AlignLeft, panel.heading);
 }
 
 }  // namespace
@@ -32,20 +34,18 @@ void PaintHeading(QPainter& painter, const Panel& panel) {
 Panel PanelOf(const Layout& layout, QStringView control) {
   const PropertyBag bag = layout.bag(control);
   return {.rect = layout.rect(control),
-          .fill = bag.colour(u"fill_color", Qt::black),
-          .border = bag.colour(u"border_color", Qt::gray),
-          .heading = bag.text(u"caption"),
-          .font = bag.font(u"font"),
-          .color = bag.colour(u"color", Qt::white)};
+          .fill = Faint(bag.colour(u"fill", Qt::black), bag.number(u"fill_strength", kFillStrength)),
+          .border = bag.colour(u"border", Qt::gray),
+          .headed = bag.has(u"caption")};
 }
 
 void PaintPanel(QPainter& painter, const Panel& panel) {
   QLinearGradient body(panel.rect.topLeft(), panel.rect.bottomLeft());
-  body.setColorAt(0, Faint(panel.fill.lighter(150), kFillAlpha));
-  body.setColorAt(0.4, Faint(panel.fill, kFillAlpha));
-  body.setColorAt(1, Faint(panel.fill.darker(130), kFillAlpha));
+  body.setColorAt(0, panel.fill.lighter(150));
+  body.setColorAt(0.4, panel.fill);
+  body.setColorAt(1, panel.fill.darker(130));
   painter.fillRect(panel.rect, body);
-  if (!panel.heading.isEmpty()) PaintHeading(painter, panel);
+  if (panel.headed) PaintHeading(painter, panel);
   painter.setBrush(Qt::NoBrush);
   painter.setPen(QPen(Faint(panel.border, 60), 1));
   painter.drawRect(QRectF(panel.rect).adjusted(-0.5, -0.5, 0.5, 0.5));
@@ -56,6 +56,12 @@ void PaintPanel(QPainter& painter, const Panel& panel) {
 frmOptionsFrame::frmOptionsFrame(QWidget* parent, Layout& layout, QStringView control) : QWidget(parent) {
   setMouseTracking(true);
   layout.Place(control, *this);
+}
+
+void frmOptionsFrame::AddPanel(Layout& layout, QStringView control) {
+  const Panel panel = PanelOf(layout, control);
+  layout.NewLabel(control, this)->setGeometry(HeadingOf(panel).adjusted(kHeadingIndent, 0, 0, -1));
+  panels_.push_back(panel);
 }
 
 void frmOptionsFrame::paintEvent(QPaintEvent*) {

@@ -2,8 +2,6 @@
 #pragma once
 
 #include <QColor>
-#include <QFont>
-#include <QString>
 #include <QWidget>
 #include <vector>
 
@@ -13,25 +11,25 @@ class QPainter;
 
 namespace kv {
 
-/// One framed panel; without a heading it has no line below one either.
+/// What the layout says of a panel: "rect", "fill" with "fill_strength" (0 to 255), "border", and whether it
+/// has a heading, that is a "caption".
 struct Panel {
   QRect rect;
   QColor fill;
   QColor border;
-  QString heading{};
-  QFont font{};
-  QColor color{};
+  bool headed = false;
 };
 
-/// What the layout says of a panel: "rect", "fill_color", "border_color", "caption", "font" and "color".
 [[nodiscard]] Panel PanelOf(const Layout& layout, QStringView control);
 void PaintPanel(QPainter& painter, const Panel& panel);
 
 class frmOptionsFrame final : public QWidget {
  public:
+  /// Placed by the layout; the panels' places are relative to it.
   frmOptionsFrame(QWidget* parent, Layout& layout, QStringView control);
 
-  void AddPanel(const Panel& panel) { panels_.push_back(panel); }
+  /// A panel of the layout; its heading is a label of its own.
+  void AddPanel(Layout& layout, QStringView control);
 
  protected:
   void paintEvent(QPaintEvent* event) override;

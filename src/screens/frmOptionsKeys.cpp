@@ -8,7 +8,14 @@
 namespace kv {
 namespace {
 
-constexpr int kScrimAlpha = 170;  // what lies beneath can be told, but not mistaken for usable
+constexpr const char16_t* kPushKey = u"Push key...(esc = none)";
+constexpr int kWaitingFrame = 2;  // layout pixels around the button that waits, and how far from it
+constexpr int kWaitingGap = 3;
+constexpr int kScrimAlpha = 190;  // what lies beneath can be told, but not mistaken for usable
+
+constexpr QStringView kLabels[] = {u"lblKeysTurn",    u"lblKeysStand",   u"lblKeysPlay",
+                                   u"lblKeysFlip1",   u"lblKeysFlip2",   u"lblKeysCard(0)",
+                                   u"lblKeysCard(1)", u"lblKeysCard(2)", u"lblKeysCard(3)"};
 
 /// A key button, what it does and the entry of the key table that it edits.
 struct KeyEntry {
@@ -36,13 +43,14 @@ constexpr std::array<KeyEntry, kKeyButtons> kKeyEntries = {{
 }  // namespace
 
 frmOptionsKeys::frmOptionsKeys(QWidget* parent, Layout& layout, ButtonContext& context)
-    : QWidget(parent), panel_(PanelOf(layout, u"pnlKeys")) {
+    : QWidget(parent),
+      panel_(PanelOf(layout, u"pnlKeys")),
+      accent_(layout.bag(u"frmeKeys").colour(u"accent", Qt::white)) {
   setMouseTracking(true);
   layout.Place(u"frmeKeys", *this);
   title_ = layout.NewLabel(u"lblKeysTitle", this);
   ownTitle_ = title_->text();
-  for (const QStringView label :
-       {u"lblKeysTurn", u"lblKeysStand", u"lblKeysPlay", u"lblKeysFlip1", u"lblKeysFlip2"}) {
+  for (const QStringView label : kLabels) {
     layout.NewLabel(label, this);
   }
   for (int index = 0; index < kKeyButtons; ++index) {
@@ -90,19 +98,38 @@ void frmOptionsKeys::Bind(int index, std::int16_t keyCode) {
   key.button->setColor_Style(keyCode <= 0 ? QStringLiteral("Ember") : QStringLiteral("Ember_Menu"));
 }
 
-QString frmOptionsKeys::Title() const {
-  return title_->text();
+void frmOptionsKeys::BeginWaiting(int index) {
+  waiting_ = keys_.at(static_cast<std::size_t>(index)).button;
+  cmdKeysDone_->setEnabled(false);
+  setEnabled(false);
+  ShowTitle(QString::fromUtf16(kPushKey));
 }
 
-void frmOptionsKeys::setTitle(const QString& title) {
+void frmOptionsKeys::EndWaiting() {
+  setEnabled(true);
+  cmdKeysDone_->setEnabled(true);
+  ShowTitle(ownTitle_);
+  if (waiting_ == nullptr) return;
+  ctlButton& waited = *waiting_;
+  waiting_ = nullptr;
+  waited.setEnabled(true);
+  waited.setFocus();
+}
+
+void frmOptionsKeys::ShowTitle(const QString& title) {
   title_->setText(title);
   title_->setAccessibleName(title);
+  update();
 }
 
 void frmOptionsKeys::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), QColor(0, 0, 0, kScrimAlpha));
   PaintPanel(painter, panel_);
+  if (waiting_ == nullptr) return;
+  painter.setPen(QPen(accent_, kWaitingFrame));
+  painter.drawRect(
+      QRectF(waiting_->geometry()).adjusted(-kWaitingGap, -kWaitingGap, kWaitingGap, kWaitingGap));
 }
 
 }  // namespace kv

@@ -41,10 +41,10 @@ class frmOptionsKeys final : public QWidget {
   }
   [[nodiscard]] ctlButton& cmdKeysDone() const { return *cmdKeysDone_; }
 
-  [[nodiscard]] QString Title() const;
-  void setTitle(const QString& title);
-  /// "Configure Keys".
-  [[nodiscard]] const QString& OwnTitle() const { return ownTitle_; }
+  /// From now on button `index` waits for its key: the title asks for it, and nothing can be used.
+  void BeginWaiting(int index);
+  /// The wait is over: title and buttons are back, and the button that waited has the focus.
+  void EndWaiting();
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -58,11 +58,15 @@ class frmOptionsKeys final : public QWidget {
 
   ctlButton* NewButton(QStringView control, Layout& layout, ButtonContext& context);
 
+  void ShowTitle(const QString& title);
+
   std::array<KeyButton, kKeyButtons> keys_;
   ctlButton* cmdKeysDone_ = nullptr;  // children
   QLabel* title_ = nullptr;
   QString ownTitle_;
   Panel panel_;
+  QColor accent_;
+  ctlButton* waiting_ = nullptr;  // which of them waits
 };
 
 }  // namespace kv

@@ -13,8 +13,8 @@ constexpr int kFrame = 2;  // layout pixels
 frmOptionsPortrait::frmOptionsPortrait(QWidget* parent, Layout& layout, QStringView control)
     : QAbstractButton(parent) {
   const PropertyBag bag = layout.bag(control);
-  border_ = bag.colour(u"border_color", Qt::gray);
-  accent_ = bag.colour(u"accent_color", Qt::white);
+  border_ = bag.colour(u"border", Qt::gray);
+  accent_ = bag.colour(u"accent", Qt::white);
   setAttribute(Qt::WA_Hover);
   setCursor(Qt::PointingHandCursor);
   setFocusPolicy(Qt::TabFocus);

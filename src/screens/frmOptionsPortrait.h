@@ -12,7 +12,7 @@ namespace kv {
 
 class frmOptionsPortrait final : public QAbstractButton {
  public:
-  /// Frame colours from the layout: "border_color", and "accent_color" under the pointer and in focus.
+  /// Frame colours from the layout: "border", and "accent" under the pointer and in focus.
   frmOptionsPortrait(QWidget* parent, Layout& layout, QStringView control);
 
   void setPicture(const Picture& picture);
