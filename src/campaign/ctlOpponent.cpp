@@ -22,18 +22,25 @@ ctlOpponent::ctlOpponent(QWidget* parent, Layout& layout, PortraitSource portrai
     : QWidget(parent),
       portraits_(std::move(portraits)),
       look_(layout.bag(u"ctlOpponent")),
-      pictureArea_(layout.rect(u"imgOppPic")),
-      lblOppName_(layout.NewLabel(u"lblOppName", this)),
-      lblMinWager_(layout.NewLabel(u"lblMinWager", this)),
-      lblMaxWager_(layout.NewLabel(u"lblMaxWager", this)),
-      lblWinsAgainst_(layout.NewLabel(u"lblWinsAgainst", this)),
-      lblMin_(layout.NewLabel(u"lblMin", this)),
-      lblMax_(layout.NewLabel(u"lblMax", this)),
-      lblWins_(layout.NewLabel(u"lblWins", this)),
-      lblNote_(layout.NewLabel(u"lblNote", this)) {
+      pictureArea_(layout.rect(u"ctlOpponent.imgOppPic")),
+      lblOppName_(NewPart(layout, u"lblOppName")),
+      lblMinWager_(NewPart(layout, u"lblMinWager")),
+      lblMaxWager_(NewPart(layout, u"lblMaxWager")),
+      lblWinsAgainst_(NewPart(layout, u"lblWinsAgainst")),
+      lblMin_(NewPart(layout, u"lblMin")),
+      lblMax_(NewPart(layout, u"lblMax")),
+      lblWins_(NewPart(layout, u"lblWins")),
+      lblNote_(NewPart(layout, u"lblNote")) {
   setFixedSize(layout.rect(u"ctlOpponent").size());
   setAttribute(Qt::WA_TransparentForMouseEvents);
   ReadProperties(PropertyBag());
+}
+
+QLabel* ctlOpponent::NewPart(Layout& layout, QStringView label) {
+  // Some of the screen's own labels bear the same names.
+  QLabel* part = layout.NewLabel(QStringLiteral("ctlOpponent.") + label.toString(), this);
+  part->setObjectName(label.toString());
+  return part;
 }
 
 void ctlOpponent::ReadProperties(const PropertyBag& bag) {

@@ -20,8 +20,8 @@ class ctlOpponent final : public QWidget {
   /// Gives the portrait of a number.
   using PortraitSource = std::function<Picture(int number)>;
 
-  /// Lays itself out by the controls "ctlOpponent" (size and colours) and "lblOppName" to "lblNote" of the
-  /// layout. The owner gives it its place.
+  /// Lays itself out by the layout's control "ctlOpponent" (size and colours) and those whose names begin
+  /// with "ctlOpponent.". The owner gives it its place.
   ctlOpponent(QWidget* parent, Layout& layout, PortraitSource portraits);
 
   /// Takes "enabled", "maxwager", "minwager", "oppname", "opppic" and "wins".
@@ -57,6 +57,7 @@ class ctlOpponent final : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  QLabel* NewPart(Layout& layout, QStringView label);
   void Paint(QLabel& label, const QColor& color);
 
   PortraitSource portraits_;

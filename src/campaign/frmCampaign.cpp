@@ -39,6 +39,7 @@ frmCampaign::frmCampaign(const ScreenServices& services, clsPlayer& player, clsG
   lblPWins_ = NewAccountLabel(u"lblPWins");
   lblPLosses_ = NewAccountLabel(u"lblPLosses");
   NewAccountLabel(u"lblHint")->setVisible(!circuit_.Finished());
+  BuildPortrait();
   for (int i = 0; i < kCircuitTiles; ++i) BuildTile(i);
   cmdDeck_ = NewButton(u"cmdDeck", [this] { ViewDeck(); });
   cmdDeck_->setGeometry(layout().rect(PlaceOf(u"cmdDeck")));
@@ -59,6 +60,15 @@ QLabel* frmCampaign::NewAccountLabel(QStringView control) {
   QLabel* label = layout().NewLabel(control, this);
   label->setGeometry(layout().rect(PlaceOf(control)));
   return label;
+}
+
+void frmCampaign::BuildPortrait() {
+  bool found = false;
+  auto* imgYourPic = new FadeTarget(this);
+  layout().Place(u"imgYourPic", *imgYourPic);
+  imgYourPic->setPicture(services().portraits.GetPortrait(kOwnPortrait, {}, found));
+  imgYourPic->MouseMove = [this] { PlainHighlights(); };
+  imgYourPic->setVisible(!circuit_.Finished());  // the last tile shows it then
 }
 
 void frmCampaign::BuildTile(int index) {
@@ -189,6 +199,10 @@ void frmCampaign::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   const QString account = PlaceOf(u"panelAccount");
   PaintPanel(painter, layout().rect(account), layout().bag(account));
+  if (!circuit_.Finished()) {
+    painter.setPen(layout().bag(u"imgYourPic").colour(u"border_color"));
+    painter.drawRect(layout().rect(u"imgYourPic").adjusted(-1, -1, 0, 0));
+  }
   // The places of the opponents who are still to come.
   for (int i = 0; i < kNarrowTiles; ++i) {
     if (ctlOpp(i).isHidden()) PaintPanel(painter, ctlOpp(i).geometry(), layout().bag(u"panelEmpty"));

@@ -40,6 +40,7 @@ class frmCampaign final : public Screen {
 
  private:
   QLabel* NewAccountLabel(QStringView control);
+  void BuildPortrait();
   void BuildTile(int index);
   void BuildTarget(int index);
   void ShowAccount();

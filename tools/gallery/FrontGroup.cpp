@@ -14,6 +14,8 @@
 namespace kv {
 namespace {
 
+constexpr int kOwnPicture = 41;  // stands for a picture of the player's own
+
 template <typename Kind>
 Kind& Child(Screen& screen, const char* name) {
   return *screen.findChild<Kind*>(QString::fromLatin1(name));
@@ -33,11 +35,8 @@ void Picker(Gallery& gallery, bool own) {
   const test::TempFolder folder;
   test::ScreenStage stage(gallery.style(), gallery.scale(), folder.path());
   FillSamplePlayer(stage.player);
-  if (own) {
-    QImage picture(kPortraitSide, kPortraitSide, QImage::Format_RGB32);
-    picture.fill(QColor(70, 130, 90));
-    picture.save(QString::fromStdString(folder / "mara.jpg"));
-  }
+  const Picture portrait = stage.pictures.getPic(kPortraitBase + kOwnPicture);
+  if (own && !portrait.empty()) portrait.image()->save(QString::fromStdString(folder / "mara.jpg"));
   NoCaller caller;
   frmPortraits picker(stage.services(), stage.player, caller, {folder.path(), {}});
   picker.Open();
