@@ -2,19 +2,23 @@
 
 #include <filesystem>
 
-#include "match/Dealing.h"
-#include "platform/Files.h"
+#include "campaign/CardDesk.h"
+#include "campaign/Settlement.h"
+#include "campaign/modSaveWin.h"
+#include "cards/modCards.h"
+#include "match/frmGame.h"
 #include "presentation/PictureSizes.h"
+#include "screens/frmMenu.h"
+#include "screens/frmOptions.h"
+#include "screens/frmPortraits.h"
+#include "screens/frmSplash.h"
 
 namespace kv {
 namespace {
 
-constexpr std::int32_t kArcadeStake = 10;  // credits
-constexpr int kSweepInterval = 100;        // milliseconds
-constexpr int kSoundsDelay = 120;          // milliseconds; the first effect is due later than this
-constexpr const char* kPlayerName = "Player";
-constexpr const char* kPlayerExtension = ".vnt";
-constexpr const char* kPortraitFolder = "/Portraits";
+// Milliseconds.
+constexpr int kSweepInterval = 100;
+constexpr int kSoundsDelay = 120;  // the first effect is due later than this
 
 std::string BaseName(const std::string& path) {
   return std::filesystem::path(path).filename().string();
@@ -28,105 +32,194 @@ Program::Program(const ProgramServices& services, const ProgramFolders& folders)
       sounds_(services.sound),
       buttons_(sounds_),
       globals_(services.scheduler, buttons_),
-      player_(services.dialogs, services.random),
-      portraits_(pictures_, folders.program + kPortraitFolder,
+      portraits_(pictures_, folders.portraits,
                  [this] {
-                   return PortraitOwner{BaseName(player_.FileName), player_.Portrait};
+                   return player_ == nullptr ? PortraitOwner{}
+                                             : PortraitOwner{BaseName(player_->FileName), player_->Portrait};
                  }),
       tmrSweep_(services.scheduler.NewTimer(kSweepInterval,
                                             [this] {
                                               if (services_.scheduler.PauseDepth() > 0) return;
-                                              closed_.clear();
                                               tmrSweep_->setEnabled(false);
+                                              // A screen goes before the records it stands on.
+                                              while (!retired_.empty()) retired_.pop_front();
                                             })),
-      tmrSounds_(services.scheduler.NewTimer(kSoundsDelay, [this] {
-        tmrSounds_->setEnabled(false);
-        sounds_.InitEffects(folders_.program);
-      })) {}
+      tmrSounds_(services.scheduler.NewTimer(kSoundsDelay, [this] { LoadSounds(); })) {
+  globals_.Off = [this] { EndProgram(); };
+  globals_.ReloadCards = [this] { OpenCards(); };
+}
 
 Program::~Program() {
-  CloseMatch();
+  CloseCurrent();
+  while (!retired_.empty()) retired_.pop_front();
 }
 
 void Program::Start() {
   // A missing picture stays empty: without its data file the game is plain, but it can be played.
   static_cast<void>(pictures_.OpenDataFile(folders_.program + "/" + kDataFileName));
   globals_.look.faces.LoadCardPictures([this](int number) { return pictures_.getPic(number); });
-  LoadPlayer();
-  sounds_.setPlayer(&player_);
-  buttons_.setPlayer(&player_);
-  globals_.look.interfaceStyle = player_.Interface_Opt;
-  StartRun();
-  OpenMatch(std::optional<QPoint>());
+  OpenSplash();
   tmrSounds_->setEnabled(true);
 }
 
-void Program::LoadPlayer() {
-  const std::string folder = folders_.player.empty() ? std::string() : folders_.player + "/";
-  // A file that cannot be loaded is left alone; the next name is tried, so that there is always a player.
-  for (int number = 1;; ++number) {
-    const std::string path =
-        folder + kPlayerName + (number == 1 ? std::string() : std::to_string(number)) + kPlayerExtension;
-    if (!FileExists(path)) {
-      player_.Name = kPlayerName;
-      player_.FileName = path;
-      player_.KeysEn = true;  // a newcomer may use both hands
-      player_.WritePlayerFile();
-      return;
-    }
-    if (!player_.LoadPlayerFile(path)) return;
-    services_.dialogs.Message(
-        "The player file '" + BaseName(path) + "' could not be loaded. It stays as it is.",
-        "Kelm Vantri: Error", DialogIcon::Critical);
+void Program::LoadSounds() {
+  tmrSounds_->setEnabled(false);
+  sounds_.InitEffects(folders_.program);
+}
+
+ScreenServices Program::Services() {
+  return {services_.scheduler,
+          services_.dialogs,
+          services_.random,
+          buttons_,
+          globals_.effects,
+          globals_.look,
+          [this](int number) { return pictures_.getPic(number); },
+          portraits_,
+          *this};
+}
+
+// --- Opening and closing ---------------------------------------------------------------------------------
+
+template <typename Make>
+void Program::Show(Make make) {
+  CloseCurrent();
+  globals_.look.interfaceStyle = player_ == nullptr ? "Slate" : player_->Interface_Opt;
+  screen_ = make();
+  screen_->Open(centre_);
+}
+
+void Program::CloseCurrent() {
+  for (std::shared_ptr<Screen>* screen : {&screen_, &behind_}) {
+    if (*screen == nullptr) continue;
+    centre_ = (*screen)->Centre();
+    (*screen)->CloseScreen();
+    Retire(std::move(*screen));
   }
 }
 
-void Program::StartRun() {
-  game_ = std::make_unique<clsGame>(player_, [this](int number, const std::string& name) {
-    bool found = false;
-    return portraits_.GetPortrait(number, name, found);
-  });
-  booking_ = std::make_unique<ArcadeBooking>(*game_, player_);
-}
-
-void Program::SettleStake() {
-  game_->Wager = kArcadeStake;
-  game_->CreditsRef->Value -= kArcadeStake;
-}
-
-void Program::OpenMatch(std::optional<QPoint> centre) {
-  if (game_->CreditsRef->Value < kArcadeStake) StartRun();
-  SettleStake();
-  DealYourHand(*game_, services_.random);
-  SetupCompHand(*game_, services_.random);
-  const ScreenServices screen{services_.scheduler,
-                              services_.dialogs,
-                              services_.random,
-                              buttons_,
-                              globals_.effects,
-                              globals_.look,
-                              [this](int number) { return pictures_.getPic(number); },
-                              portraits_,
-                              *this};
-  match_ = std::make_unique<frmGame>(frmGameServices{screen, player_, *game_, noNetwork_, *booking_});
-  match_->Open(centre);
-}
-
-void Program::CloseMatch() {
-  if (match_ == nullptr) return;
-  match_->CloseScreen();
-  closed_.push_back(std::move(match_));
+void Program::Retire(std::shared_ptr<void> what) {
+  if (what == nullptr) return;
+  retired_.push_back(std::move(what));
   tmrSweep_->setEnabled(true);
 }
 
+void Program::ClearGame() {
+  Retire(std::move(booking_));
+  Retire(std::move(game_));
+}
+
+void Program::OpenSplash() {
+  CloseCurrent();
+  ClearGame();
+  sounds_.setPlayer(nullptr);
+  buttons_.setPlayer(nullptr);
+  Retire(std::move(player_));
+  Show([this] {
+    return std::make_shared<frmSplash>(
+        Services(),
+        frmSplashServices{folders_.player,
+                          [this] { return std::make_unique<clsPlayer>(services_.dialogs, services_.random); },
+                          services_.openAddress});
+  });
+}
+
+void Program::PlayerLoaded(std::unique_ptr<clsPlayer> player) {
+  player_ = std::move(player);
+  sounds_.setPlayer(player_.get());
+  buttons_.setPlayer(player_.get());
+}
+
+void Program::OpenMenu() {
+  CloseCurrent();
+  ClearGame();
+  Show([this] { return std::make_shared<frmMenu>(Services(), *player_); });
+}
+
+void Program::OpenOptions() {
+  Show([this] { return std::make_shared<frmOptions>(Services(), *player_); });
+}
+
+void Program::OpenCampaign() {
+  OpenMenu();
+}
+
+void Program::OpenCards() {
+  constexpr std::int32_t kStake = 10;
+  if (!SettleStake(*game_, *player_, Min(kStake, game_->CreditsRef->Value))) return OpenMenu();
+  DealMatch(*game_, *player_, services_.random);
+  OpenMatch();
+}
+
+void Program::OpenLobby() {
+  services_.dialogs.Message("Network play is not part of this version.", "Kelm Vantri",
+                            DialogIcon::Information);
+  OpenMenu();
+}
+
+void Program::OpenMatch() {
+  Show([this] {
+    return std::make_shared<frmGame>(frmGameServices{Services(), *player_, *game_, noNetwork_, *booking_});
+  });
+}
+
+void Program::OpenPortraits(PortraitCaller& caller) {
+  if (behind_ != nullptr) return;
+  auto picker = std::make_shared<frmPortraits>(
+      Services(), *player_, caller, frmPortraitsServices{folders_.portraits, services_.openFolder});
+  centre_ = screen_->Centre();
+  screen_->hide();
+  behind_ = std::move(screen_);
+  screen_ = std::move(picker);
+  screen_->Open(centre_);
+}
+
+void Program::ClosePortraits() {
+  if (behind_ == nullptr) return;
+  centre_ = screen_->Centre();
+  screen_->CloseScreen();
+  Retire(std::move(screen_));
+  screen_ = std::move(behind_);
+  screen_->Open(centre_);
+}
+
+// --- Matches ---------------------------------------------------------------------------------------------
+
+void Program::NewGame(std::string_view mode) {
+  ClearGame();
+  game_ = std::make_shared<clsGame>(*player_, [this](int number, const std::string& name) {
+    bool found = false;
+    return portraits_.GetPortrait(number, name, found);
+  });
+  game_->Mode = mode;
+  booking_ = std::make_shared<SaveBooking>(*game_, *player_, services_.dialogs);
+}
+
 void Program::LeaveMatch() {
-  const QPoint centre = match_->Centre();
-  CloseMatch();
-  OpenMatch(centre);
+  if (game_->Mode == kModeCampaign) {
+    OpenCampaign();
+  } else if (game_->isNetwork()) {
+    OpenLobby();
+  } else {
+    OpenCards();
+  }
+}
+
+void Program::ReloadCards() {
+  CloseCurrent();
+  globals_.tmrReloadCards->setEnabled(true);
+}
+
+// --- The end ---------------------------------------------------------------------------------------------
+
+void Program::EndProgramSoon() {
+  globals_.tmrOff->setEnabled(true);
 }
 
 void Program::EndProgram() {
-  CloseMatch();
+  globals_.tmrOff->setEnabled(false);
+  globals_.tmrReloadCards->setEnabled(false);
+  CloseCurrent();
   services_.quit();
 }
 

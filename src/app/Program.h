@@ -1,22 +1,21 @@
-// One running program: the player record, the match record, the services, and the screens that are open. It
+// One running program: the player record, the match record, the services, and the screen that is open. It
 // owns everything and hands out references; nothing of it is global, so two can run in one process.
 #pragma once
 
 #include <QPoint>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "app/frmGlobals.h"
-#include "match/ArcadeBooking.h"
+#include "match/MatchPartners.h"
 #include "match/clsGame.h"
-#include "match/frmGame.h"
 #include "platform/SoundDevice.h"
-#include "presentation/Navigator.h"
 #include "presentation/Pictures.h"
 #include "presentation/Portraits.h"
+#include "presentation/Screen.h"
 #include "presentation/Sounds.h"
 #include "profile/clsPlayer.h"
 
@@ -30,11 +29,16 @@ struct ProgramServices {
   SoundDevice& sound;
   /// Ends the event loop.
   std::function<void()> quit;
+  /// Show a folder in the desktop's file browser, and an address in its web browser; both may be empty.
+  std::function<void(const std::string& folder)> openFolder{};
+  std::function<void(const std::string& address)> openAddress{};
 };
 
+/// Without a slash at their ends.
 struct ProgramFolders {
-  std::string program;  // data file, sounds, portraits; without a slash at its end
+  std::string program;  // data file and sounds
   std::string player;   // player files; empty for the working folder
+  std::string portraits;
 };
 
 class Program final : public Navigator {
@@ -42,40 +46,48 @@ class Program final : public Navigator {
   Program(const ProgramServices& services, const ProgramFolders& folders);
   ~Program() override;
 
-  /// Loads the player and opens the first screen.
+  /// Opens the start screen.
   void Start();
 
-  // Only the match screen exists yet: whatever is asked for, a match follows.
-  void OpenSplash() override {}
-  void PlayerLoaded(std::unique_ptr<clsPlayer>) override {}
-  void OpenMenu() override {}
-  void OpenOptions() override {}
-  void OpenCampaign() override {}
-  void OpenCards() override {}
-  void OpenLobby() override {}
-  void OpenMatch() override { OpenMatch(std::optional<QPoint>()); }
-  void OpenPortraits(PortraitCaller&) override {}
-  void ClosePortraits() override {}
-  void NewGame(std::string_view) override { StartRun(); }
+  void OpenSplash() override;
+  void PlayerLoaded(std::unique_ptr<clsPlayer> player) override;
+  void OpenMenu() override;
+  void OpenOptions() override;
+  void OpenCampaign() override;
+  void OpenCards() override;
+  void OpenLobby() override;
+  void OpenMatch() override;
+  void OpenPortraits(PortraitCaller& caller) override;
+  void ClosePortraits() override;
+  void NewGame(std::string_view mode) override;
   void LeaveMatch() override;
-  void ReloadCards() override {}
+  void ReloadCards() override;
   void EndProgram() override;
-  void EndProgramSoon() override { EndProgram(); }
+  void EndProgramSoon() override;
 
-  [[nodiscard]] clsPlayer& player() { return player_; }
-  [[nodiscard]] clsGame& game() { return *game_; }
-  /// The open match screen; null once the program ends.
-  [[nodiscard]] frmGame* match() { return match_.get(); }
-  /// Screens that are closed but may not be destroyed yet.
-  [[nodiscard]] std::size_t ClosedScreens() const { return closed_.size(); }
+  /// The current player, null while one is being chosen.
+  [[nodiscard]] clsPlayer* player() { return player_.get(); }
+  /// The match record, null outside the modes.
+  [[nodiscard]] clsGame* game() { return game_.get(); }
+  /// The open screen; null once the program has ended.
+  [[nodiscard]] Screen* screen() { return screen_.get(); }
+  /// The open screen if it is one of this kind, else null.
+  template <typename Kind>
+  [[nodiscard]] Kind* screenAs() {
+    return dynamic_cast<Kind*>(screen_.get());
+  }
+  /// Closed screens, and the records they stood on, that may not be destroyed yet.
+  [[nodiscard]] std::size_t Retired() const { return retired_.size(); }
 
  private:
-  void LoadPlayer();
-  void StartRun();
-  void SettleStake();
-  /// At a place of the desktop, or where the window system puts it.
-  void OpenMatch(std::optional<QPoint> centre);
-  void CloseMatch();
+  [[nodiscard]] ScreenServices Services();
+  /// Closes the open screen, makes the next one with `make`, and opens it in the same place.
+  template <typename Make>
+  void Show(Make make);
+  void CloseCurrent();
+  void Retire(std::shared_ptr<void> what);
+  void ClearGame();
+  void LoadSounds();
 
   ProgramServices services_;
   ProgramFolders folders_;
@@ -83,14 +95,16 @@ class Program final : public Navigator {
   ButtonContext buttons_;
   Pictures pictures_;
   frmGlobals globals_;
-  clsPlayer player_;
   Portraits portraits_;
   MatchNetwork noNetwork_;
-  std::unique_ptr<clsGame> game_;
-  std::unique_ptr<ArcadeBooking> booking_;
-  std::unique_ptr<frmGame> match_;
-  std::vector<std::unique_ptr<frmGame>> closed_;
-  std::unique_ptr<Timer> tmrSweep_;   // destroys closed screens
+  std::shared_ptr<clsPlayer> player_;
+  std::shared_ptr<clsGame> game_;
+  std::shared_ptr<MatchBooking> booking_;
+  std::shared_ptr<Screen> screen_;
+  std::shared_ptr<Screen> behind_;  // the hidden screen that the portrait picker was opened from
+  std::optional<QPoint> centre_;    // of the screen that was open last
+  std::deque<std::shared_ptr<void>> retired_;
+  std::unique_ptr<Timer> tmrSweep_;   // destroys what is retired
   std::unique_ptr<Timer> tmrSounds_;  // loads the sounds once the first window stands
 };
 

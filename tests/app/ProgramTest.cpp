@@ -1,185 +1,245 @@
-// The whole program on the test's own clock: from the player file to one match after another.
+// The whole program on the test's own clock: from the first start to the last click.
 #include <gtest/gtest.h>
 
 #include <QAccessible>
-#include <QCoreApplication>
+#include <QCheckBox>
+#include <QLabel>
 #include <set>
 
 #include "app/AccessibleRoles.h"
-#include "app/Program.h"
-#include "platform/Files.h"
-#include "support/HandScheduler.h"
-#include "support/RecordingSound.h"
-#include "support/ScreenHand.h"
-#include "support/ScriptedDialogs.h"
-#include "support/TempFolder.h"
+#include "support/ProgramStage.h"
 
 namespace kv {
 namespace {
 
-class ProgramTest : public testing::Test {
+class ProgramTest : public testing::Test, protected test::ProgramStage {
  protected:
-  void Start() {
-    program =
-        std::make_unique<Program>(ProgramServices{scheduler, dialogs, random, sound, [this] { ++quits; }},
-                                  ProgramFolders{"no-such-folder", folder.path()});
-    program->Start();
-    Settle();
+  [[nodiscard]] frmGame& Match() { return *program->screenAs<frmGame>(); }
+  void EnterArcade(int stake) {
+    Click("cmdArcade");
+    SettleStake(stake);
   }
-  void Settle() {
-    QCoreApplication::processEvents();
-    scheduler.Advance(6000);
-    QCoreApplication::processEvents();
+  /// On the card screen: sets the stake; the stored deck is taken as it is.
+  void SettleStake(int stake) {
+    Control<QLineEdit>("txtWager").setText(QString::number(stake));
+    Click("cmdWager");
+    Settle(500);
   }
-  [[nodiscard]] std::string PlayerFile(const std::string& name) const { return folder.path() + "/" + name; }
   /// Gives up the match and uses the banner's last continue.
   void LoseMatch() {
     dialogs.answers.push_back(true);
-    program->match()->titlebar().Quit();
-    Settle();
-    program->match()->banner().Click();
-    Settle();
+    Match().titlebar().Quit();
+    Settle(6000);
+    Match().banner().Click();
+    Settle(6000);
   }
-
-  test::TempFolder folder;
-  test::HandScheduler scheduler;
-  test::ScriptedDialogs dialogs;
-  SeededRandom random{7};
-  test::RecordingSound sound;
-  int quits = 0;
-  std::unique_ptr<Program> program;
 };
 
-TEST_F(ProgramTest, MakesAPlayerAndOpensAMatchWithoutItsPictures) {
+TEST_F(ProgramTest, ANewcomerMakesAPlayerAndComesBackWithThePin) {
   Start();
-  EXPECT_TRUE(FileExists(PlayerFile("Player.vnt")));
-  EXPECT_EQ(program->player().Name, "Player");
-  ASSERT_NE(program->match(), nullptr);
-  EXPECT_TRUE(program->match()->isVisible());
-  EXPECT_EQ(program->game().Wager, 10);
-  EXPECT_EQ(program->game().CreditsRef->Value, 90);
+  EXPECT_EQ(ScreenName(), "frmSplash");
+  EXPECT_FALSE(Control<QWidget>("cmdContinue").isEnabled());
+  Click("cmdCreate");
+  Control<QLineEdit>("txtPlayer").setText(QStringLiteral("Bob"));
+  Click("cmdNewName");
+  EXPECT_EQ(Control<QLineEdit>("txtName").text(), QStringLiteral("bob"));
+  Control<QLineEdit>("txtNewPIN").setText(QStringLiteral("12"));
+  Click("cmdNewFile");
+  Click("cmdContinue");
+  Settle(1000);
+  EXPECT_EQ(ScreenName(), "frmMenu");
+  EXPECT_EQ(program->player()->Name, "Bob");
   EXPECT_TRUE(dialogs.boxes.empty());
-}
 
-TEST_F(ProgramTest, OptionsComeFromThePlayerFile) {
-  clsPlayer player(dialogs, random);
-  player.Name = "Ann";
-  player.Interface_Opt = "Ember";
-  player.ArcadeOpp_Opt = 1;
-  player.FileName = PlayerFile("Player.vnt");
-  player.WritePlayerFile();
-  Start();
-  EXPECT_EQ(program->player().Name, "Ann");
-  EXPECT_EQ(program->match()->StyleIndex(), 1);
-  EXPECT_EQ(program->match()->hand().ctlYourDeck(1).size(), QSize(83, 102));
-  EXPECT_EQ(program->game().OppName, "H6-J8");
-}
-
-TEST_F(ProgramTest, ADamagedPlayerFileIsToldAndLeftAlone) {
-  ASSERT_EQ(AtomicWrite(PlayerFile("Player.vnt"), "not a player"), "");
-  Start();
+  Start();  // another day
+  Control<QLineEdit>("txtPIN").setText(QStringLiteral("13"));
+  Click("cmdContinue");
   ASSERT_EQ(dialogs.boxes.size(), 1u);
-  EXPECT_EQ(dialogs.boxes[0].icon, DialogIcon::Critical);
-  EXPECT_EQ(ReadWhole(PlayerFile("Player.vnt"), 100).bytes, "not a player");
-  EXPECT_TRUE(FileExists(PlayerFile("Player2.vnt")));
+  EXPECT_EQ(dialogs.boxes[0].text, "Player file corrupted, or incorrect PIN");
+  EXPECT_EQ(ScreenName(), "frmSplash");
+  EXPECT_EQ(program->player(), nullptr);
+  Control<QLineEdit>("txtPIN").setText(QStringLiteral("12"));
+  Click("cmdContinue");
+  Settle(1000);
+  EXPECT_EQ(ScreenName(), "frmMenu");
 }
 
-TEST_F(ProgramTest, OneMatchFollowsAnother) {
+TEST_F(ProgramTest, TheStyleChosenInTheOptionsIsThatOfTheNextScreens) {
+  MakePlayer("ann");
   Start();
-  for (int match = 1; match <= 12; ++match) {
-    const frmGame* old = program->match();
-    EXPECT_EQ(program->game().CreditsRef->Value, match <= 10 ? 100 - 10 * match : 210 - 10 * match - 10);
-    LoseMatch();
-    EXPECT_NE(program->match(), old);
-    EXPECT_TRUE(program->match()->isVisible());
-    EXPECT_EQ(program->game().Wager, 10);
-    EXPECT_EQ(program->ClosedScreens(), 0u) << "closed screens are destroyed once no pause is under way";
-  }
+  EnterMenu("ann");
+  Click("cmdOptions");
+  EXPECT_EQ(ScreenName(), "frmOptions");
+  Control<QListWidget>("lstInterface").setCurrentRow(1);
+  Click("cmdOK");
+  EXPECT_EQ(Stored("ann")->Interface_Opt, "Ember");
+  EnterArcade(10);
+  Click("cmdContinue");
+  Settle(6000);
+  EXPECT_EQ(Match().StyleIndex(), 1);
+  EXPECT_EQ(Match().hand().ctlYourDeck(1).size(), QSize(83, 102));
 }
 
-TEST_F(ProgramTest, EveryControlHasANameAndARole) {
+TEST_F(ProgramTest, AnArcadeRunIsPlayedForItsCreditsAndEndsInTheMenu) {
+  MakePlayer("ann", [](clsPlayer& player) { player.Arcade_Best = 90; });
+  Start();
+  EnterMenu("ann");
+  EnterArcade(30);
+  EXPECT_EQ(program->game()->Wager, 30);
+  Click("cmdContinue");
+  Settle(6000);
+  LoseMatch();
+  EXPECT_EQ(ScreenName(), "frmCards");
+  EXPECT_EQ(program->game()->CreditsRef->Value, 70);
+  EXPECT_EQ(program->game()->Wager, -1);
+  SettleStake(70);
+  dialogs.answers = {true};
+  Control<ctlTitlebar>("ctlTitlebar").Quit();
+  Settle(1000);
+  EXPECT_EQ(ScreenName(), "frmCards") << "a forfeit on the card screen opens it afresh";
+  EXPECT_EQ(program->game()->CreditsRef->Value, 0);
+  Click("cmdEnd");
+  EXPECT_EQ(ScreenName(), "frmMenu");
+  EXPECT_EQ(program->game(), nullptr);
+  EXPECT_EQ(Stored("ann")->Arcade_Best, 90);
+  EXPECT_EQ(program->Retired(), 0u) << "closed screens are destroyed once no pause is under way";
+}
+
+TEST_F(ProgramTest, ACampaignMatchIsBookedInAdvanceAndOnce) {
+  MakePlayer("ann");
+  Start();
+  EnterMenu("ann");
+  Click("cmdCampaign");
+  EXPECT_EQ(ScreenName(), "frmCampaign");
+  Click("cmdOpp0");
+  SettleStake(10);
+  EXPECT_EQ(Stored("ann")->Losses->Value, 1) << "in advance, on disk";
+  EXPECT_EQ(Stored("ann")->Credits->Value, 100);
+  Click("cmdContinue");
+  Settle(6000);
+  EXPECT_EQ(Stored("ann")->Credits->Value, 90);
+  LoseMatch();
+  EXPECT_EQ(ScreenName(), "frmCampaign");
+  EXPECT_EQ(Stored("ann")->Losses->Value, 1);
+  EXPECT_EQ(Stored("ann")->Credits->Value, 90);
+  EXPECT_EQ(Stored("ann")->Wins->Value, 0);
+}
+
+TEST_F(ProgramTest, EveryControlOfEveryScreenHasANameAndARole) {
   InstallAccessibleRoles();
+  MakePlayer("ann");
   Start();
-  for (QWidget* widget : program->match()->findChildren<QWidget*>()) {
-    if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus) continue;
-    const QAccessibleInterface* control = QAccessible::queryAccessibleInterface(widget);
-    ASSERT_NE(control, nullptr);
-    EXPECT_EQ(control->role(), QAccessible::Button) << widget->objectName().toStdString();
-    EXPECT_FALSE(control->text(QAccessible::Name).isEmpty()) << widget->objectName().toStdString();
-  }
-  while (!program->match()->cmdTurn().Enabled()) Settle();
-  QAccessibleInterface* card =
-      QAccessible::queryAccessibleInterface(&program->match()->hand().ctlYourDeck(1));
-  const std::size_t cards = program->match()->engine().Table(Seat::Player).size();
+  const auto check = [this] {
+    for (QWidget* widget : program->screen()->findChildren<QWidget*>()) {
+      if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus) continue;
+      const QAccessibleInterface* control = QAccessible::queryAccessibleInterface(widget);
+      ASSERT_NE(control, nullptr);
+      EXPECT_FALSE(control->text(QAccessible::Name).isEmpty())
+          << ScreenName() << " " << widget->objectName().toStdString();
+      EXPECT_NE(control->role(), QAccessible::Client) << ScreenName() << " " << widget->objectName().toStdString();
+    }
+  };
+  check();
+  EnterMenu("ann");
+  check();
+  Click("cmdOptions");
+  check();
+  Click("cmdCancel");
+  Click("cmdCampaign");
+  check();
+  Click("cmdOpp0");
+  check();
+  SettleStake(0);
+  check();
+  Click("cmdContinue");
+  Settle(6000);
+  check();
+  while (!Match().cmdTurn().Enabled()) Settle(1000);
+  QAccessibleInterface* card = QAccessible::queryAccessibleInterface(&Match().hand().ctlYourDeck(1));
+  const std::size_t cards = Match().engine().Table(Seat::Player).size();
   card->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-  EXPECT_EQ(program->match()->engine().Table(Seat::Player).size(), cards + 1);
+  EXPECT_EQ(Match().engine().Table(Seat::Player).size(), cards + 1);
 }
 
-/// Clicks, drags and keys anywhere at any time: what is shown is always what the match holds.
+/// Clicks and keys anywhere at any time, on whatever screen is open: the program neither falls nor hangs, a
+/// match shows what its record holds, and the player's file can always be loaded.
 TEST_F(ProgramTest, SurvivesAMonkey) {
-  constexpr Qt::Key kKeys[] = {Qt::Key_1, Qt::Key_2,     Qt::Key_3,      Qt::Key_4,   Qt::Key_Q,
-                               Qt::Key_S, Qt::Key_Space, Qt::Key_Return, Qt::Key_Tab, Qt::Key_Left};
+  constexpr Qt::Key kKeys[] = {Qt::Key_0,     Qt::Key_1,      Qt::Key_2,   Qt::Key_3,    Qt::Key_4,
+                               Qt::Key_Space, Qt::Key_Return, Qt::Key_Tab, Qt::Key_Left, Qt::Key_9};
+  MakePlayer("ann");
   Start();
   SeededRandom monkey(11);
   const auto upTo = [&](int end) { return static_cast<int>(monkey.Rnd() * end); };
-  std::set<const clsDeckArray*> hands;
-  for (int step = 0; step < 4000; ++step) {
-    frmGame& screen = *program->match();
+  std::multiset<std::string> seen;
+  for (int step = 0; step < 6000; ++step) {
+    if (program->screen() == nullptr) {  // it has left the program, or the next screen is on its way
+      Settle(3000);
+      if (program->screen() == nullptr) Start();
+      continue;
+    }
+    Screen& screen = *program->screen();
+    if (ScreenName() == "frmSplash" && upTo(3) != 0) EnterMenu("ann");
+    if (program->screen() != &screen) continue;
+    seen.insert(ScreenName());
     test::ScreenHand hand(screen);
-    dialogs.answers.assign(1, upTo(4) == 0);
-    const QPoint point(upTo(screen.width() - 100), upTo(screen.height() - 100));
-    const ctlCard& card = screen.hand().ctlYourDeck(1 + upTo(4));
-    switch (upTo(6)) {
+    dialogs.answers.assign(4, upTo(3) != 0);
+    const QList<QWidget*> widgets = screen.findChildren<QWidget*>();
+    const QPoint point(upTo(screen.width()), upTo(screen.height()));
+    switch (upTo(4)) {
       case 0:
-        hand.Click(upTo(2) == 0 ? static_cast<QWidget&>(screen.cmdTurn()) : screen.banner().cmdBust());
+        hand.Press(point);
+        if (program->screen() == &screen && upTo(2) == 0) hand.MoveTo({upTo(screen.width()), upTo(screen.height())});
+        if (program->screen() == &screen) hand.Release(point);
         break;
       case 1:
-        hand.Press(point);
-        hand.Release({upTo(screen.width()), upTo(screen.height())});
-        break;
       case 2:
-        if (card.isVisible()) hand.Drag(card, {3, 3}, point);
-        break;
-      case 3:
-        if (card.isVisible()) hand.DoubleClick(card);
+        if (QWidget* widget = widgets.at(upTo(static_cast<int>(widgets.size()))); widget->isVisible()) {
+          upTo(4) == 0 ? hand.DoubleClick(*widget) : hand.Click(*widget);
+        }
         break;
       default:
         hand.Key(kKeys[upTo(std::size(kKeys))], upTo(5) == 0 ? Qt::ShiftModifier : Qt::NoModifier);
         break;
     }
-    scheduler.Advance(upTo(400));
-    frmGame& now = *program->match();
-    hands.insert(program->game().SideDeck.get());
-    for (const Seat seat : {Seat::Player, Seat::Opponent}) {
-      EXPECT_EQ(now.side(seat).lblTotal().text().toInt(), now.engine().Total(seat));
-      EXPECT_EQ(now.side(seat).table().size(), now.engine().Table(seat).size());
-      EXPECT_EQ(now.side(seat).SetWinsShown(), now.engine().SetWins(seat));
+    Settle(upTo(600));
+    if (frmGame* match = program->screenAs<frmGame>()) {
+      for (const Seat seat : {Seat::Player, Seat::Opponent}) {
+        EXPECT_EQ(match->side(seat).lblTotal().text().toInt(), match->engine().Total(seat));
+        EXPECT_EQ(match->side(seat).table().size(), match->engine().Table(seat).size());
+      }
     }
-    EXPECT_EQ(now.cmdTurn().Enabled(), now.engine().controls().endTurn);
-    EXPECT_EQ(now.banner().isVisible(), now.engine().banner().visible);
+    if (step % 50 == 0) static_cast<void>(Stored("ann"));
   }
-  EXPECT_GT(hands.size(), 5u) << "it came through several matches";
-  EXPECT_GT(scheduler.pauses.size(), 500u);
+  for (const char* name : {"frmSplash", "frmMenu", "frmOptions", "frmPortraits", "frmCampaign", "frmCards", "frmGame"}) {
+    EXPECT_GT(seen.count(name), 5u) << name;
+  }
 }
 
 TEST_F(ProgramTest, EndsOnceAndLeavesNothingRunning) {
+  MakePlayer("ann");
   Start();
-  dialogs.answers = {true};
-  program->match()->LeaveProgram();
+  EnterMenu("ann");
+  Control<ctlTitlebar>("ctlTitlebar").Quit();
+  EXPECT_EQ(sound.Count("losematch"), 1);
+  Settle(2000);
+  EXPECT_EQ(quits, 0) << "the farewell is heard out";
+  Settle(1000);
   EXPECT_EQ(quits, 1);
-  EXPECT_EQ(program->match(), nullptr);
-  Settle();
-  EXPECT_EQ(program->ClosedScreens(), 0u);
+  EXPECT_EQ(program->screen(), nullptr);
   EXPECT_EQ(scheduler.RunningTimers(), 0);
-  program.reset();
 }
 
 TEST_F(ProgramTest, EndsInTheMiddleOfAPause) {
+  MakePlayer("ann");
   Start();
+  EnterMenu("ann");
+  EnterArcade(10);
+  Click("cmdContinue");
+  Settle(6000);
   dialogs.answers = {true};
-  scheduler.At(200, [this] { program->match()->LeaveProgram(); });
-  program->match()->engine().EndTurn();
-  Settle();
+  scheduler.At(200, [this] { program->screen()->LeaveProgram(); });
+  Match().engine().EndTurn();
+  Settle(6000);
   EXPECT_EQ(quits, 1);
   EXPECT_EQ(scheduler.RunningTimers(), 0);
 }
