@@ -36,6 +36,9 @@ struct Look {
         disabled(Css(bag.colour(u"disabled", kDisabled))),
         frame(QStringLiteral("%1px").arg(bag.number(u"border_width", 1))),
         corners(QStringLiteral("%1px").arg(bag.number(u"corners", 2))) {
+    if (const int height = bag.number(u"row_height"); height > 0) {
+      row = QStringLiteral("height:%1px").arg(height);
+    }
     QColor ground = bag.colour(u"fill", kFill);
     ground.setAlpha(bag.number(u"fill_strength", kFillStrength));
     fill = Css(ground);
@@ -53,10 +56,10 @@ struct Look {
   }
   [[nodiscard]] QString List(const QString& type) const {
     return Box(type) + QStringLiteral(
-                           "%1::item{padding:1px 4px}"
+                           "%1::item{padding:0 4px;border:0;%5}"
                            "%1::item:selected{background:%2;color:%3}"
                            "%1::item:selected:disabled{background:transparent;color:%4}")
-                           .arg(type, select, selectText, disabled);
+                           .arg(type, select, selectText, disabled, row);
   }
   [[nodiscard]] QString ScrollBar() const {
     return QStringLiteral(
@@ -101,6 +104,7 @@ struct Look {
   QString disabled;
   QString frame;
   QString corners;
+  QString row;
   QString fill;
   QString solid;
 };

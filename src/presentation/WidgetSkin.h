@@ -15,6 +15,7 @@ namespace kv {
 ///   "border"       frame; "border_width" in layout pixels (1), "corners" their radius in layout pixels (2)
 ///   "accent"       frame of the widget that has the focus, check marks, slider of a scroll bar
 ///   "select"       ground of a selected entry or text, "select_color" its text
+///   "row_height"   of a list's entries, in layout pixels; as the font needs it if not given
 ///   "disabled"     text and frame while disabled
 /// Call it again to change the look.
 void SkinWidget(QWidget& widget, const PropertyBag& bag);

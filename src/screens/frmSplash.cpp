@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "presentation/PanelPainter.h"
 #include "presentation/TitleButton.h"
 #include "presentation/WidgetSkin.h"
 #include "screens/PinBox.h"
@@ -203,13 +204,13 @@ void frmSplash::paintEvent(QPaintEvent* event) {
   Screen::paintEvent(event);
   QPainter painter(this);
   const PropertyBag panel = layout().bag(u"panel");
-  QColor fill = panel.colour(u"fill");
-  fill.setAlpha(panel.number(u"fill_strength", 255));
-  painter.setBrush(fill);
-  painter.setPen(panel.colour(u"border"));
-  painter.drawRect(layout().rect(u"panel").adjusted(0, 0, -1, -1));
+  PaintPanel(painter, layout().rect(u"panel"), panel);
+  const PropertyBag footer = layout().bag(u"footer");
+  QColor shade = footer.colour(u"fill_color");
+  shade.setAlpha(footer.number(u"fill_alpha"));
+  painter.fillRect(layout().rect(u"footer"), shade);
   if (imgFadeText_Target_->hasFocus() && testAttribute(Qt::WA_KeyboardFocusChange)) {
-    painter.setBrush(Qt::NoBrush);
+    painter.setPen(panel.colour(u"border_color"));
     painter.drawRect(imgFadeText_Target_->geometry().adjusted(-2, -2, 1, 1));
   }
 }
