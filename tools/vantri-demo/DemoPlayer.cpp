@@ -1,42 +1,38 @@
 #include "DemoPlayer.h"
 
-#include <QPixmap>
-#include <iostream>
-
 namespace kv {
 namespace {
 
 constexpr int kLookInterval = 40;   // milliseconds between two looks at the screen
 constexpr int kStandstill = 15000;  // milliseconds without anything to do
+constexpr int kLaterTurn = 4;       // a turn with something on the table
 constexpr int kGoodTotal = 17;      // stand from here on
 constexpr int kWorthACard = 18;     // a hand card must reach at least this
 constexpr Qt::Key kPlayKeys[] = {Qt::Key_1, Qt::Key_2, Qt::Key_3, Qt::Key_4};
 
 }  // namespace
 
-DemoPlayer::DemoPlayer(frmGame& screen, const clsGame& game, Scheduler& scheduler, std::string folder)
-    : screen_(screen), game_(game), scheduler_(scheduler), folder_(std::move(folder)), hand_(screen) {}
+DemoPlayer::DemoPlayer(DemoPerson& person)
+    : person_(person),
+      screen_(*person.program().screenAs<frmGame>()),
+      game_(*person.program().game()),
+      hand_(screen_) {}
 
-bool DemoPlayer::PlayMatch() {
-  int idle = 0;
-  while (idle < kStandstill) {
+void DemoPlayer::PlayMatch() {
+  for (int idle = 0; idle < kStandstill; idle += kLookInterval) {
     if (screen_.cmdTurn().Enabled()) {
       TakeTurn();
       idle = 0;
     } else if (screen_.banner().isVisible()) {
-      TakePicture(game_.Wager == -1 ? "result" : "set");
-      if (game_.Wager == -1) return true;
+      if (game_.Wager == -1) return;
+      if (!setSeen_) person_.TakePicture("set");
+      setSeen_ = true;
       Continue();
       idle = 0;
     }
-    Wait(kLookInterval);
-    idle += kLookInterval;
+    person_.Wait(kLookInterval);
   }
-  return false;
-}
-
-void DemoPlayer::Wait(int milliseconds) {
-  static_cast<void>(scheduler_.Pause(milliseconds, lifetime_));
+  throw DemoFailure("the match has come to a standstill");
 }
 
 int DemoPlayer::Total(Seat seat) {
@@ -45,7 +41,7 @@ int DemoPlayer::Total(Seat seat) {
 
 void DemoPlayer::TakeTurn() {
   ++turn_;
-  TakePicture("turn");
+  if (turn_ == 1 || turn_ == kLaterTurn) person_.TakePicture("turn");
   UseHand();
   if (!screen_.cmdTurn().Enabled()) return;  // exactly 20: the turn is over
   const bool stand = Total(Seat::Player) >= kGoodTotal;
@@ -104,8 +100,9 @@ void DemoPlayer::PlayCard(int slot) {
                        qRound((grid.dropTop + grid.dropBottom) / 2));
     hand_.Drag(card, {4, 4}, table - card.rect().center());
   }
-  Wait(kLookInterval);
-  TakePicture("card");
+  person_.Wait(kLookInterval);
+  if (!cardSeen_) person_.TakePicture("card");
+  cardSeen_ = true;
 }
 
 void DemoPlayer::Continue() {
@@ -114,14 +111,6 @@ void DemoPlayer::Continue() {
   } else {
     hand_.Click(screen_.banner().cmdBust());
   }
-}
-
-void DemoPlayer::TakePicture(const std::string& what) {
-  ++pictures_;
-  std::string number = std::to_string(pictures_);
-  number.insert(0, number.size() < 2 ? 1 : 0, '0');
-  const std::string path = folder_ + "/" + number + "-" + what + ".png";
-  if (!screen_.grab().save(QString::fromStdString(path))) std::cerr << "cannot write " << path << "\n";
 }
 
 }  // namespace kv

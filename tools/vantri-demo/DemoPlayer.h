@@ -2,23 +2,21 @@
 // a key. It knows nothing that the screen does not show.
 #pragma once
 
-#include <string>
-
+#include "DemoPerson.h"
 #include "match/frmGame.h"
-#include "platform/Scheduler.h"
 #include "support/ScreenHand.h"
 
 namespace kv {
 
 class DemoPlayer {
  public:
-  /// Pictures go into `folder`, which must exist.
-  DemoPlayer(frmGame& screen, const clsGame& game, Scheduler& scheduler, std::string folder);
+  /// The match screen must be open.
+  explicit DemoPlayer(DemoPerson& person);
 
-  /// Plays until the match is booked and its banner stands; false when it comes to a standstill.
-  [[nodiscard]] bool PlayMatch();
-  /// How many pictures were left.
-  [[nodiscard]] int pictures() const { return pictures_; }
+  /// Plays until the match is booked and its banner stands. DemoFailure when it comes to a standstill.
+  void PlayMatch();
+  /// Uses the banner's button.
+  void Continue();
 
  private:
   void TakeTurn();
@@ -26,19 +24,16 @@ class DemoPlayer {
   void UseHand();
   [[nodiscard]] int HandCardFor(int total) const;
   void PlayCard(int slot);
-  void Continue();
-  void Wait(int milliseconds);
   [[nodiscard]] int Total(Seat seat);
-  void TakePicture(const std::string& what);
 
+  DemoPerson& person_;
   frmGame& screen_;
   const clsGame& game_;
-  Scheduler& scheduler_;
-  std::string folder_;
   test::ScreenHand hand_;
-  Lifetime lifetime_;
   int turn_ = 0;
-  int pictures_ = 0;
+  // A picture of each is enough.
+  bool setSeen_ = false;
+  bool cardSeen_ = false;
 };
 
 }  // namespace kv

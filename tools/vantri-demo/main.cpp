@@ -1,19 +1,29 @@
-// vantri-demo [--option value]... FOLDER: plays one match by itself on the real screen, in real time, and
-// leaves a picture of every turn and of the result in FOLDER. The options are those of vantri-player.
+// vantri-demo [--option value]... FOLDER: goes the whole way through the game by itself, off screen and in
+// real time, and leaves a picture of every screen in FOLDER, in both styles or in that of "--style". The
+// options are those of vantri-player. It fails when something does not happen that should.
 #include <QApplication>
+#include <QProcess>
+#include <algorithm>
+#include <array>
 #include <filesystem>
 #include <iostream>
+#include <vector>
 
-#include "DemoPlayer.h"
+#include "DemoTour.h"
 #include "app/Program.h"
 #include "platform/Folders.h"
 #include "platform/QtDialogs.h"
 #include "platform/QtFontSystem.h"
 #include "platform/QtScheduler.h"
 #include "presentation/Fonts.h"
+#include "support/TempFolder.h"
 #include "vantri-player/PlayerOptions.h"
 
 namespace {
+
+constexpr const char* kStyleOption = "--style";
+constexpr std::uint64_t kSeed = 20;  // the cards fall the same way each time
+constexpr int kLongest = 240000;     // milliseconds for the whole way
 
 class Silence final : public kv::SoundDevice {
  public:
@@ -22,23 +32,59 @@ class Silence final : public kv::SoundDevice {
   void PlayOnce(const std::string&) override {}
 };
 
-/// The player file that the program will open, with the options of the demonstration.
-std::optional<std::string> MakePlayer(std::span<const std::string> words, kv::Dialogs& dialogs,
-                                      kv::Random& random, const std::string& folder, std::string& error) {
-  kv::clsPlayer player(dialogs, random);
-  player.Name = "Player";
-  player.KeysEn = true;
-  player.GameSpeed_Opt = 2;
-  const auto rest = kv::ApplyPlayerOptions(words, player, error);
-  if (!rest) return {};
-  if (rest->size() != 1) {
-    error = "one folder must be named";
-    return {};
+void Go(kv::DemoPerson& person, const std::string& style, std::span<const std::string> options) {
+  kv::DemoTour tour(person, style);
+  tour.CreatePlayer();
+  std::string error;
+  static_cast<void>(kv::ApplyPlayerOptions(options, *person.program().player(), error));
+  tour.ChooseOptions();
+  tour.Arcade();
+  tour.Campaign();
+  tour.Farewell();
+}
+
+int GoInStyle(const std::string& style, std::span<const std::string> options, const std::string& folder) {
+  kv::QtScheduler scheduler;
+  kv::QtDialogs dialogs(scheduler);
+  kv::SeededRandom random(kSeed);
+  Silence silence;
+  kv::QtFontSystem fonts;
+  for (const kv::DisplayFont& font : kv::kDisplayFonts) {
+    kv::InstallFont(kv::ProgramFolder() + "/" + font.file, font.name, false, fonts, dialogs);
   }
-  std::filesystem::create_directories(folder);
-  player.FileName = folder + "/Player.vnt";
-  player.WritePlayerFile();
-  return rest->front();
+  const kv::test::TempFolder players;
+  kv::Program program({scheduler, dialogs, random, silence, [] {}},
+                      {kv::ProgramFolder(), players.path(), players / "Portraits"});
+  program.Start();
+  kv::DemoPerson person(program, scheduler, folder, style + "-");
+  try {
+    Go(person, style, options);
+  } catch (const kv::DemoFailure& failure) {
+    std::cerr << "vantri-demo, " << style << ": " << failure.what() << "\n";
+    if (program.screen() != nullptr) person.TakePicture("failure");
+    return 1;
+  }
+  std::cout << style << ": " << person.pictures() << " pictures in " << folder << "\n";
+  return 0;
+}
+
+/// Both styles at the same time, each in a process of its own.
+int GoInBothStyles(const std::vector<std::string>& words) {
+  std::array<QProcess, 2> processes;
+  constexpr std::array kStyles = {"Slate", "Ember"};
+  for (std::size_t i = 0; i < processes.size(); ++i) {
+    QStringList arguments{QString::fromLatin1(kStyleOption), QString::fromLatin1(kStyles.at(i))};
+    for (const std::string& word : words) arguments.append(QString::fromStdString(word));
+    processes.at(i).setProcessChannelMode(QProcess::ForwardedChannels);
+    processes.at(i).start(QCoreApplication::applicationFilePath(), arguments);
+  }
+  int result = 0;
+  for (QProcess& process : processes) {
+    const bool ended = process.waitForFinished(kLongest) && process.exitStatus() == QProcess::NormalExit;
+    if (!ended) process.kill();
+    result = std::max(result, ended ? process.exitCode() : 1);
+  }
+  return result;
 }
 
 }  // namespace
@@ -47,38 +93,22 @@ int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   const std::vector<std::string> words(argv + 1, argv + argc);
   int none = 1;  // the toolkit would take "--style" for an option of its own
-  QApplication application(none, argv);
+  const QApplication application(none, argv);
   QApplication::setQuitOnLastWindowClosed(false);
+
   kv::QtScheduler scheduler;
   kv::QtDialogs dialogs(scheduler);
   kv::SystemRandom random;
-  Silence silence;
-  const std::string playerFolder = (std::filesystem::temp_directory_path() /
-                                    ("vantri-demo-" + std::to_string(QCoreApplication::applicationPid())))
-                                       .string();
+  kv::clsPlayer checked(dialogs, random);
   std::string error;
-  const auto folder = MakePlayer(words, dialogs, random, playerFolder, error);
-  if (!folder) {
-    std::cerr << "vantri-demo: " << error << "\nusage: vantri-demo [--option value]... FOLDER\n"
+  const auto rest = kv::ApplyPlayerOptions(words, checked, error);
+  if (!rest || rest->size() != 1) {
+    std::cerr << "vantri-demo: " << (rest ? "one folder must be named" : error)
+              << "\nusage: vantri-demo [--option value]... FOLDER\n"
               << kv::PlayerOptionsHelp();
     return 2;
   }
-  std::filesystem::create_directories(*folder);
-  kv::QtFontSystem fonts;
-  for (const kv::DisplayFont& font : kv::kDisplayFonts) {
-    kv::InstallFont(kv::ProgramFolder() + "/" + font.file, font.name, false, fonts, dialogs);
-  }
-  bool finished = false;
-  {
-    kv::Program program({scheduler, dialogs, random, silence, [] {}}, {kv::ProgramFolder(), playerFolder});
-    program.Start();
-    kv::DemoPlayer demo(*program.match(), program.game(), scheduler, *folder);
-    finished = demo.PlayMatch();
-    const kv::MatchEngine& engine = program.match()->engine();
-    std::cout << program.match()->banner().lblBust().text().toStdString() << " "
-              << engine.SetWins(kv::Seat::Player) << " to " << engine.SetWins(kv::Seat::Opponent) << "; "
-              << demo.pictures() << " pictures in " << *folder << "\n";
-  }
-  std::filesystem::remove_all(playerFolder);
-  return finished ? 0 : 1;
+  std::filesystem::create_directories(rest->front());
+  if (std::find(words.begin(), words.end(), kStyleOption) == words.end()) return GoInBothStyles(words);
+  return GoInStyle(checked.Interface_Opt, words, rest->front());
 }
