@@ -13,14 +13,13 @@
 #include "presentation/WidgetSkin.h"
 #include "screens/PinBox.h"
 #include "screens/TextLink.h"
+#include "screens/frmSplashTitle.h"
 #include "screens/modShowPIN.h"
 
 namespace kv {
 namespace {
 
 constexpr int kNameLength = 20;         // characters of a player name and of a file name
-constexpr int kInitialInterval = 50;    // milliseconds
-constexpr int kPulseInterval = 100;     // milliseconds
 constexpr int kLoadWatchInterval = 10;  // milliseconds
 constexpr const char* kAddress = "http://kelm-vantri.example";
 
@@ -29,8 +28,6 @@ constexpr const char* kAddress = "http://kelm-vantri.example";
 frmSplash::frmSplash(const ScreenServices& services, const frmSplashServices& splash, std::string_view style)
     : Screen(services, "frmSplash", style),
       splash_(splash),
-      tmrInitial_(NewTimer(kInitialInterval, [this] { InitialTick(); })),
-      tmrPulse_(NewTimer(kPulseInterval, [this] { PulseTick(); })),
       tmrLoadWatch_(NewTimer(kLoadWatchInterval, [this] { LoadWatchTick(); })) {
   setWindowTitle(QStringLiteral("Kelm Vantri"));
   BuildList();
@@ -46,6 +43,17 @@ frmSplash::~frmSplash() {
 
 void frmSplash::LeaveProgram() {
   services().navigator.EndProgram();
+}
+
+void frmSplash::BuildTitle() {
+  const PropertyBag text = layout().bag(u"imgFadeText_Target");
+  const PropertyBag line = layout().bag(u"imgFadeLine_Target");
+  title_ = std::make_unique<frmSplashTitle>(
+      *this, layout(), services().effects, services().scheduler,
+      frmSplashTitle::Look{TintedPicture(text.number(u"picture_off")), TintedPicture(text.number(u"picture")),
+                           TintedPicture(line.number(u"picture_off")),
+                           TintedPicture(line.number(u"picture"))});
+  title_->MouseMove = [this] { PlainHighlights(); };
 }
 
 void frmSplash::BuildList() {
@@ -159,12 +167,13 @@ void frmSplash::Activate() {
 
 void frmSplash::Shown() {
   loaded_ = true;
-  StartFadeIn();
+  title_->Begin();
   FocusList();
 }
 
 void frmSplash::Closing() {
-  for (Timer* timer : {tmrInitial_.get(), tmrPulse_.get(), tmrLoadWatch_.get()}) timer->setEnabled(false);
+  title_->Stop();
+  tmrLoadWatch_->setEnabled(false);
 }
 
 void frmSplash::keyPressEvent(QKeyEvent* event) {
@@ -209,9 +218,9 @@ void frmSplash::paintEvent(QPaintEvent* event) {
   QColor shade = footer.colour(u"fill_color");
   shade.setAlpha(footer.number(u"fill_alpha"));
   painter.fillRect(layout().rect(u"footer"), shade);
-  if (imgFadeText_Target_->hasFocus() && testAttribute(Qt::WA_KeyboardFocusChange)) {
+  if (title_->text().hasFocus() && testAttribute(Qt::WA_KeyboardFocusChange)) {
     painter.setPen(panel.colour(u"border_color"));
-    painter.drawRect(imgFadeText_Target_->geometry().adjusted(-2, -2, 1, 1));
+    painter.drawRect(title_->text().geometry().adjusted(-2, -2, 1, 1));
   }
 }
 

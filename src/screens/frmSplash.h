@@ -4,12 +4,10 @@
 
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "presentation/FadeTarget.h"
 #include "presentation/Screen.h"
 #include "presentation/TitleButton.h"
 #include "presentation/WindowDrag.h"
@@ -23,6 +21,7 @@ namespace kv {
 
 class PinBox;
 class TextLink;
+class frmSplashTitle;
 
 struct frmSplashServices {
   std::string workingFolder;  // player files; empty for the current folder
@@ -44,7 +43,6 @@ class frmSplash final : public Screen {
   void Activate() override;
   void Shown() override;
   void Closing() override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
@@ -88,31 +86,15 @@ class frmSplash final : public Screen {
   [[nodiscard]] ctlButton* StepButton() const;
   void cmdNew2();
 
-  void StartFadeIn();
-  void InitialTick();
-  void PulseTick();
-  void EndPulse();
-  void StopTitle();
-  void TitleMoved(const QMouseEvent& event);
-
   const frmSplashServices splash_;
   std::vector<std::string> players_;  // the list's entries, in its order
   View view_ = View::List;
-  bool loaded_ = false;      // the screen stands; the hand-over waits for it
-  bool pulseEnded_ = false;  // by a click on the title
+  bool loaded_ = false;  // the screen stands; the hand-over waits for it
   WindowDrag drag_;
-  std::optional<QPoint> press_;  // where the title was pressed, while that may still become a click
-  Picture imgFadeText_;
-  Picture imgFadeLine_;
-  Picture textOff_;
-  Picture lineOff_;
-  std::unique_ptr<Timer> tmrInitial_;
-  std::unique_ptr<Timer> tmrPulse_;
+  std::unique_ptr<frmSplashTitle> title_;
   std::unique_ptr<Timer> tmrLoadWatch_;
 
-  FadeTarget* imgFadeText_Target_ = nullptr;  // children, all that follow
-  FadeTarget* imgFadeLine_Target_ = nullptr;
-  QLabel* lblPlayerHeader_ = nullptr;
+  QLabel* lblPlayerHeader_ = nullptr;  // children, all that follow
   QListWidget* lstPlayers_ = nullptr;
   QLabel* lblPINtitle_ = nullptr;
   PinBox* txtPIN_ = nullptr;

@@ -7,6 +7,7 @@
 #include "screens/PinBox.h"
 #include "screens/PlayerFiles.h"
 #include "screens/frmSplash.h"
+#include "screens/frmSplashTitle.h"
 
 namespace kv {
 namespace {
@@ -96,7 +97,7 @@ void frmSplash::Continue() {
   }
   services().navigator.PlayerLoaded(std::move(player));
   PlayEffect("click");
-  StopTitle();
+  title_->Stop();
   tmrLoadWatch_->setEnabled(true);
 }
 

@@ -1,9 +1,9 @@
-// The title of the start screen: its fade-in, its glow, and that the window is dragged by it.
+#include "screens/frmSplashTitle.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
-
-#include "screens/frmSplash.h"
+#include <utility>
 
 namespace kv {
 namespace {
@@ -11,78 +11,80 @@ namespace {
 constexpr int kFullStrength = 255;
 constexpr Effects::Fade kFadeIn{.start = 0, .end = kFullStrength, .step = 9};
 constexpr Effects::Fade kGlow{.start = 0, .end = kFullStrength, .step = 2};
+constexpr int kInitialInterval = 50;  // milliseconds
+constexpr int kPulseInterval = 100;   // milliseconds
 
 }  // namespace
 
-void frmSplash::BuildTitle() {
-  imgFadeText_Target_ = new FadeTarget(this);
+frmSplashTitle::frmSplashTitle(QWidget& window, Layout& layout, Effects& effects, Scheduler& scheduler,
+                               Look look)
+    : window_(window),
+      effects_(effects),
+      look_(std::move(look)),
+      tmrInitial_(scheduler.NewTimer(kInitialInterval, [this] { InitialTick(); })),
+      tmrPulse_(scheduler.NewTimer(kPulseInterval, [this] { PulseTick(); })),
+      imgFadeText_Target_(new FadeTarget(&window)),
+      imgFadeLine_Target_(new FadeTarget(&window)) {
   imgFadeText_Target_->setFocusPolicy(Qt::TabFocus);
   imgFadeText_Target_->installEventFilter(this);
   imgFadeText_Target_->Click = [this] { EndPulse(); };
-  imgFadeText_Target_->MouseMove = [this] { PlainHighlights(); };
-  layout().Place(u"imgFadeText_Target", *imgFadeText_Target_);
-  imgFadeLine_Target_ = new FadeTarget(this);
-  imgFadeLine_Target_->MouseMove = [this] { PlainHighlights(); };
-  layout().Place(u"imgFadeLine_Target", *imgFadeLine_Target_);
-
-  const PropertyBag text = layout().bag(u"imgFadeText_Target");
-  const PropertyBag line = layout().bag(u"imgFadeLine_Target");
-  textOff_ = TintedPicture(text.number(u"picture_off"));
-  lineOff_ = TintedPicture(line.number(u"picture_off"));
-  imgFadeText_ = TintedPicture(text.number(u"picture"));
-  imgFadeLine_ = TintedPicture(line.number(u"picture"));
-  imgFadeText_Target_->setPicture(textOff_);
-  imgFadeLine_Target_->setPicture(lineOff_);
+  for (FadeTarget* target : {imgFadeText_Target_, imgFadeLine_Target_}) {
+    target->MouseMove = [this] {
+      if (MouseMove) MouseMove();
+    };
+  }
+  layout.Place(u"imgFadeText_Target", *imgFadeText_Target_);
+  layout.Place(u"imgFadeLine_Target", *imgFadeLine_Target_);
+  imgFadeText_Target_->setPicture(look_.textOff);
+  imgFadeLine_Target_->setPicture(look_.lineOff);
 }
 
-void frmSplash::StartFadeIn() {
+void frmSplashTitle::Begin() {
   if (pulseEnded_) return;
-  services().effects.FadeOnce({imgFadeText_, imgFadeText_Target_}, kFadeIn,
-                              {imgFadeLine_, imgFadeLine_Target_});
+  effects_.FadeOnce({look_.imgFadeText, imgFadeText_Target_}, kFadeIn,
+                    {look_.imgFadeLine, imgFadeLine_Target_});
   tmrInitial_->setEnabled(true);
 }
 
-void frmSplash::InitialTick() {
-  if (services().effects.fading()) return;
+void frmSplashTitle::InitialTick() {
+  if (effects_.fading()) return;
   tmrInitial_->setEnabled(false);
   tmrPulse_->setEnabled(true);
 }
 
 // The loop goes on by itself; one tick is enough to start it. A fade begins without a trace of its source:
 // the title, lit by now, takes the lit picture as its own and fades to the unlit one, so that nothing jumps.
-void frmSplash::PulseTick() {
+void frmSplashTitle::PulseTick() {
   tmrPulse_->setEnabled(false);
-  if (pulseEnded_) return;
-  imgFadeText_Target_->setPicture(imgFadeText_);
-  imgFadeLine_Target_->setPicture(imgFadeLine_);
-  services().effects.FadeLoop({textOff_, imgFadeText_Target_}, kGlow, {lineOff_, imgFadeLine_Target_});
+  imgFadeText_Target_->setPicture(look_.imgFadeText);
+  imgFadeLine_Target_->setPicture(look_.imgFadeLine);
+  effects_.FadeLoop({look_.textOff, imgFadeText_Target_}, kGlow, {look_.lineOff, imgFadeLine_Target_});
 }
 
-void frmSplash::EndPulse() {
-  pulseEnded_ = true;
-  StopTitle();
-  imgFadeText_Target_->setPicture(textOff_);
-  imgFadeLine_Target_->setPicture(lineOff_);
-  Effects::AlphaBlendPicture(imgFadeText_, *imgFadeText_Target_, kFullStrength);
-  Effects::AlphaBlendPicture(imgFadeLine_, *imgFadeLine_Target_, kFullStrength);
-}
-
-void frmSplash::StopTitle() {
+void frmSplashTitle::Stop() {
   tmrInitial_->setEnabled(false);
   tmrPulse_->setEnabled(false);
-  services().effects.StopFade();
+  effects_.StopFade();
+}
+
+void frmSplashTitle::EndPulse() {
+  pulseEnded_ = true;
+  Stop();
+  imgFadeText_Target_->setPicture(look_.textOff);
+  imgFadeLine_Target_->setPicture(look_.lineOff);
+  Effects::AlphaBlendPicture(look_.imgFadeText, *imgFadeText_Target_, kFullStrength);
+  Effects::AlphaBlendPicture(look_.imgFadeLine, *imgFadeLine_Target_, kFullStrength);
 }
 
 // The title is both: a click ends the glow, and the window is dragged by it. Which one a press is shows when
 // the pointer moves.
-bool frmSplash::eventFilter(QObject* watched, QEvent* event) {
-  if (watched != imgFadeText_Target_) return Screen::eventFilter(watched, event);
+bool frmSplashTitle::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::MouseButtonPress:
       press_ = static_cast<QMouseEvent*>(event)->globalPosition().toPoint();
       return false;
     case QEvent::MouseMove:
-      TitleMoved(*static_cast<QMouseEvent*>(event));
+      Moved(*static_cast<QMouseEvent*>(event));
       return false;
     case QEvent::MouseButtonRelease: {
       drag_.Release();
@@ -96,24 +98,24 @@ bool frmSplash::eventFilter(QObject* watched, QEvent* event) {
       return true;
     case QEvent::FocusIn:
     case QEvent::FocusOut:
-      update();
+      window_.update();  // it draws the frame of the focus around the title
       return false;
     default:
-      return false;
+      return QObject::eventFilter(watched, event);
   }
 }
 
-void frmSplash::TitleMoved(const QMouseEvent& event) {
+void frmSplashTitle::Moved(const QMouseEvent& event) {
   if (!event.buttons().testFlag(Qt::LeftButton)) press_.reset();
   if (press_) {
     const QPoint point = event.globalPosition().toPoint();
     if ((point - *press_).manhattanLength() < QApplication::startDragDistance()) return;
     const QPointF from = *press_;
     press_.reset();
-    drag_.Press(*this, QMouseEvent(QEvent::MouseButtonPress, mapFromGlobal(from), from, Qt::LeftButton,
-                                   Qt::LeftButton, event.modifiers()));
+    drag_.Press(window_, QMouseEvent(QEvent::MouseButtonPress, window_.mapFromGlobal(from), from,
+                                     Qt::LeftButton, Qt::LeftButton, event.modifiers()));
   }
-  drag_.Move(*this, event);
+  drag_.Move(window_, event);
 }
 
 }  // namespace kv

@@ -1,0 +1,304 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+
+#include "screens/PinBox.h"
+#include "screens/PlayerFiles.h"
+#include "screens/frmSplash.h"
+#include "screens/modShowPIN.h"
+#include "support/ScreenHand.h"
+#include "support/ScreenStage.h"
+#include "support/TempFolder.h"
+
+namespace kv {
+namespace {
+
+using test::ScreenHand;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class frmSplashTest : public testing::Test {
+ protected:
+  void Open() {
+    splash = std::make_unique<frmSplash>(
+        stage.services(),
+        frmSplashServices{folder.path(),
+                          [this] { return std::make_unique<clsPlayer>(stage.dialogs, stage.padding); },
+                          [this](const std::string& address) { opened = address; }});
+    splash->Open();
+    stage.Settle(2);
+    hand = std::make_unique<ScreenHand>(*splash);
+  }
+  void PutPlayer(const std::string& file, const std::string& pin) {
+    clsPlayer player(stage.dialogs, stage.padding);
+    player.Name = file;
+    player.PIN = pin;
+    player.FileName = folder / file;
+    player.WritePlayerFile();
+  }
+  template <typename T = QLineEdit>
+  T& Find(const char* name) {
+    return *splash->findChild<T*>(QString::fromLatin1(name));
+  }
+  ctlButton& Button(const char* name) { return dynamic_cast<ctlButton&>(Find<QAbstractButton>(name)); }
+  std::string Text(const char* box) { return Find(box).text().toStdString(); }
+  std::string Info() { return Find<QLabel>("lblCreateInfo").text().toStdString(); }
+  std::vector<std::string> Entries() {
+    std::vector<std::string> entries;
+    for (int row = 0; row < List().count(); ++row) entries.push_back(List().item(row)->text().toStdString());
+    return entries;
+  }
+  QListWidget& List() { return Find<QListWidget>("lstPlayers"); }
+  void Type(const char* text) { QTest::keyClicks(splash->focusWidget(), QString::fromLatin1(text)); }
+  void Enter() { hand->Key(Qt::Key_Return); }
+
+  test::TempFolder folder;
+  test::ScreenStage stage;
+  std::string opened;
+  std::unique_ptr<frmSplash> splash;
+  std::unique_ptr<ScreenHand> hand;
+};
+
+TEST_F(frmSplashTest, ThePlayerFilesAreListedByNameAndTheFirstIsSelected) {
+  for (const char* name : {"zed.vnt", "Bob.VNT", "alice.vnt", "notes.txt"}) folder.Put(name, "");
+  std::filesystem::create_directory(folder / "folder.vnt");
+  Open();
+  EXPECT_THAT(Entries(), ElementsAre("alice", "Bob", "zed"));
+  EXPECT_EQ(List().currentRow(), 0);
+  Type("12");
+  hand->Key(Qt::Key_Down);  // from the PIN box
+  EXPECT_EQ(List().currentRow(), 1);
+  EXPECT_EQ(Text("txtPIN"), "");
+  EXPECT_TRUE(Button("cmdContinue").Enabled());
+}
+
+TEST_F(frmSplashTest, ANewPlayerIsCreatedWithTheEnterKeyAloneAndThenLoaded) {
+  Open();
+  EXPECT_FALSE(List().isEnabled());
+  EXPECT_FALSE(Button("cmdContinue").Enabled());
+  Enter();
+  EXPECT_EQ(Find<QLabel>("lblHeader").text().toStdString(), "Enter a player name:");
+  EXPECT_FALSE(Button("cmdNewName").Enabled());
+  Enter();  // not without a name
+  EXPECT_TRUE(Find("txtPlayer").isVisible());
+  Type("  Bob the Marshal of Kelm");
+  EXPECT_EQ(Text("txtPlayer"), "Bob the Marshal of K");
+  EXPECT_EQ(Info(), "- max length reached (20)\n");
+  Enter();
+  EXPECT_EQ(Find<QLabel>("lblHeader").text().toStdString(), "Enter a filename for your player:");
+  EXPECT_EQ(Text("txtName"), "bob the marshal of k");
+  Find("txtName").clear();
+  Type(" bob ");
+  Find("txtNewPIN").setFocus();
+  EXPECT_EQ(Text("txtName"), "bob");
+  Type("42");
+  Enter();
+  EXPECT_THAT(Entries(), ElementsAre("bob"));
+  EXPECT_EQ(Text("txtPIN"), "42");
+  for (const char* box : {"txtPlayer", "txtName", "txtNewPIN"}) EXPECT_EQ(Text(box), "") << box;
+  stage.sound.played.clear();
+  Enter();
+  EXPECT_THAT(stage.recorded.calls, ElementsAre("PlayerLoaded"));
+  EXPECT_EQ(Button("cmdContinue").Caption().toStdString(), "loading...");
+  Enter();
+  stage.Settle(20);
+  EXPECT_THAT(stage.recorded.calls, ElementsAre("PlayerLoaded", "OpenMenu"));
+  EXPECT_EQ(stage.recorded.loaded->Name, "Bob the Marshal of K");
+  EXPECT_EQ(stage.recorded.loaded->PIN, "42");
+  EXPECT_EQ(stage.sound.Count("click"), 1);
+  EXPECT_THAT(stage.dialogs.boxes, IsEmpty());
+}
+
+TEST_F(frmSplashTest, AFileNameIsCheckedAtEveryChange) {
+  struct Case {
+    const char* name;
+    const char* info;
+    bool enabled;
+  };
+  constexpr const char* kInvalid = "- invalid char: \\  /  :  *  ?  \"  <  >  |\n";
+  constexpr const char* kExists = "- file of already exists\n";
+  folder.Put("Bob.VNT", "");
+  std::filesystem::create_directory(folder / "place.vnt");
+  std::filesystem::create_symlink("nowhere", folder / "link.vnt");
+  Open();
+  hand->Click(Button("cmdCreate"));
+  Type("x");
+  hand->Click(Button("cmdNewName"));
+  for (const Case& c :
+       {Case{"", "", false}, Case{"bob", kExists, false}, Case{"BOB ", kExists, false},
+        Case{"place", kExists, false}, Case{"link", kExists, false}, Case{"bo", "", true},
+        Case{"bo b", "", true}, Case{".bob", "", true}, Case{"j\xC3\xBCrg", "", true},
+        Case{"who?", kInvalid, false}, Case{"../bob", kInvalid, false}, Case{"a\\b", kInvalid, false},
+        Case{".", kInvalid, false}, Case{"..", kInvalid, false}, Case{"bob.", kInvalid, false},
+        Case{"a\tb", kInvalid, false}, Case{"a\x7F", kInvalid, false},
+        Case{"12345678901234567890", "- max length reached (20)\n", true},
+        Case{"1234567890123456789|",
+             "- invalid char: \\  /  :  *  ?  \"  <  >  |\n- max length reached (20)\n", false}}) {
+    Find("txtName").setText(QString::fromUtf8(c.name));
+    EXPECT_EQ(Info(), c.info) << c.name;
+    EXPECT_EQ(Button("cmdNewFile").Enabled(), c.enabled) << c.name;
+  }
+  Find("txtName").setText(QStringLiteral("bob"));
+  Enter();
+  EXPECT_EQ(folder.Get("Bob.VNT"), "");
+  EXPECT_FALSE(IsValidFileName(std::string(252, 'x')));
+}
+
+TEST_F(frmSplashTest, AnotherFileIsNeverReplacedAndAFailedSaveLeavesNothing) {
+  const auto toFileName = [this] {
+    Enter();
+    Type("bob");
+    Enter();
+  };
+  Open();
+  toFileName();
+  folder.Put("bob.vnt", "appeared meanwhile");
+  Enter();
+  EXPECT_EQ(folder.Get("bob.vnt"), "appeared meanwhile");
+  EXPECT_EQ(Info(), "- file of already exists\n");
+  EXPECT_FALSE(Button("cmdNewFile").Enabled());
+  EXPECT_THAT(stage.dialogs.boxes, IsEmpty());
+  hand->Key(Qt::Key_Escape);
+  EXPECT_TRUE(List().isVisible());
+  EXPECT_EQ(Text("txtPlayer"), "");
+
+  std::filesystem::remove(folder / "bob.vnt");
+  toFileName();
+  hand->Key(Qt::Key_Escape);
+  hand->Click(Button("cmdCreate"));
+  Type("bob");
+  Enter();
+  std::filesystem::remove_all(folder.path());
+  Enter();
+  ASSERT_EQ(stage.dialogs.boxes.size(), 1U);
+  EXPECT_EQ(stage.dialogs.boxes[0].text.substr(0, 25), "Error saving player file!");
+  EXPECT_THAT(Entries(), IsEmpty());
+  EXPECT_TRUE(Button("cmdCreate").Enabled());
+  EXPECT_FALSE(Button("cmdContinue").Enabled());
+}
+
+TEST_F(frmSplashTest, AFileThatCannotBeLoadedLeavesTheScreenUsable) {
+  PutPlayer("a pin.vnt", "1234");
+  folder.Put("b empty.vnt", "");
+  folder.Put("c foreign.vnt", std::string(70'000, 'x'));
+  folder.Put("d huge.vnt", "");
+  std::filesystem::resize_file(folder / "d huge.vnt", 1ULL << 33);
+  PutPlayer("e gone.vnt", "");
+  const std::string before = folder.Get("a pin.vnt");
+  Open();
+  std::filesystem::remove(folder / "e gone.vnt");
+  for (int row = 0; row < List().count(); ++row) {
+    List().setCurrentRow(row);
+    for (const char* pin : {"", "12"}) {
+      Find<PinBox>("txtPIN").setPIN(pin);
+      stage.dialogs.boxes.clear();
+      hand->Click(Button("cmdContinue"));
+      ASSERT_EQ(stage.dialogs.boxes.size(), 1U);
+      EXPECT_EQ(stage.dialogs.boxes[0].text, "Player file corrupted, or incorrect PIN");
+      EXPECT_EQ(stage.dialogs.boxes[0].title, "Kelm Vantri: Error");
+      EXPECT_EQ(stage.dialogs.boxes[0].icon, DialogIcon::Critical);
+      EXPECT_EQ(Button("cmdContinue").Caption().toStdString(), "continue");
+      EXPECT_TRUE(Button("cmdContinue").Enabled() && Button("cmdCreate").Enabled() && List().isEnabled());
+      EXPECT_TRUE(Find("txtPIN").hasFocus());
+    }
+  }
+  EXPECT_THAT(stage.recorded.calls, IsEmpty());
+  EXPECT_EQ(folder.Get("a pin.vnt"), before);
+  List().setCurrentRow(0);
+  Find<PinBox>("txtPIN").setPIN("1234");
+  Enter();
+  EXPECT_THAT(stage.recorded.calls, ElementsAre("PlayerLoaded"));
+}
+
+TEST_F(frmSplashTest, ClosedBehindABoxItTouchesNothingMore) {
+  folder.Put("bob.vnt", "");
+  Open();
+  stage.dialogs.whileOpen = [this] { splash->CloseScreen(); };
+  Enter();
+  stage.Settle();
+  EXPECT_EQ(Button("cmdContinue").Caption().toStdString(), "loading...");
+  EXPECT_THAT(stage.recorded.calls, IsEmpty());
+}
+
+TEST_F(frmSplashTest, APINBoxTakesDigitsOnlyAndShowsThemForASecond) {
+  struct Case {
+    const char* typed;
+    const char* text;
+    int caret;
+  };
+  Open();
+  hand->Click(Button("cmdCreate"));
+  Type("bob");
+  Enter();
+  auto& box = Find<PinBox>("txtNewPIN");
+  box.setFocus();
+  for (const Case& c :
+       {Case{"12a", "12", 2}, Case{"x", "", 0}, Case{"12345", "1234", 4}, Case{"1-2", "12", 2}}) {
+    box.clear();
+    Type(c.typed);
+    EXPECT_EQ(box.PIN(), c.text) << c.typed;
+    EXPECT_EQ(box.cursorPosition(), c.caret) << c.typed;
+  }
+  box.setPIN("12");
+  box.setCursorPosition(1);
+  box.insert(QStringLiteral("ab"));  // pasted: the whole is undone, the caret goes one place left
+  EXPECT_EQ(box.PIN(), "12");
+  EXPECT_EQ(box.cursorPosition(), 2);
+
+  EXPECT_FALSE(PINIsValid("\xD9\xA1"));  // a digit, but of another script
+
+  auto& reveal = Find<QAbstractButton>("lblPINReveal");
+  EXPECT_EQ(box.displayText().toStdString(), "##");
+  stage.scheduler.At(999, [&] {
+    EXPECT_EQ(box.displayText().toStdString(), "12");
+    hand->Click(reveal);  // one is running already
+  });
+  hand->Click(reveal);
+  EXPECT_EQ(box.displayText().toStdString(), "##");
+  box.clear();
+  hand->Click(reveal);
+  EXPECT_THAT(stage.scheduler.pauses, ElementsAre(1000));
+  box.setPIN("12");
+  stage.scheduler.At(500, [this] { splash->CloseScreen(); });
+  hand->Click(reveal);
+  EXPECT_EQ(stage.scheduler.timeGetTime(), 1502U);
+}
+
+TEST_F(frmSplashTest, TheTitleLightsUpAndGlowsUntilItIsClicked) {
+  Open();
+  auto& title = dynamic_cast<FadeTarget&>(Find<QWidget>("imgFadeText_Target"));
+  stage.Settle(5000);
+  EXPECT_TRUE(stage.globals.effects.fading());
+  const int before = title.alpha();
+  stage.Settle(100);
+  EXPECT_NE(title.alpha(), before);
+  hand->Press(hand->CentreOf(title));
+  hand->MoveTo(hand->CentreOf(title) + QPoint(60, 0));
+  hand->Release(hand->CentreOf(title) + QPoint(60, 0));
+  EXPECT_TRUE(stage.globals.effects.fading());  // that was a drag
+  hand->Click(title);
+  EXPECT_EQ(title.alpha(), 255);
+  stage.Settle(5000);
+  EXPECT_FALSE(stage.globals.effects.fading());
+  EXPECT_EQ(stage.scheduler.RunningTimers(), 0);
+}
+
+TEST_F(frmSplashTest, LinkAndWindowButtonsDoWhatTheySay) {
+  Open();
+  EXPECT_EQ(Find<QLabel>("lblVersion").text().toStdString(), "v1.2.4");
+  EXPECT_EQ(Find<QAbstractButton>("lblURL").text().toStdString(), "Web: kelm-vantri.example");
+  hand->Click(Find<QAbstractButton>("lblURL"));
+  EXPECT_EQ(opened, "http://kelm-vantri.example");
+  hand->Key(Qt::Key_Escape);
+  EXPECT_THAT(stage.recorded.calls, IsEmpty());
+  hand->Click(Find<QAbstractButton>("cmdQuit"));
+  EXPECT_THAT(stage.recorded.calls, ElementsAre("EndProgram"));
+  hand->Click(Find<QAbstractButton>("cmdMini"));
+  EXPECT_TRUE(splash->isMinimized());
+}
+
+}  // namespace
+}  // namespace kv
