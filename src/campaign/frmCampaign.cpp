@@ -199,7 +199,9 @@ void frmCampaign::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   const QString account = PlaceOf(u"panelAccount");
   PaintPanel(painter, layout().rect(account), layout().bag(account));
-  if (!circuit_.Finished()) {
+  if (circuit_.Finished()) {
+    PaintPanel(painter, layout().rect(u"panelDeckWide"), layout().bag(u"panelDeckWide"));
+  } else {
     painter.setPen(layout().bag(u"imgYourPic").colour(u"border_color"));
     painter.drawRect(layout().rect(u"imgYourPic").adjusted(-1, -1, 0, 0));
   }
