@@ -2,10 +2,9 @@
 
 #include <filesystem>
 
-#include "campaign/CardDesk.h"
-#include "campaign/Settlement.h"
+#include "campaign/frmCampaign.h"
+#include "campaign/frmCards.h"
 #include "campaign/modSaveWin.h"
-#include "cards/modCards.h"
 #include "match/frmGame.h"
 #include "presentation/PictureSizes.h"
 #include "screens/frmMenu.h"
@@ -141,14 +140,14 @@ void Program::OpenOptions() {
 }
 
 void Program::OpenCampaign() {
-  OpenMenu();
+  Show([this] { return std::make_shared<frmCampaign>(Services(), *player_, *game_); });
 }
 
 void Program::OpenCards() {
-  constexpr std::int32_t kStake = 10;
-  if (!SettleStake(*game_, *player_, Min(kStake, game_->CreditsRef->Value))) return OpenMenu();
-  DealMatch(*game_, *player_, services_.random);
-  OpenMatch();
+  Show([this] {
+    return std::make_shared<frmCards>(Services(),
+                                      frmCardsServices{*player_, *game_, noNetwork_, networkStake_});
+  });
 }
 
 void Program::OpenLobby() {

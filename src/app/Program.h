@@ -10,6 +10,7 @@
 #include <string>
 
 #include "app/frmGlobals.h"
+#include "campaign/WagerEntry.h"
 #include "match/MatchPartners.h"
 #include "match/clsGame.h"
 #include "platform/SoundDevice.h"
@@ -97,6 +98,7 @@ class Program final : public Navigator {
   frmGlobals globals_;
   Portraits portraits_;
   MatchNetwork noNetwork_;
+  NetworkStake networkStake_;
   std::shared_ptr<clsPlayer> player_;
   std::shared_ptr<clsGame> game_;
   std::shared_ptr<MatchBooking> booking_;

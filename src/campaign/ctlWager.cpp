@@ -1,0 +1,150 @@
+#include "campaign/ctlWager.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QSignalBlocker>
+#include <algorithm>
+
+#include "presentation/PanelPainter.h"
+#include "presentation/WidgetSkin.h"
+
+namespace kv {
+namespace {
+
+// Longer than any amount: a pasted text is judged as a whole and never cut into a valid one.
+constexpr int kLongestText = 400;
+constexpr QColor kStandsOut(255, 90, 90);
+
+bool IsEnter(int key) {
+  return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+}  // namespace
+
+ctlWager::ctlWager(QWidget* parent, Layout& layout, ButtonContext& context, WagerEntry& entry)
+    : QWidget(parent),
+      context_(context),
+      entry_(entry),
+      look_(layout.bag(u"ctlWager")),
+      drgWTitlebar_(layout.rect(u"drgWTitlebar")) {
+  setMouseTracking(true);
+  layout.Place(u"ctlWager", *this);
+  layout.NewLabel(u"lblPrompt", this);
+  lblCredits_ = NewFill(u"lblWagerCredits", layout);
+  lblWagerInfo_ = NewFill(u"lblWagerInfo", layout);
+  txtWager_ = new QLineEdit(this);
+  SkinWidget(*txtWager_, layout.bag(u"txtWager"));
+  txtWager_->setMaxLength(kLongestText);
+  txtWager_->setAlignment(Qt::AlignCenter);
+  layout.Place(u"txtWager", *txtWager_);
+  txtWager_->installEventFilter(this);
+  connect(txtWager_, &QLineEdit::textChanged, this, [this] { TextChanged(); });
+  cmdWager_ = NewButton(u"cmdWager", layout, [this] {
+    if (WagerClick) WagerClick();
+  });
+  cmdEnd_ = NewButton(u"cmdEnd", layout, [this] {
+    if (EndClick) EndClick();
+  });
+  Refresh();
+}
+
+ctlButton* ctlWager::NewButton(QStringView control, Layout& layout, const std::function<void()>& click) {
+  auto* button = new ctlButton(this, context_);
+  button->ReadProperties(layout.bag(control));
+  layout.Place(control, *button);
+  button->Click = click;
+  return button;
+}
+
+QLabel* ctlWager::NewFill(QStringView control, Layout& layout) {
+  QLabel* label = layout.NewLabel(control, this);
+  label->setAttribute(Qt::WA_TransparentForMouseEvents, false);
+  label->setFocusPolicy(Qt::TabFocus);
+  label->setCursor(Qt::PointingHandCursor);
+  label->installEventFilter(this);
+  return label;
+}
+
+void ctlWager::Refresh() {
+  {
+    const QSignalBlocker quiet(txtWager_);
+    const QString text = QString::fromStdString(entry_.text());
+    if (txtWager_->text() != text) txtWager_->setText(text);
+  }
+  txtWager_->setEnabled(entry_.boxEnabled());
+  lblCredits_->setEnabled(entry_.boxEnabled());
+  lblWagerInfo_->setEnabled(entry_.boxEnabled());
+  lblCredits_->setText(QString::fromStdString(entry_.CreditsText()));
+  const std::string info = entry_.InfoText();
+  lblWagerInfo_->setText(QString::fromStdString(info));
+  lblWagerInfo_->setVisible(!info.empty());
+  for (QLabel* label : {lblCredits_, lblWagerInfo_}) {
+    label->setAccessibleName(label->text() + QStringLiteral(" (fills the amount)"));
+  }
+  QFont font = lblCredits_->font();
+  font.setBold(entry_.InfoStandsOut());
+  lblWagerInfo_->setFont(font);
+  QPalette palette = lblCredits_->palette();
+  if (entry_.InfoStandsOut()) palette.setColor(QPalette::WindowText, kStandsOut);
+  lblWagerInfo_->setPalette(palette);
+  const std::string_view caption = CaptionText(entry_.caption());
+  cmdWager_->setCaption(QString::fromUtf8(caption.data(), static_cast<qsizetype>(caption.size())));
+  cmdWager_->setEnabled(entry_.buttonEnabled());
+}
+
+void ctlWager::TextChanged() {
+  ShowBox(entry_.Change(txtWager_->text().toStdString(), txtWager_->cursorPosition()));
+}
+
+void ctlWager::ShowBox(const BoxText& box) {
+  Refresh();
+  txtWager_->setCursorPosition(box.cursor);
+}
+
+bool ctlWager::eventFilter(QObject* watched, QEvent* event) {
+  const bool key = event->type() == QEvent::KeyPress;
+  const int code = key ? static_cast<QKeyEvent*>(event)->key() : 0;
+  if (watched == txtWager_) {
+    if (!key || !IsEnter(code)) return false;
+    // Taken here, so that the same key does not press a button of the screen behind as well.
+    if (!static_cast<QKeyEvent*>(event)->isAutoRepeat()) cmdWager_->click();
+    return true;
+  }
+  const bool pressed = event->type() == QEvent::MouseButtonPress || IsEnter(code) || code == Qt::Key_Space;
+  if (!pressed || !entry_.boxEnabled()) return key && pressed;
+  ShowBox(watched == lblCredits_ ? entry_.FillFromCredits() : entry_.FillFromInfo());
+  txtWager_->setFocus();
+  return true;
+}
+
+void ctlWager::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  PaintPanel(painter, rect(), look_);
+  const QColor edge = look_.colour(u"border_color", Qt::gray);
+  painter.setPen(edge);
+  for (int line = 0; line < 3; ++line) {  // the grip of the drag bar
+    const int y = drgWTitlebar_.center().y() - 3 + 3 * line;
+    painter.drawLine(drgWTitlebar_.left() + 12, y, drgWTitlebar_.right() - 12, y);
+  }
+}
+
+void ctlWager::mousePressEvent(QMouseEvent* event) {
+  const QPoint at = event->position().toPoint();
+  if (event->button() == Qt::LeftButton && drgWTitlebar_.contains(at)) grip_ = at;
+}
+
+void ctlWager::mouseMoveEvent(QMouseEvent* event) {
+  context_.unColor();
+  if (!grip_) return;
+  const QPoint corner = mapToParent(event->position().toPoint()) - *grip_;
+  const QSize room = parentWidget()->size() - size();
+  move(std::clamp(corner.x(), 0, std::max(0, room.width())),
+       std::clamp(corner.y(), 0, std::max(0, room.height())));
+}
+
+void ctlWager::mouseReleaseEvent(QMouseEvent*) {
+  grip_.reset();
+}
+
+}  // namespace kv

@@ -1,0 +1,217 @@
+#include "campaign/frmCards.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+
+#include "campaign/Settlement.h"
+#include "match/clsGame.h"
+
+namespace kv {
+namespace {
+
+constexpr int kNetWaitInterval = 100;  // milliseconds
+
+QString ToText(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+bool IsEnter(int key) {
+  return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+bool Usable(const ctlButton& button) {
+  return button.isVisible() && button.Enabled();
+}
+
+}  // namespace
+
+frmCards::frmCards(const ScreenServices& services, const frmCardsServices& cards)
+    : Screen(services, "frmCards", cards.player.Interface_Opt),
+      cards_(cards),
+      desk_(cards.game, cards.player, cards.networkStake),
+      entry_(cards.game, cards.player, cards.networkStake, cards.network.hosting()),
+      tmrNetWait_(NewTimer(kNetWaitInterval, [this] { NetWaitTick(); })) {
+  BuildBanks();
+  BuildDeck();
+  BuildShop();
+  BuildButtons();
+  ctlWager_ = new ctlWager(this, layout(), services.buttons, entry_);
+  ctlWager_->WagerClick = [this] { ctlWager_WagerClick(); };
+  ctlWager_->EndClick = [this] { EndClick(); };
+  ctlTitlebar_ = NewTitlebar();
+  ctlTitlebar_->Quit = [this] { TitlebarQuit(); };
+  ctlTitlebar_->setCaption(ToText(desk_.Title()));
+  setWindowTitle(ctlTitlebar_->Caption());
+}
+
+frmCards::~frmCards() {
+  CloseScreen();
+}
+
+void frmCards::Activate() {
+  Refresh();
+}
+
+void frmCards::Shown() {
+  if (ctlWager_->isVisible()) ctlWager_->gettxtWager().setFocus();
+  if (!cards_.game.isNetwork()) return;
+  tmrNetWait_->setEnabled(cards_.game.Mode == kModeNetwork);
+  cards_.network.NetSend("[Play]");
+}
+
+void frmCards::Closing() {
+  tmrNetWait_->setEnabled(false);
+}
+
+void frmCards::NetWaitTick() {
+  if (!cards_.network.peerReady()) return;
+  tmrNetWait_->setEnabled(false);
+  cards_.network.clearPeerReady();
+  if (!cards_.network.hosting()) return;
+  entry_.EnableButtons(true);
+  ctlWager_->Refresh();
+}
+
+// --- Cards -----------------------------------------------------------------------------------------------
+
+void frmCards::ClickBank(const CardPlace& place) {
+  const BankClick did = desk_.ClickBank(place);
+  if (did == BankClick::Ignored) return;
+  if (did == BankClick::Added) PlayEffect("draw");
+  Refresh();
+}
+
+void frmCards::RemoveCard(int slot) {
+  if (ctlWager_->isVisible() || !desk_.RemoveCard(slot)) return;
+  Refresh();
+}
+
+void frmCards::SwitchView(CardView view) {
+  desk_.YourDeck(view);
+  Refresh();
+}
+
+void frmCards::Trade() {
+  static_cast<void>(desk_.Trade());  // what cannot be traded leaves everything as it was
+  Refresh();
+}
+
+// --- The stake -------------------------------------------------------------------------------------------
+
+void frmCards::ctlWager_WagerClick() {
+  const WagerPress press = entry_.Press(services().dialogs);
+  if (closing()) return;
+  if (press.action == WagerAction::Propose) Propose(press.amount);
+  if (press.action == WagerAction::Settle) Settle(press);
+  ctlWager_->Refresh();
+  if (ctlWager_->isVisible()) ctlWager_->gettxtWager().setFocus();
+}
+
+void frmCards::Propose(std::int32_t amount) {
+  PlayEffect("check");
+  const ProposalTexts texts = TextsOfProposal(cards_.player.Name, amount);
+  cards_.network.NetSend(texts.wage);
+  cards_.network.NetSend(texts.chat);
+  cards_.network.AddChatLine(texts.ownLine);
+}
+
+void frmCards::Settle(const WagerPress& press) {
+  if (!SettleStake(cards_.game, cards_.player, press.amount) || closing()) return;
+  PlayEffect("accept");
+  if (press.acceptsPeer) cards_.network.NetSend("[Acpt]");
+  desk_.StakeSettled();
+  Refresh();
+  setFocus();
+}
+
+// --- Leaving ---------------------------------------------------------------------------------------------
+
+void frmCards::Continue() {
+  desk_.Store();
+  if (cards_.game.isNetwork()) {
+    cards_.network.NetSend("[Chat][" + cards_.player.Name + " is ready to play.]");
+    cards_.network.AddChatLine("[You are ready to play.]");
+  }
+  cards_.player.WritePlayerFile();
+  if (closing()) return;
+  if (cards_.game.Mode == kModeDeckConfig) {
+    services().navigator.OpenCampaign();
+  } else {
+    DealMatch(cards_.game, cards_.player, services().random);
+    services().navigator.OpenMatch();
+  }
+}
+
+void frmCards::EndClick() {
+  Navigator& navigator = services().navigator;
+  if (cards_.game.isNetwork()) {
+    cards_.network.NetSend("[Back]");
+    navigator.OpenLobby();
+  } else if (cards_.game.Mode == kModeArcade) {
+    EndArcadeRun(cards_.game, cards_.player);
+    navigator.OpenMenu();
+  } else {
+    navigator.OpenCampaign();
+  }
+}
+
+bool frmCards::AskForfeit() {
+  const bool yes = services().dialogs.AskYesNo("Are you sure you wish to forfeit this match?",
+                                               "Kelm Vantri: Forfeit Match", DialogIcon::Exclamation);
+  return yes && !closing();
+}
+
+void frmCards::TitlebarQuit() {
+  if (closing()) return;
+  if (desk_.LeavesFreely()) {
+    ctlTitlebar_->setEnabled(false);
+    PlayEffect("click");
+    EndClick();
+    return;
+  }
+  if (!AskForfeit()) return;
+  PlayEffect("losematch");
+  if (cards_.game.isNetwork()) {
+    cards_.network.SubmitChat("/disconnect");
+  } else if (cards_.game.Mode == kModeArcade) {
+    services().navigator.ReloadCards();
+  } else {
+    EndClick();
+  }
+}
+
+void frmCards::LeaveProgram() {
+  // What was booked when the stake was settled stays booked.
+  if (!desk_.LeavesFreely() && !AskForfeit()) return;
+  if (cards_.game.Mode == kModeArcade) EndArcadeRun(cards_.game, cards_.player);
+  services().navigator.EndProgram();
+}
+
+// --- Keys ------------------------------------------------------------------------------------------------
+
+bool frmCards::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return false;
+  const int key = static_cast<QKeyEvent*>(event)->key();
+  const auto* card = dynamic_cast<ctlCard*>(watched);
+  if (card == nullptr || (!IsEnter(key) && key != Qt::Key_Space)) return false;
+  if (card->Click && card->Enabled()) card->Click();
+  return true;
+}
+
+void frmCards::keyPressEvent(QKeyEvent* event) {
+  const int key = event->key();
+  ctlButton* button = nullptr;
+  if (IsEnter(key)) button = cmdContinue_;
+  if (key == Qt::Key_Space) button = cmdTrade_;
+  const std::array views = {cmdDeck_, cmdBuy_, cmdSell_};
+  if (key >= Qt::Key_1 && key <= Qt::Key_3) button = views.at(static_cast<std::size_t>(key - Qt::Key_1));
+  if (button != nullptr && Usable(*button) && !event->isAutoRepeat()) {
+    button->click();  // with the button's own sound
+  } else if (key == Qt::Key_Escape && !event->isAutoRepeat()) {
+    TitlebarQuit();
+  } else {
+    Screen::keyPressEvent(event);
+  }
+}
+
+}  // namespace kv

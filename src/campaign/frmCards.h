@@ -1,0 +1,104 @@
+// The card screen: the stake is set, the side deck is filled from the collection, cards are bought and sold,
+// and Continue leads on. It shows what the desk and the wager entry hold and hands back what the person did.
+#pragma once
+
+#include <array>
+
+#include "campaign/CardDesk.h"
+#include "campaign/WagerEntry.h"
+#include "campaign/ctlWager.h"
+#include "cards/clsDeckArray.h"
+#include "cards/ctlCard.h"
+#include "match/MatchPartners.h"
+#include "presentation/Screen.h"
+#include "profile/clsPlayer.h"
+
+namespace kv {
+
+/// All four outlive the screen.
+struct frmCardsServices {
+  clsPlayer& player;
+  clsGame& game;
+  MatchNetwork& network;
+  NetworkStake& networkStake;
+};
+
+class frmCards final : public Screen {
+ public:
+  /// In the player's interface style, for the mode of the match record.
+  frmCards(const ScreenServices& services, const frmCardsServices& cards);
+  ~frmCards() override;
+
+  /// A match whose stake is settled must be given up first.
+  void LeaveProgram() override;
+
+  [[nodiscard]] ctlWager& wager() { return *ctlWager_; }
+  [[nodiscard]] ctlTitlebar& titlebar() { return *ctlTitlebar_; }
+  /// The card on a place of the collection; null for a place that holds none.
+  [[nodiscard]] ctlCard* Bank(const CardPlace& place);
+  /// The card of a deck slot, 1 to 10.
+  [[nodiscard]] ctlCard& ctlDeck(int slot) { return *slots_.at(static_cast<std::size_t>(slot) - 1); }
+
+ protected:
+  void Activate() override;
+  void Shown() override;
+  void Closing() override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void BuildBanks();
+  void BuildDeck();
+  void BuildShop();
+  void BuildButtons();
+  ctlCard* NewCard(const QRect& place, std::function<void()> click);
+
+  // What the desk holds is shown
+  void Refresh();
+  void RefreshBanks();
+  void RefreshDeck();
+  void RefreshShop();
+  void RefreshButtons();
+
+  // What the person does
+  void ClickBank(const CardPlace& place);
+  void RemoveCard(int slot);
+  void SwitchView(CardView view);
+  void Trade();
+  void ctlWager_WagerClick();
+  void Propose(std::int32_t amount);
+  void Settle(const WagerPress& press);
+  void Continue();
+  void EndClick();
+  void TitlebarQuit();
+  /// True when the open stake was given up; the screen may be gone then.
+  [[nodiscard]] bool AskForfeit();
+  void NetWaitTick();
+
+  frmCardsServices cards_;
+  CardDesk desk_;
+  WagerEntry entry_;
+  std::unique_ptr<Timer> tmrNetWait_;
+  std::array<std::array<ctlCard*, kCardNumbers>, kCardKinds> banks_{};  // children, as all that follow
+  std::array<ctlCard*, kDeckSize> slots_{};
+  ctlWager* ctlWager_ = nullptr;
+  ctlTitlebar* ctlTitlebar_ = nullptr;
+  ctlButton* cmdDeck_ = nullptr;
+  ctlButton* cmdBuy_ = nullptr;
+  ctlButton* cmdSell_ = nullptr;
+  ctlButton* cmdTrade_ = nullptr;
+  ctlButton* cmdContinue_ = nullptr;
+  ctlCard* ctlTrade_ = nullptr;
+  QLabel* lblWagerHeader_ = nullptr;
+  QLabel* lblWager_ = nullptr;
+  QLabel* lblCreditHeader_ = nullptr;
+  QLabel* lblCredits_ = nullptr;
+  QLabel* lblBuyorSell_ = nullptr;
+  QLabel* lblCost_ = nullptr;
+  QLabel* lblAmountHeader_ = nullptr;
+  QLabel* lblAmount_ = nullptr;
+  QLabel* lblDeckCount_ = nullptr;
+};
+
+}  // namespace kv

@@ -1,0 +1,173 @@
+// The card screen's controls: how they are built from the layout, and how they show what the desk holds.
+#include <QLabel>
+#include <QPainter>
+
+#include "campaign/frmCards.h"
+#include "match/clsGame.h"
+#include "presentation/PanelPainter.h"
+
+namespace kv {
+namespace {
+
+constexpr std::array<QStringView, kCardKinds> kBankNames = {u"ctlPlus", u"ctlMinus", u"ctlFlip",
+                                                            u"ctlSpecial"};
+constexpr std::array<QStringView, kCardKinds> kBankHeadings = {u"lblPlus", u"lblMinus", u"lblFlip",
+                                                               u"lblSpecial"};
+
+QString ToText(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// The place of element `index` of a row of controls: each is "step" pixels right of the one before it.
+QRect Along(const Layout& layout, QStringView control, int index) {
+  return layout.rect(control).translated(index * layout.bag(control).number(u"step"), 0);
+}
+
+}  // namespace
+
+ctlCard* frmCards::NewCard(const QRect& place, std::function<void()> click) {
+  auto* card = new ctlCard(this, services().look);
+  card->move(place.topLeft());
+  card->setFocusPolicy(Qt::TabFocus);
+  card->installEventFilter(this);
+  // A double click is two cards: without this its second half would be lost.
+  card->DblClick = click;
+  card->Click = std::move(click);
+  card->MouseMove = [this, card](Qt::MouseButton, Qt::KeyboardModifiers, QPoint) {
+    services().buttons.unColor();
+    if (card->Enabled()) services().effects.StartCardPulse(card);
+  };
+  return card;
+}
+
+void frmCards::BuildBanks() {
+  for (std::size_t kind = 0; kind < banks_.size(); ++kind) {
+    layout().NewLabel(kBankHeadings.at(kind), this);
+    for (std::size_t value = 0; value < banks_.at(kind).size(); ++value) {
+      const CardPlace place{static_cast<int>(kind) + 1, static_cast<int>(value) + 1};
+      const CardCode code = CollectionCode(place);
+      if (code.empty()) continue;
+      ctlCard* card = NewCard(Along(layout(), kBankNames.at(kind), static_cast<int>(value)),
+                              [this, place] { ClickBank(place); });
+      card->setObjectName(kBankNames.at(kind).toString() + QString::number(place.value));
+      card->setCard(code.text());
+      card->setShow_Count(true);
+      banks_.at(kind).at(value) = card;
+    }
+  }
+}
+
+void frmCards::BuildDeck() {
+  lblDeckCount_ = layout().NewLabel(u"lblDeck", this);
+  for (int slot = 1; slot <= kDeckSize; ++slot) {
+    ctlCard* card = NewCard(Along(layout(), u"ctlDeck", slot - 1), [this, slot] { RemoveCard(slot); });
+    card->setObjectName(QStringLiteral("ctlDeck%1").arg(slot));
+    card->setPlace(QStringLiteral("deck card %1").arg(slot));
+    slots_.at(static_cast<std::size_t>(slot) - 1) = card;
+  }
+}
+
+void frmCards::BuildShop() {
+  lblWagerHeader_ = layout().NewLabel(u"lblWagerHeader", this);
+  lblWager_ = layout().NewLabel(u"lblWager", this);
+  lblCreditHeader_ = layout().NewLabel(u"lblCreditHeader", this);
+  lblCredits_ = layout().NewLabel(u"lblCredits", this);
+  lblBuyorSell_ = layout().NewLabel(u"lblBuyorSell", this);
+  lblCost_ = layout().NewLabel(u"lblCost", this);
+  lblAmountHeader_ = layout().NewLabel(u"lblAmountHeader", this);
+  lblAmount_ = layout().NewLabel(u"lblAmount", this);
+  ctlTrade_ = NewCard(layout().rect(u"ctlTrade"), {});
+  ctlTrade_->setFocusPolicy(Qt::NoFocus);
+  ctlTrade_->setObjectName(QStringLiteral("ctlTrade"));
+}
+
+void frmCards::BuildButtons() {
+  cmdDeck_ = NewButton(u"cmdDeck", [this] { SwitchView(CardView::Deck); });
+  cmdBuy_ = NewButton(u"cmdBuy", [this] { SwitchView(CardView::Buy); });
+  cmdSell_ = NewButton(u"cmdSell", [this] { SwitchView(CardView::Sell); });
+  cmdTrade_ = NewButton(u"cmdTrade", [this] { Trade(); });
+  cmdContinue_ = NewButton(u"cmdContinue", [this] { Continue(); });
+  if (!desk_.ContinueCaption().empty()) cmdContinue_->setCaption(ToText(desk_.ContinueCaption()));
+}
+
+ctlCard* frmCards::Bank(const CardPlace& place) {
+  if (!place.inTable()) return nullptr;
+  return banks_.at(static_cast<std::size_t>(place.kind) - 1).at(static_cast<std::size_t>(place.value) - 1);
+}
+
+// --- Showing ---------------------------------------------------------------------------------------------
+
+void frmCards::Refresh() {
+  RefreshBanks();
+  RefreshDeck();
+  RefreshShop();
+  RefreshButtons();
+  ctlWager_->setVisible(desk_.view() == CardView::Null);
+  ctlWager_->raise();
+  update();
+}
+
+void frmCards::RefreshBanks() {
+  for (std::size_t kind = 0; kind < banks_.size(); ++kind) {
+    for (std::size_t value = 0; value < banks_.at(kind).size(); ++value) {
+      ctlCard* card = banks_.at(kind).at(value);
+      if (card == nullptr) continue;
+      const BankCard shown = desk_.Bank({static_cast<int>(kind) + 1, static_cast<int>(value) + 1});
+      card->setCount(std::to_string(shown.count));
+      card->setPlace(QStringLiteral("%1 in the collection").arg(shown.count));
+      card->setVisible(shown.visible);
+      card->setEnabled(shown.enabled);
+    }
+  }
+}
+
+void frmCards::RefreshDeck() {
+  for (int slot = 1; slot <= kDeckSize; ++slot) {
+    const CardCode& code = desk_.Slot(slot);
+    ctlDeck(slot).setCard(code.text());
+    ctlDeck(slot).setVisible(!code.empty());
+  }
+  lblDeckCount_->setText(QStringLiteral("Deck %1/%2").arg(desk_.DeckCount()).arg(kDeckSize));
+}
+
+void frmCards::RefreshShop() {
+  const TradeArea shop = desk_.Shop();
+  for (QWidget* part :
+       std::initializer_list<QWidget*>{lblBuyorSell_, lblCost_, lblAmountHeader_, lblAmount_, cmdTrade_}) {
+    part->setVisible(shop.shown);
+  }
+  ctlTrade_->setVisible(shop.shown && !shop.card.empty());
+  if (!shop.card.empty()) ctlTrade_->setCard(shop.card.text());
+  lblBuyorSell_->setText(ToText(shop.priceHeader));
+  lblCost_->setText(QString::fromStdString(shop.price));
+  lblAmountHeader_->setText(ToText(shop.amountHeader));
+  lblAmount_->setText(QString::fromStdString(shop.amount));
+  cmdTrade_->setCaption(ToText(shop.caption));
+  cmdTrade_->setEnabled(!shop.card.empty());
+}
+
+void frmCards::RefreshButtons() {
+  const DeskButtons buttons = desk_.Buttons();
+  for (ctlButton* button : {cmdDeck_, cmdBuy_, cmdSell_}) button->setVisible(buttons.shown);
+  cmdDeck_->setEnabled(buttons.deck);
+  cmdBuy_->setEnabled(buttons.buy);
+  cmdSell_->setEnabled(buttons.sell);
+  cmdContinue_->setEnabled(buttons.next);
+  const bool settled = desk_.view() != CardView::Null;
+  const bool stake = settled && cards_.game.Mode != kModeDeckConfig && cards_.game.Mode != kModeNetworkArcade;
+  lblWagerHeader_->setVisible(stake);
+  lblWager_->setVisible(stake);
+  lblWager_->setText(QString::number(cards_.game.Wager));
+  lblCreditHeader_->setVisible(settled && cards_.game.Mode != kModeNetworkArcade);
+  lblCredits_->setVisible(lblCreditHeader_->isVisibleTo(this));
+  lblCredits_->setText(QString::number(desk_.Credits()));
+}
+
+void frmCards::paintEvent(QPaintEvent* event) {
+  Screen::paintEvent(event);
+  QPainter painter(this);
+  PaintPanel(painter, layout().rect(u"panelDeck"), layout().bag(u"panelDeck"));
+  if (desk_.Shop().shown) PaintPanel(painter, layout().rect(u"frmeTrade"), layout().bag(u"frmeTrade"));
+}
+
+}  // namespace kv
