@@ -1,0 +1,208 @@
+// The card screen through pointer and keys: stake, deck, shop and every way out, in both styles.
+#include <gtest/gtest.h>
+
+#include <QLabel>
+
+#include "campaign/Circuit.h"
+#include "campaign/frmCards.h"
+#include "match/clsGame.h"
+#include "support/ScreenHand.h"
+#include "support/ScreenStage.h"
+#include "support/TempFolder.h"
+
+namespace kv {
+namespace {
+
+class Peer final : public MatchNetwork {
+ public:
+  void NetSend(const std::string& message) override { sent.push_back(message); }
+  [[nodiscard]] bool hosting() const override { return host; }
+  [[nodiscard]] bool peerReady() const override { return ready; }
+  void clearPeerReady() override { ready = false; }
+  void SubmitChat(const std::string& line) override { sent.push_back(line); }
+
+  std::vector<std::string> sent;
+  bool host = true;
+  bool ready = false;
+};
+
+class CardsScreenTest : public testing::TestWithParam<const char*> {
+ protected:
+  CardsScreenTest() : stage(GetParam()), game(stage.player, {}) {
+    stage.player.FileName = folder / "ann.vnt";
+    stage.player.Cards->Fill(2);
+    stage.player.Credits->Value = 700;
+    stage.player.Credits_MP->Value = 80;
+    stage.player.Brannock_Wins->Value = kWinsToUnlock;
+    for (int card = 0; card < 2 * kHandSize; ++card) stage.random.Add(0.05 + 0.1 * (card % kHandSize));
+  }
+  void Open(std::string_view mode) {
+    game.Mode = mode;
+    if (mode == kModeCampaign) {
+      Circuit circuit(game, stage.player);
+      EXPECT_TRUE(circuit.Choose(1));
+    }
+    if (mode == kModeNetwork) {
+      game.CreditsRef = stage.player.Credits_MP;
+      game.DeckRef = stage.player.Deck_MP;
+      game.CardsRef = stage.player.Cards_MP;
+      game.MaxWager = 80;
+    }
+    screen = std::make_unique<frmCards>(stage.services(),
+                                        frmCardsServices{stage.player, game, peer, networkStake});
+    screen->Open();
+    stage.Settle(50);
+  }
+  void Key(Qt::Key key) {
+    test::ScreenHand(*screen).Key(key);
+    stage.Settle(50);
+  }
+  void Click(QWidget& widget) {
+    test::ScreenHand(*screen).Click(widget);
+    stage.Settle(50);
+  }
+  void SetStake(const char* text) {
+    screen->wager().gettxtWager().setText(QString::fromUtf8(text));
+    Click(screen->wager().getcmdWager());
+  }
+  [[nodiscard]] ctlButton& Button(const char* name) {
+    return dynamic_cast<ctlButton&>(*screen->findChild<QWidget*>(QString::fromUtf8(name)));
+  }
+  [[nodiscard]] const std::vector<std::string>& asked() const { return stage.recorded.calls; }
+
+  test::TempFolder folder;
+  test::ScreenStage stage;
+  Peer peer;
+  NetworkStake networkStake;
+  clsGame game;
+  std::unique_ptr<frmCards> screen;
+};
+
+TEST_P(CardsScreenTest, TheAmountBoxTakesWhatMayBeStakedAndNothingElse) {
+  Open(kModeArcade);
+  QLineEdit& box = screen->wager().gettxtWager();
+  const struct {
+    const char* text;
+    const char* kept;
+    bool button;
+  } rows[] = {
+      {"12", "12", true},   {"12a", "12", true},   {"-5", "12", true},
+      {" 7", "12", true},   {"0", "0", false},     {"99999999999999999999", "99999999999999999999", false},
+      {"100", "100", true}, {"101", "101", false}, {"", "", false}};
+  for (const auto& row : rows) {
+    box.setText(QString::fromUtf8(row.text));
+    EXPECT_EQ(box.text().toStdString(), row.kept) << row.text;
+    EXPECT_EQ(screen->wager().getcmdWager().Enabled(), row.button) << row.text;
+  }
+  Click(screen->wager().getlblCredits());
+  EXPECT_EQ(box.text(), QStringLiteral("100"));
+  box.setText(QStringLiteral("0050"));
+  Key(Qt::Key_Return);  // the box has the focus: the stake is set, and Continue behind it is not pressed
+  EXPECT_EQ(game.Wager, 50);
+  EXPECT_TRUE(screen->wager().isHidden());
+  EXPECT_TRUE(asked().empty());
+  EXPECT_FALSE(Button("cmdBuy").isVisible());
+  Key(Qt::Key_Return);
+  EXPECT_EQ(asked(), std::vector<std::string>{"OpenMatch"});
+  EXPECT_NE(game.SideDeck, nullptr);
+}
+
+TEST_P(CardsScreenTest, CardsGoIntoTheDeckAndBackAndOnlyAFullOneContinues) {
+  Open(kModeArcade);
+  Click(*screen->Bank({1, 1}));  // no stake yet: nothing happens
+  SetStake("10");
+  EXPECT_EQ(stage.sound.Count("draw"), 0);
+  const std::string before = screen->Bank({1, 1})->count();
+  Click(screen->ctlDeck(4));
+  EXPECT_TRUE(screen->ctlDeck(4).isHidden());
+  Key(Qt::Key_Return);
+  EXPECT_TRUE(asked().empty());
+  Click(*screen->Bank({1, 1}));
+  EXPECT_EQ(screen->ctlDeck(4).Card(), "ps1");
+  EXPECT_EQ(std::stoi(screen->Bank({1, 1})->count()), std::stoi(before) - 1);
+  EXPECT_EQ(stage.sound.Count("draw"), 1);
+  Click(*screen->Bank({1, 1}));  // the deck is full
+  EXPECT_EQ(std::stoi(screen->Bank({1, 1})->count()), std::stoi(before) - 1);
+  EXPECT_TRUE(Button("cmdContinue").Enabled());
+}
+
+TEST_P(CardsScreenTest, TheShopTradesWithTheWorkingCopiesUntilContinue) {
+  Open(kModeCampaign);
+  SetStake("20");
+  EXPECT_EQ(stage.player.Losses->Value, 1);
+  EXPECT_EQ(stage.player.Credits->Value, 700);
+  Key(Qt::Key_Space);  // the trade button is hidden
+  Key(Qt::Key_2);
+  EXPECT_FALSE(screen->Bank({3, 1})->isVisible()) << "a card that costs more than the credits is not offered";
+  Click(*screen->Bank({1, 1}));
+  Key(Qt::Key_Space);
+  EXPECT_EQ(stage.sound.Count("buy"), 1);
+  EXPECT_EQ(game.CreditsRef->Value, 80);
+  Key(Qt::Key_3);
+  Click(*screen->Bank({4, 5}));
+  Click(Button("cmdTrade"));
+  EXPECT_EQ(game.CreditsRef->Value, 80 + 1750);
+  EXPECT_FALSE(Button("cmdContinue").Enabled());
+  EXPECT_EQ(stage.player.Cards->Value(1, 1), 2) << "nothing is stored yet";
+  Key(Qt::Key_1);
+  Key(Qt::Key_Return);
+  EXPECT_EQ(asked(), std::vector<std::string>{"OpenMatch"});
+  EXPECT_EQ(stage.player.Credits->Value, 80 + 1750);
+  EXPECT_EQ(stage.player.Cards->Value(1, 1), 3);
+  EXPECT_EQ(stage.player.Cards->Value(4, 5), 1);
+}
+
+TEST_P(CardsScreenTest, TheTitleBarAsksOnlyWhenAMatchIsAtStake) {
+  Open(kModeCampaign);
+  SetStake("20");
+  stage.dialogs.answers = {false, true};
+  screen->titlebar().Quit();
+  EXPECT_TRUE(asked().empty());
+  screen->titlebar().Quit();
+  EXPECT_EQ(stage.dialogs.boxes.back().title, "Kelm Vantri: Forfeit Match");
+  EXPECT_EQ(asked(), std::vector<std::string>{"OpenCampaign"});
+  EXPECT_EQ(stage.player.Credits->Value, 700) << "the working copies are dropped";
+  EXPECT_EQ(stage.player.Losses->Value, 1) << "what was booked in advance stands";
+
+  stage.recorded.calls.clear();
+  Open(kModeDeckConfig);
+  EXPECT_EQ(Button("cmdContinue").Caption(), QStringLiteral("ok"));
+  EXPECT_TRUE(screen->wager().isHidden());
+  Click(Button("cmdContinue"));
+  EXPECT_EQ(asked(), std::vector<std::string>{"OpenCampaign"});
+}
+
+TEST_P(CardsScreenTest, AWarningThatIsAnsweredNoLeavesTheButtonInUse) {
+  stage.player.Cards->Fill(0);
+  stage.player.Credits->Value = 40;
+  Open(kModeCampaign);
+  stage.dialogs.answers = {false};
+  SetStake("40");
+  EXPECT_EQ(stage.dialogs.boxes.size(), 1u);
+  EXPECT_EQ(game.Wager, -1);
+  EXPECT_TRUE(screen->wager().getcmdWager().Enabled());
+  stage.dialogs.answers = {true};
+  stage.dialogs.whileOpen = [this] { screen->CloseScreen(); };  // the window goes while the box is open
+  Click(screen->wager().getcmdWager());
+  EXPECT_EQ(game.Wager, -1);
+}
+
+TEST_P(CardsScreenTest, TheHostProposesOnceThePeerIsReady) {
+  Open(kModeNetwork);
+  EXPECT_EQ(peer.sent, std::vector<std::string>{"[Play]"});
+  EXPECT_FALSE(screen->wager().gettxtWager().isEnabled());
+  peer.ready = true;
+  stage.Settle(200);
+  EXPECT_TRUE(screen->wager().gettxtWager().isEnabled());
+  SetStake("50");
+  EXPECT_EQ(peer.sent.at(1), "[Wage]50");
+  EXPECT_EQ(screen->wager().getcmdWager().Caption(), QStringLiteral("(waiting)"));
+  EXPECT_FALSE(screen->wager().getcmdWager().Enabled());
+  EXPECT_EQ(game.Wager, -1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Styles, CardsScreenTest, testing::Values("Slate", "Ember"),
+                         [](const auto& style) { return std::string(style.param); });
+
+}  // namespace
+}  // namespace kv
