@@ -5,8 +5,8 @@
 namespace kv {
 namespace {
 
-constexpr auto kGroups = {RenderStart,     RenderMenu,     RenderOptions,
-                          RenderPortraits, RenderCampaign, RenderMatch};
+constexpr auto kGroups = {RenderStart,    RenderMenu, RenderOptions, RenderPortraits,
+                          RenderCampaign, RenderDesk, RenderMatch};
 
 }  // namespace
 

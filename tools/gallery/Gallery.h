@@ -36,6 +36,7 @@ void RenderMenu(Gallery& gallery);
 void RenderOptions(Gallery& gallery);
 void RenderPortraits(Gallery& gallery);
 void RenderCampaign(Gallery& gallery);
+void RenderDesk(Gallery& gallery);
 void RenderMatch(Gallery& gallery);
 
 /// A player a good way into the game, in this style.
