@@ -6,6 +6,8 @@
 #include <QSignalBlocker>
 #include <algorithm>
 
+#include "platform/QtKeys.h"
+#include "platform/QtText.h"
 #include "presentation/PanelPainter.h"
 #include "presentation/WidgetSkin.h"
 
@@ -15,10 +17,6 @@ namespace {
 // Longer than any amount: a pasted text is judged as a whole and never cut into a valid one.
 constexpr int kLongestText = 400;
 constexpr QColor kStandsOut(255, 90, 90);
-
-bool IsEnter(int key) {
-  return key == Qt::Key_Return || key == Qt::Key_Enter;
-}
 
 }  // namespace
 
@@ -89,7 +87,7 @@ void ctlWager::Refresh() {
   if (entry_.InfoStandsOut()) palette.setColor(QPalette::WindowText, kStandsOut);
   lblWagerInfo_->setPalette(palette);
   const std::string_view caption = CaptionText(entry_.caption());
-  cmdWager_->setCaption(QString::fromUtf8(caption.data(), static_cast<qsizetype>(caption.size())));
+  cmdWager_->setCaption(ToQString(caption));
   cmdWager_->setEnabled(entry_.buttonEnabled());
 }
 

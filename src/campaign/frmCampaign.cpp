@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "match/clsGame.h"
+#include "platform/QtText.h"
 #include "presentation/PanelPainter.h"
 
 namespace kv {
@@ -18,10 +19,6 @@ constexpr int kNarrowTiles = 5;
 // A name that no portrait file bears: opponents look the same to everybody.
 constexpr std::string_view kNobody = "0";
 constexpr QColor kPressedFrame(255, 255, 255);
-
-QString ToText(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 QString TileName(int index) {
   return QStringLiteral("ctlOpp%1").arg(index);
@@ -81,7 +78,7 @@ void frmCampaign::BuildTile(int index) {
   shown->ReadProperties(layout().bag(name));
   shown->setObjectName(name);
   shown->move(layout().rect(PlaceOf(name)).topLeft());
-  shown->setOppName(ToText(tile.opponent.name));
+  shown->setOppName(ToQString(tile.opponent.name));
   shown->setMinWager(tile.opponent.minWager);
   shown->setMaxWager(tile.opponent.maxWager);
   shown->setOppPic(tile.opponent.portrait);

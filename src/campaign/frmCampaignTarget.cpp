@@ -3,6 +3,8 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 
+#include "platform/QtKeys.h"
+
 namespace kv {
 
 frmCampaignTarget::frmCampaignTarget(QWidget* parent) : QAbstractButton(parent) {
@@ -40,12 +42,7 @@ void frmCampaignTarget::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void frmCampaignTarget::keyPressEvent(QKeyEvent* event) {
-  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (enter && !event->isAutoRepeat()) {
-    click();
-  } else {
-    QAbstractButton::keyPressEvent(event);
-  }
+  if (!ClickByKey(*this, *event)) QAbstractButton::keyPressEvent(event);
 }
 
 }  // namespace kv

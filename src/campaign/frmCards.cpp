@@ -5,19 +5,13 @@
 
 #include "campaign/Settlement.h"
 #include "match/clsGame.h"
+#include "platform/QtKeys.h"
+#include "platform/QtText.h"
 
 namespace kv {
 namespace {
 
 constexpr int kNetWaitInterval = 100;  // milliseconds
-
-QString ToText(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-bool IsEnter(int key) {
-  return key == Qt::Key_Return || key == Qt::Key_Enter;
-}
 
 bool Usable(const ctlButton& button) {
   return button.isVisible() && button.Enabled();
@@ -40,7 +34,7 @@ frmCards::frmCards(const ScreenServices& services, const frmCardsServices& cards
   ctlWager_->EndClick = [this] { EndClick(); };
   ctlTitlebar_ = NewTitlebar();
   ctlTitlebar_->Quit = [this] { TitlebarQuit(); };
-  ctlTitlebar_->setCaption(ToText(desk_.Title()));
+  ctlTitlebar_->setCaption(ToQString(desk_.Title()));
   setWindowTitle(ctlTitlebar_->Caption());
 }
 

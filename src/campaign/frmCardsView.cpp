@@ -4,6 +4,7 @@
 
 #include "campaign/frmCards.h"
 #include "match/clsGame.h"
+#include "platform/QtText.h"
 #include "presentation/PanelPainter.h"
 
 namespace kv {
@@ -13,10 +14,6 @@ constexpr std::array<QStringView, kCardKinds> kBankNames = {u"ctlPlus", u"ctlMin
                                                             u"ctlSpecial"};
 constexpr std::array<QStringView, kCardKinds> kBankHeadings = {u"lblPlus", u"lblMinus", u"lblFlip",
                                                                u"lblSpecial"};
-
-QString ToText(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 /// The place of element `index` of a row of controls: each is "step" pixels right of the one before it.
 QRect Along(const Layout& layout, QStringView control, int index) {
@@ -87,7 +84,7 @@ void frmCards::BuildButtons() {
   cmdSell_ = NewButton(u"cmdSell", [this] { SwitchView(CardView::Sell); });
   cmdTrade_ = NewButton(u"cmdTrade", [this] { Trade(); });
   cmdContinue_ = NewButton(u"cmdContinue", [this] { Continue(); });
-  if (!desk_.ContinueCaption().empty()) cmdContinue_->setCaption(ToText(desk_.ContinueCaption()));
+  if (!desk_.ContinueCaption().empty()) cmdContinue_->setCaption(ToQString(desk_.ContinueCaption()));
 }
 
 ctlCard* frmCards::Bank(const CardPlace& place) {
@@ -139,11 +136,11 @@ void frmCards::RefreshShop() {
   }
   ctlTrade_->setVisible(shop.shown && !shop.card.empty());
   if (!shop.card.empty()) ctlTrade_->setCard(shop.card.text());
-  lblBuyorSell_->setText(ToText(shop.priceHeader));
+  lblBuyorSell_->setText(ToQString(shop.priceHeader));
   lblCost_->setText(QString::fromStdString(shop.price));
-  lblAmountHeader_->setText(ToText(shop.amountHeader));
+  lblAmountHeader_->setText(ToQString(shop.amountHeader));
   lblAmount_->setText(QString::fromStdString(shop.amount));
-  cmdTrade_->setCaption(ToText(shop.caption));
+  cmdTrade_->setCaption(ToQString(shop.caption));
   cmdTrade_->setEnabled(!shop.card.empty());
 }
 

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/QtPropertyBag.h"
+#include "platform/QtText.h"
 #include "platform/Text.h"
 
 namespace kv {
@@ -99,7 +100,7 @@ void ctlCard::setCard(std::string_view code) {
 
 void ctlCard::setCount(std::string_view text) {
   count_ = static_cast<std::int16_t>(NumberOf(text));
-  countLabel_ = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+  countLabel_ = ToQString(text);
   update();
 }
 

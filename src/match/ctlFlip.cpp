@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "platform/QtKeys.h"
+
 namespace kv {
 namespace {
 
@@ -84,11 +86,7 @@ void ctlFlip::leaveEvent(QEvent* event) {
 }
 
 void ctlFlip::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-    if (!event->isAutoRepeat()) click();
-    return;
-  }
-  QAbstractButton::keyPressEvent(event);
+  if (!ClickByKey(*this, *event)) QAbstractButton::keyPressEvent(event);
 }
 
 }  // namespace kv

@@ -17,10 +17,6 @@ KeyModifiers HeldOf(Qt::KeyboardModifiers held) {
           .alt = held.testFlag(Qt::AltModifier)};
 }
 
-bool IsEnter(int key) {
-  return key == Qt::Key_Return || key == Qt::Key_Enter;
-}
-
 }  // namespace
 
 // --- What the engine says --------------------------------------------------------------------------------

@@ -1,5 +1,6 @@
 #include "platform/QtKeys.h"
 
+#include <QAbstractButton>
 #include <QKeyEvent>
 #include <algorithm>
 #include <array>
@@ -147,6 +148,16 @@ QString KeyName(int virtualKey) {
   }
   const auto key = std::ranges::find(kKeys, virtualKey, &Key::code);
   return key == std::end(kKeys) ? QString() : QString::fromUtf16(key->name);
+}
+
+bool IsEnter(int qtKey) {
+  return qtKey == Qt::Key_Return || qtKey == Qt::Key_Enter;
+}
+
+bool ClickByKey(QAbstractButton& button, const QKeyEvent& event, bool spaceToo) {
+  if (!IsEnter(event.key()) && !(spaceToo && event.key() == Qt::Key_Space)) return false;
+  if (!event.isAutoRepeat()) button.click();
+  return true;
 }
 
 }  // namespace kv

@@ -3,6 +3,7 @@
 
 #include <QString>
 
+class QAbstractButton;
 class QKeyEvent;
 
 namespace kv {
@@ -14,5 +15,11 @@ namespace kv {
 [[nodiscard]] int VirtualKey(int qtKey, bool keypad);
 /// What the key is called on the options screen ("A", "Space", "Num 4"); empty for a code without a key.
 [[nodiscard]] QString KeyName(int virtualKey);
+
+/// The Return key and the keypad's Enter.
+[[nodiscard]] bool IsEnter(int qtKey);
+/// What a pressed key does to a button that has the focus: Enter clicks it, Space too if `spaceToo` (the
+/// toolkit would wait for its release), once for each press. False for any other key: nothing is done then.
+[[nodiscard]] bool ClickByKey(QAbstractButton& button, const QKeyEvent& event, bool spaceToo = false);
 
 }  // namespace kv

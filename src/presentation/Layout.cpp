@@ -6,14 +6,11 @@
 #include <cmath>
 #include <stdexcept>
 
+#include "platform/QtText.h"
 #include "presentation/LayoutText.h"
 
 namespace kv {
 namespace {
-
-QString ToQString(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 QJsonObject StyleOf(const QJsonObject& screen, const QString& style) {
   const QJsonValue value = screen.value(style);

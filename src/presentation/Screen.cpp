@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QPainter>
 
+#include "platform/QtText.h"
 #include "presentation/RoundWindow.h"
 
 namespace kv {
@@ -12,7 +13,7 @@ Screen::Screen(const ScreenServices& services, std::string_view name, std::strin
         tmrShown_->setEnabled(false);
         Shown();
       })) {
-  setObjectName(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+  setObjectName(ToQString(name));
   setMouseTracking(true);
   setFocusPolicy(Qt::StrongFocus);
   setFixedSize(layout_.size());

@@ -4,6 +4,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "platform/QtKeys.h"
+
 namespace kv {
 namespace {
 
@@ -62,11 +64,7 @@ void TitleButton::leaveEvent(QEvent* event) {
 }
 
 void TitleButton::keyPressEvent(QKeyEvent* event) {
-  if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
-    QAbstractButton::keyPressEvent(event);
-  } else if (!event->isAutoRepeat()) {
-    click();
-  }
+  if (!ClickByKey(*this, *event)) QAbstractButton::keyPressEvent(event);
 }
 
 }  // namespace kv

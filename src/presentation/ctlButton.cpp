@@ -7,6 +7,8 @@
 #include <cmath>
 #include <iterator>
 
+#include "platform/QtKeys.h"
+
 namespace kv {
 namespace {
 
@@ -183,13 +185,7 @@ void ctlButton::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void ctlButton::keyPressEvent(QKeyEvent* event) {
-  const bool activates =
-      event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (!activates) {
-    QAbstractButton::keyPressEvent(event);
-  } else if (!event->isAutoRepeat()) {
-    click();
-  }
+  if (!ClickByKey(*this, *event, true)) QAbstractButton::keyPressEvent(event);
 }
 
 void ctlButton::changeEvent(QEvent* event) {

@@ -5,6 +5,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "platform/QtKeys.h"
+
 namespace kv {
 
 frmMenuReset::frmMenuReset(QWidget* parent, const PropertyBag& bag)
@@ -43,13 +45,7 @@ void frmMenuReset::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void frmMenuReset::keyPressEvent(QKeyEvent* event) {
-  const bool activates =
-      event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (!activates) {
-    QAbstractButton::keyPressEvent(event);
-  } else if (!event->isAutoRepeat()) {
-    click();
-  }
+  if (!ClickByKey(*this, *event, true)) QAbstractButton::keyPressEvent(event);
 }
 
 }  // namespace kv

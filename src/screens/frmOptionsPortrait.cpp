@@ -3,6 +3,8 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include "platform/QtKeys.h"
+
 namespace kv {
 namespace {
 
@@ -37,12 +39,7 @@ void frmOptionsPortrait::paintEvent(QPaintEvent*) {
 }
 
 void frmOptionsPortrait::keyPressEvent(QKeyEvent* event) {
-  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (enter && !event->isAutoRepeat()) {
-    click();
-  } else {
-    QAbstractButton::keyPressEvent(event);
-  }
+  if (!ClickByKey(*this, *event)) QAbstractButton::keyPressEvent(event);
 }
 
 }  // namespace kv

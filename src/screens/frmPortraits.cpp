@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <optional>
 
+#include "platform/QtKeys.h"
 #include "presentation/PanelPainter.h"
 #include "presentation/PictureSizes.h"
 
@@ -31,10 +32,6 @@ std::optional<PortraitKey> PortraitKeyOf(int key) {
     default:
       return {};
   }
-}
-
-bool Activates(int key) {
-  return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
 }  // namespace
@@ -143,11 +140,11 @@ void frmPortraits::keyPressEvent(QKeyEvent* event) {
     LeaveProgram();
   } else if (const auto key = PortraitKeyOf(event->key())) {
     Select(TileAfter(*key, selected_));
-  } else if (!Activates(event->key()) && event->key() != Qt::Key_Space) {
+  } else if (!IsEnter(event->key()) && event->key() != Qt::Key_Space) {
     Screen::keyPressEvent(event);
   } else if (imgOverride_->hasFocus()) {
     if (!event->isAutoRepeat()) OpenFolder();
-  } else if (Activates(event->key()) && !event->isAutoRepeat()) {
+  } else if (IsEnter(event->key()) && !event->isAutoRepeat()) {
     PlayEffect("click");
     Confirm();
   }
