@@ -101,7 +101,8 @@ void ctlWager::ShowBox(const BoxText& box) {
 }
 
 bool ctlWager::eventFilter(QObject* watched, QEvent* event) {
-  const bool key = event->type() == QEvent::KeyPress;
+  const QEvent::Type type = event->type();
+  const bool key = type == QEvent::KeyPress;
   const int code = key ? static_cast<QKeyEvent*>(event)->key() : 0;
   if (watched == txtWager_) {
     if (!key || !IsEnter(code)) return false;
@@ -109,7 +110,10 @@ bool ctlWager::eventFilter(QObject* watched, QEvent* event) {
     if (!static_cast<QKeyEvent*>(event)->isAutoRepeat()) cmdWager_->click();
     return true;
   }
-  const bool pressed = event->type() == QEvent::MouseButtonPress || IsEnter(code) || code == Qt::Key_Space;
+  if (type == QEvent::FocusIn || type == QEvent::FocusOut || type == QEvent::Enter || type == QEvent::Leave) {
+    update();  // the frame around what can be clicked
+  }
+  const bool pressed = type == QEvent::MouseButtonPress || IsEnter(code) || code == Qt::Key_Space;
   if (!pressed || !entry_.boxEnabled()) return key && pressed;
   ShowBox(watched == lblCredits_ ? entry_.FillFromCredits() : entry_.FillFromInfo());
   txtWager_->setFocus();
@@ -124,6 +128,10 @@ void ctlWager::paintEvent(QPaintEvent*) {
   for (int line = 0; line < 3; ++line) {  // the grip of the drag bar
     const int y = drgWTitlebar_.center().y() - 3 + 3 * line;
     painter.drawLine(drgWTitlebar_.left() + 12, y, drgWTitlebar_.right() - 12, y);
+  }
+  for (const QLabel* label : {lblCredits_, lblWagerInfo_}) {
+    if (!label->isVisible() || !label->isEnabled()) continue;
+    if (label->hasFocus() || label->underMouse()) painter.drawRect(label->geometry().adjusted(0, 0, -1, -1));
   }
 }
 

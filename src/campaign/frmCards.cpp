@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QLabel>
+#include <algorithm>
 
 #include "campaign/Settlement.h"
 #include "match/clsGame.h"
@@ -186,10 +187,14 @@ void frmCards::LeaveProgram() {
 
 bool frmCards::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::KeyPress) return false;
-  const int key = static_cast<QKeyEvent*>(event)->key();
+  const auto* pressed = static_cast<QKeyEvent*>(event);
   const auto* card = dynamic_cast<ctlCard*>(watched);
-  if (card == nullptr || (!IsEnter(key) && key != Qt::Key_Space)) return false;
-  if (card->Click && card->Enabled()) card->Click();
+  if (card == nullptr || (!IsEnter(pressed->key()) && pressed->key() != Qt::Key_Space)) return false;
+  // A picked card is traded with the space bar, and a full deck takes no card: then the key is the screen's.
+  const bool inDeck = std::ranges::find(slots_, card) != slots_.end();
+  if (Usable(*cmdTrade_) && pressed->key() == Qt::Key_Space) return false;
+  if (Usable(*cmdContinue_) && IsEnter(pressed->key()) && !inDeck) return false;
+  if (card->Click && card->Enabled() && !pressed->isAutoRepeat()) card->Click();
   return true;
 }
 

@@ -15,9 +15,27 @@ constexpr std::array<QStringView, kCardKinds> kBankNames = {u"ctlPlus", u"ctlMin
 constexpr std::array<QStringView, kCardKinds> kBankHeadings = {u"lblPlus", u"lblMinus", u"lblFlip",
                                                                u"lblSpecial"};
 
+constexpr int kEmptySlotAlpha = 150;  // of the frame that waits for a card
+constexpr int kSlotCorners = 5;
+
 /// The place of element `index` of a row of controls: each is "step" pixels right of the one before it.
 QRect Along(const Layout& layout, QStringView control, int index) {
   return layout.rect(control).translated(index * layout.bag(control).number(u"step"), 0);
+}
+
+void PaintEmptySlots(QPainter& painter, const Layout& layout, const CardDesk& desk) {
+  QColor frame = layout.bag(u"panelDeck").colour(u"border_color");
+  frame.setAlpha(kEmptySlotAlpha);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(frame, 1, Qt::DashLine));
+  painter.setBrush(Qt::NoBrush);
+  for (int slot = 1; slot <= kDeckSize; ++slot) {
+    if (!desk.Slot(slot).empty()) continue;
+    const QRectF place = Along(layout, u"ctlDeck", slot - 1);
+    painter.drawRoundedRect(place.adjusted(3.5, 3.5, -3.5, -3.5), kSlotCorners, kSlotCorners);
+  }
+  painter.restore();
 }
 
 }  // namespace
@@ -165,6 +183,7 @@ void frmCards::paintEvent(QPaintEvent* event) {
   Screen::paintEvent(event);
   QPainter painter(this);
   PaintPanel(painter, layout().rect(u"panelDeck"), layout().bag(u"panelDeck"));
+  PaintEmptySlots(painter, layout(), desk_);
   if (desk_.Shop().shown) PaintPanel(painter, layout().rect(u"frmeTrade"), layout().bag(u"frmeTrade"));
 }
 
