@@ -85,7 +85,7 @@ void CardDesk::RefreshBanks() {
 }
 
 CardDesk::BankState CardDesk::StateInView(const CardPlace& place) const {
-  if (CollectionCode(place).empty()) return BankState::Hidden;
+  if (!HoldsCard(place)) return BankState::Hidden;
   const bool any = cards_->Value(place.kind, place.value) > 0;
   switch (view_) {
     case CardView::Buy:

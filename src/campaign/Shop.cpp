@@ -37,8 +37,12 @@ CardPlace CardKindValue(const CardCode& code) {
   return code.prefix() == "fn" ? CardPlace{3, NumberOf(code.numericPart())} : CardPlace{};
 }
 
+bool HoldsCard(const CardPlace& place) {
+  return place.inTable() && (place.kind != kCardKinds || place.value <= kSpecials);
+}
+
 CardCode CollectionCode(const CardPlace& place) {
-  if (!place.inTable() || (place.kind == kCardKinds && place.value > kSpecials)) return {};
+  if (!HoldsCard(place)) return {};
   if (place.kind == kCardKinds) {
     return CardCode("s" + std::to_string(place.value) + std::to_string(kNotChosen));
   }
@@ -65,7 +69,7 @@ bool BuyCard(const CardPlace& place, std::int32_t& credits, clsCardArray& cards)
 }
 
 bool SellCard(const CardPlace& place, std::int32_t& credits, clsCardArray& cards) {
-  if (CollectionCode(place).empty()) return false;
+  if (!HoldsCard(place)) return false;
   const std::int16_t count = cards.Value(place.kind, place.value);
   if (count <= 0) return false;
   const std::int64_t sum = std::int64_t{credits} + SellValue(place);

@@ -23,6 +23,8 @@ struct CardPlace {
 };
 
 [[nodiscard]] CardPlace CardKindValue(const CardCode& code);
+/// Whether there is a card of this kind and number.
+[[nodiscard]] bool HoldsCard(const CardPlace& place);
 /// The card on a place of the collection; the empty code for a place that holds none.
 [[nodiscard]] CardCode CollectionCode(const CardPlace& place);
 

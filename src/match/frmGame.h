@@ -21,8 +21,8 @@ class frmGame final : public Screen, private MatchView {
   explicit frmGame(const frmGameServices& services);
   ~frmGame() override;
 
-  /// Leaving the program (Escape, or the window system's close): a match that is not booked yet must be
-  /// given up first.
+  /// Leaving the program (the window system's close): a match that is not booked yet must be given up
+  /// first.
   void LeaveProgram() override;
 
   [[nodiscard]] MatchEngine& engine() { return engine_; }
@@ -63,7 +63,7 @@ class frmGame final : public Screen, private MatchView {
   ctlButton* NewMatchButton(QStringView control, std::function<void()> click);
   /// True when the key was one of the player's game keys; nothing else is done with it then.
   bool GameKey(const QKeyEvent& event);
-  /// The keys by which everything is reached without a mouse: arrows, and Escape to leave.
+  /// The keys by which everything is reached without a mouse: arrows, and Escape to give up the match.
   bool FocusKey(const QKeyEvent& event);
 
   frmGameServices services_;

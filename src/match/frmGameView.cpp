@@ -184,7 +184,7 @@ bool frmGame::FocusKey(const QKeyEvent& event) {
       ctlBust_->cmdBust().click();
       return true;
     case Qt::Key_Escape:
-      LeaveProgram();
+      if (!event.isAutoRepeat() && ctlTitlebar_->Enabled()) engine_.Forfeit();
       return true;
     default:
       return false;

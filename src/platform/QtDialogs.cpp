@@ -8,6 +8,16 @@
 namespace kv {
 namespace {
 
+// Dark and quiet in both interface styles, so that a box belongs to the screen it lies over.
+constexpr const char* kLook =
+    "QDialog { background: #0a121b; }"
+    "QLabel { color: #e6ebf0; font-family: 'BankGothic Md BT'; font-size: 14px; }"
+    "QLineEdit { background: #03080e; color: #ffffff; border: 1px solid #4a6274; padding: 4px; }"
+    "QPushButton { background: #122433; color: #cfe6f5; border: 1px solid #4a6274; padding: 6px 20px;"
+    "  font-family: 'BankGothic Md BT'; font-size: 13px; min-width: 56px; }"
+    "QPushButton:hover { background: #1a3448; color: #ffffff; }"
+    "QPushButton:focus { border: 1px solid #00a9fb; color: #ffffff; }";
+
 QMessageBox::Icon IconOf(DialogIcon icon) {
   switch (icon) {
     case DialogIcon::Information:
@@ -31,6 +41,7 @@ int Run(const std::string& text, const std::string& title, DialogIcon icon,
   const QPointer<QMessageBox> box =
       new QMessageBox(IconOf(icon), QString::fromStdString(title), QString::fromStdString(text), buttons,
                       QApplication::activeWindow());
+  box->setStyleSheet(QString::fromLatin1(kLook));
   box->setTextFormat(Qt::PlainText);
   box->setEscapeButton(escape);
   box->setDefaultButton(escape);  // a hasty Enter must not give anything up
@@ -55,6 +66,7 @@ std::optional<std::string> QtDialogs::AskText(const std::string& prompt, const s
                                               const std::string& preset) {
   const QtScheduler::Nested nested(scheduler_);
   const QPointer<QInputDialog> box = new QInputDialog(QApplication::activeWindow());
+  box->setStyleSheet(QString::fromLatin1(kLook));
   box->setWindowTitle(QString::fromStdString(title));
   box->setLabelText(QString::fromStdString(prompt));
   box->setTextValue(QString::fromStdString(preset));

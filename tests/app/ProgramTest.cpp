@@ -214,7 +214,7 @@ TEST_F(ProgramTest, SurvivesAMonkey) {
   }
   for (const char* name :
        {"frmSplash", "frmMenu", "frmOptions", "frmPortraits", "frmCampaign", "frmCards", "frmGame"}) {
-    EXPECT_GT(seen.count(name), 1u) << name;
+    EXPECT_GT(seen.count(name), 0u) << name;
   }
 }
 

@@ -1,6 +1,8 @@
 // The circuit: which tiles are open, what choosing one prepares, bankruptcy, and the hands of its matches.
+#include "ai/clsAI_Normal.h"
 #include "campaign/CampaignFixture.h"
 #include "match/Dealing.h"
+#include "vantri-campaign/CampaignPlay.h"
 
 namespace kv::test {
 namespace {
@@ -92,6 +94,25 @@ TEST_F(CircuitRulesTest, BankruptIsWhoHasNothingToSell) {
   player.Cards->Fill(0);
   player.Credits->Value = 1;
   EXPECT_FALSE(Circuit(game, player).Bankrupt());
+}
+
+// The whole road, again and again: every match is booked once, and nothing is ever refused on the way (the
+// simulation throws when a tile, a stake, a deal or a booking is).
+TEST_F(CircuitRulesTest, WholeCampaignsKeepTheirBooks) {
+  clsAI_Normal strategy;
+  std::array<int, 3> ends{};
+  for (std::uint64_t seed = 1; seed <= 6; ++seed) {
+    SeededRandom chance(seed);
+    const CampaignHabits habits{
+        .stakes = static_cast<StakePolicy>(seed % 3), .patient = seed % 2 == 0, .mostMatches = 3000};
+    const CampaignResult result = PlayCampaign(habits, strategy, chance);
+    EXPECT_EQ(result.wins + result.losses, result.matches);
+    EXPECT_GE(result.credits, 0);
+    EXPECT_GE(result.wins, result.end == CampaignEnd::Finished ? 50 : 0);
+    ++ends.at(static_cast<std::size_t>(result.end));
+  }
+  EXPECT_GT(ends[0], 0) << "a campaign can be finished";
+  EXPECT_GT(ends[1], 0) << "and lost";
 }
 
 }  // namespace

@@ -1,10 +1,9 @@
-// The match record of an arcade run and its booking, with a player file on disk.
+// The match record of an arcade run.
 #include <gtest/gtest.h>
 
 #include "ai/clsAI_Ember.h"
 #include "ai/clsAI_Normal.h"
-#include "match/ArcadeBooking.h"
-#include "platform/Files.h"
+#include "match/clsGame.h"
 #include "profile/clsPlayer.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TempFolder.h"
@@ -47,34 +46,6 @@ TEST_F(ArcadeRunTest, TheRecordFollowsThePlayersOptions) {
   player.ArcadeOpp_Opt = 2;
   EXPECT_EQ(clsGame(player, portraits).OppName, "");
   EXPECT_EQ(asked, (std::vector<std::string>{"7:", "5:0", "7:", "45:0"}));
-}
-
-TEST_F(ArcadeRunTest, AWinPaysTheStakeTwiceUpToTheCap) {
-  clsGame game(player, {});
-  ArcadeBooking booking(game, player);
-  game.Wager = 50;
-  game.CreditsRef->Value = 200;
-  booking.SaveWin();
-  EXPECT_EQ(game.CreditsRef->Value, 300);
-  EXPECT_EQ(game.WinsRef->Value, 1);
-  EXPECT_EQ(game.Wager, -1);
-  EXPECT_TRUE(FileExists(player.FileName));
-
-  game.Wager = 1500000000;
-  game.WinsRef->Value = 32767;
-  booking.SaveWin();
-  EXPECT_EQ(game.CreditsRef->Value, 2000000000);
-  EXPECT_EQ(game.WinsRef->Value, 32767);
-}
-
-TEST_F(ArcadeRunTest, ALossLeavesTheStakeLost) {
-  clsGame game(player, {});
-  ArcadeBooking booking(game, player);
-  game.Wager = 50;
-  game.CreditsRef->Value = 200;
-  booking.SaveLoss();
-  EXPECT_EQ(game.CreditsRef->Value, 200);
-  EXPECT_EQ(game.Wager, -1);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "Gallery.h"
 
 #include <QPixmap>
+#include <filesystem>
 
 namespace kv {
 namespace {
@@ -23,7 +24,8 @@ void Gallery::Save(QWidget& screen, const std::string& name) {
 
 void FillSamplePlayer(clsPlayer& player) {
   player.Name = "Mara Teth";
-  player.FileName = "mara.vnt";
+  // Settling a stake saves the player: somewhere out of the way.
+  player.FileName = (std::filesystem::temp_directory_path() / "mara.vnt").string();
   player.Portrait = 22;
   player.Arcade_Best = 4200;
   player.Credits->Value = 1385;

@@ -15,11 +15,30 @@
 namespace kv {
 namespace {
 
-/// The cards that the buyer wants, in this order: flip cards of the middle first, then the cleverer specials.
-/// The n-th takes the place of the n-th card of the first deck, weakest first.
-constexpr std::array<CardPlace, kDeckSize> kWishes = {
-    {{3, 4}, {3, 3}, {3, 4}, {3, 3}, {3, 2}, {4, 5}, {3, 2}, {4, 1}, {3, 1}, {4, 5}}};
-constexpr int kReserve = 2;  // stakes that stay in the purse when buying
+/// One card of the deck for a better one.
+struct Swap {
+  CardPlace old;
+  CardPlace better;
+};
+/// What the buyer does, in this order. The small plus cards of the first deck sell for more than a flip card
+/// of a high number costs; flip cards of many different numbers serve a hand best; the one-or-two card is the
+/// best of all.
+constexpr std::array<Swap, 13> kSwaps = {{{{1, 1}, {1, 6}},
+                                          {{1, 1}, {3, 6}},
+                                          {{1, 6}, {3, 6}},
+                                          {{1, 2}, {3, 5}},
+                                          {{1, 2}, {3, 5}},
+                                          {{1, 3}, {3, 4}},
+                                          {{1, 3}, {3, 4}},
+                                          {{1, 5}, {3, 3}},
+                                          {{1, 5}, {3, 2}},
+                                          {{1, 4}, {3, 3}},
+                                          {{1, 4}, {3, 2}},
+                                          {{3, 6}, {4, 5}},
+                                          {{3, 6}, {4, 5}}}};
+constexpr std::int32_t kSmallestPurse = 100;  // what the buyer keeps
+constexpr int kPurseStakes = 2;               // or so many of the newest opponent's least stakes
+constexpr int kPatientStakes = 5;             // what the patient player wants to have before meeting it
 
 class NoBoxes final : public Dialogs {
  public:
@@ -59,6 +78,7 @@ class Campaign {
     while (result_.matches < habits_.mostMatches && !Over()) PlayMatch();
     result_.credits = player_.Credits->Value;
     result_.wins = player_.Wins->Value;
+    result_.losses = player_.Losses->Value;
     return result_;
   }
 
@@ -77,10 +97,11 @@ class Campaign {
   void PlayMatch() {
     if (player_.Credits->Value == 0) SellEverything();
     const int tile = ChooseOpponent();
+    if (habits_.buys) Buy();
+    if (!Circuit(game_, player_).Choose(tile)) throw std::logic_error("an open tile was refused");
     CardDesk desk(game_, player_, networkStake_);
     if (!TakeStake(game_, player_, Stake())) throw std::logic_error("a stake was refused");
     desk.StakeSettled();
-    if (habits_.buys) Buy(desk);
     desk.Store();
     DealMatch(game_, player_, random_);
     static_cast<void>(PlayPrepared(game_, strategy_, booking_, {}, random_));
@@ -88,57 +109,70 @@ class Campaign {
     ++result_.against.at(static_cast<std::size_t>(tile));
   }
 
-  /// The newest opponent; when it asks for more than there is, the richest of those that can be met.
+  /// The newest opponent; while the purse is too small for it, the one from whom most can be expected.
   int ChooseOpponent() {
-    Circuit circuit(game_, player_);
-    frontier_ = 0;
-    int chosen = 0;
-    for (int tile = 0; tile < kCircuitTiles; ++tile) {
-      const CircuitTile each = circuit.Tile(tile);
-      if (!each.visible) continue;
-      frontier_ = tile;
-      if (each.enabled) chosen = tile;
+    const Circuit circuit(game_, player_);
+    newest_ = 0;
+    int earner = 0;
+    double best = -1e9;
+    for (int index = 0; index < kCircuitTiles; ++index) {
+      const CircuitTile tile = circuit.Tile(index);
+      if (!tile.visible) continue;
+      newest_ = index;
+      if (!tile.enabled) continue;
+      // Half a match each is what the player believes before the first one.
+      const double share = (tile.wins + 1.0) / (result_.against.at(static_cast<std::size_t>(index)) + 2.0);
+      const double gain = (share - 0.5) * std::min(tile.opponent.maxWager, player_.Credits->Value);
+      if (gain > best) {
+        best = gain;
+        earner = index;
+      }
     }
-    earning_ = chosen != frontier_;
-    if (!circuit.Choose(chosen)) throw std::logic_error("an open tile was refused");
-    return chosen;
+    const std::int32_t wanted = LeastStakeOfNewest() * (habits_.patient ? kPatientStakes : 1);
+    earning_ = player_.Credits->Value < wanted;
+    return earning_ ? earner : newest_;
+  }
+
+  std::int32_t LeastStakeOfNewest() const {
+    return CircuitOpponents().at(static_cast<std::size_t>(newest_)).minWager;
   }
 
   std::int32_t Stake() const {
     const std::int32_t most = std::min(game_.CreditsRef->Value, game_.MaxWager);
     const std::int32_t least = game_.MinWager;
-    // Who has to earn the next opponent's stake first plays for as much as there is to win.
-    if (earning_ || habits_.stakes == StakePolicy::Most) return most;
-    if (habits_.stakes == StakePolicy::Least) return least;
+    if (habits_.stakes == StakePolicy::Most) return most;
+    // Who has to earn something cannot play for nothing.
+    if (habits_.stakes == StakePolicy::Least && !earning_) return least;
     return std::clamp(game_.CreditsRef->Value / 4, least, most);
   }
 
-  /// Buys the next wished card while that leaves stakes for the newest opponent, and sells the card it
-  /// replaces.
-  void Buy(CardDesk& desk) {
-    const std::int32_t stake =
-        std::max<std::int32_t>(50, CircuitOpponents().at(static_cast<std::size_t>(frontier_)).minWager);
-    while (result_.bought < kDeckSize) {
-      const CardPlace wish = kWishes.at(static_cast<std::size_t>(result_.bought));
-      if (!Affordable(wish, desk.Credits() - kReserve * stake)) return;
-      const int slot = SlotOfWeakest(desk);
-      const CardPlace old = CardKindValue(desk.Slot(slot));
-      TradeOne(desk, CardView::Buy, wish);
+  /// In the deck view, before a match: every swap that leaves the purse full enough.
+  void Buy() {
+    if (bought_ == kSwaps.size() || !CanBuy(player_.Credits->Value)) return;
+    Circuit(game_, player_).ChooseDeckView();
+    CardDesk desk(game_, player_, networkStake_);
+    while (bought_ < kSwaps.size() && CanBuy(desk.Credits())) {
+      const Swap& swap = kSwaps.at(bought_);
+      TradeOne(desk, CardView::Buy, swap.better);
       desk.YourDeck(CardView::Deck);
-      if (!desk.RemoveCard(slot) || desk.ClickBank(wish) != BankClick::Added) {
+      int slot = 1;
+      while (CardKindValue(desk.Slot(slot)) != swap.old) ++slot;
+      if (!desk.RemoveCard(slot) || desk.ClickBank(swap.better) != BankClick::Added) {
         throw std::logic_error("a card could not be changed");
       }
-      TradeOne(desk, CardView::Sell, old);
-      desk.YourDeck(CardView::Deck);
-      ++result_.bought;
+      TradeOne(desk, CardView::Sell, swap.old);
+      ++bought_;
     }
+    desk.YourDeck(CardView::Deck);
+    desk.Store();
+    result_.bought = static_cast<int>(bought_);
   }
 
-  /// The first plus card of the first deck that is still there.
-  static int SlotOfWeakest(const CardDesk& desk) {
-    int slot = 1;
-    while (CardKindValue(desk.Slot(slot)).kind != 1) ++slot;
-    return slot;
+  [[nodiscard]] bool CanBuy(std::int32_t credits) const {
+    const Swap& swap = kSwaps.at(bought_);
+    const std::int32_t purse = std::max(kSmallestPurse, LeastStakeOfNewest() * kPurseStakes);
+    const std::int32_t left = credits - CardPrice(swap.better.kind, swap.better.value) + SellValue(swap.old);
+    return Affordable(swap.better, credits) && left >= purse;
   }
 
   static void TradeOne(CardDesk& desk, CardView view, const CardPlace& place) {
@@ -170,7 +204,8 @@ class Campaign {
   BookInMemory booking_{game_, player_, dialogs_};
   NetworkStake networkStake_;
   CampaignResult result_;
-  int frontier_ = 0;
+  std::size_t bought_ = 0;  // swaps done
+  int newest_ = 0;          // the tile that was revealed last
   bool earning_ = false;
 };
 

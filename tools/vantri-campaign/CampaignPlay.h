@@ -20,7 +20,8 @@ enum class StakePolicy : std::uint8_t {
 
 struct CampaignHabits {
   StakePolicy stakes = StakePolicy::Quarter;
-  bool buys = true;        // improves the deck when credits are left over
+  bool buys = true;        // changes its cards for better ones when credits are left over
+  bool patient = true;     // meets the newest opponent only with several of its least stakes in the purse
   int mostMatches = 5000;  // then the player gives up
 };
 
@@ -29,7 +30,8 @@ enum class CampaignEnd : std::uint8_t { Finished, Bankrupt, GaveUp };
 struct CampaignResult {
   CampaignEnd end = CampaignEnd::GaveUp;
   int matches = 0;
-  int wins = 0;
+  int wins = 0;  // and losses, as the player record counts them
+  int losses = 0;
   int bought = 0;  // cards
   std::int32_t credits = 0;
   std::array<int, kCircuitTiles> against{};  // matches, by tile

@@ -3,8 +3,10 @@
 // options are those of vantri-player. It fails when something does not happen that should.
 #include <QApplication>
 #include <QProcess>
+#include <QTimer>
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <filesystem>
 #include <iostream>
 #include <vector>
@@ -52,6 +54,11 @@ int GoInStyle(const std::string& style, std::span<const std::string> options, co
   for (const kv::DisplayFont& font : kv::kDisplayFonts) {
     kv::InstallFont(kv::ProgramFolder() + "/" + font.file, font.name, false, fonts, dialogs);
   }
+  // A box that nobody expects would hold everything up.
+  QTimer::singleShot(kLongest, [&style] {
+    std::cerr << "vantri-demo, " << style << ": it takes too long\n";
+    std::_Exit(1);
+  });
   const kv::test::TempFolder players;
   kv::Program program({scheduler, dialogs, random, silence, [] {}},
                       {kv::ProgramFolder(), players.path(), players / "Portraits"});
