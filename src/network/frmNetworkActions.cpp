@@ -9,6 +9,7 @@ namespace {
 
 constexpr int kHeadingLines = 2;  // of the list of addresses
 constexpr std::int32_t kTradedCredits = 10;
+constexpr int kListMargin = 8;    // layout pixels below its last line
 constexpr const char* kLoopback = "127.0.0.1";
 constexpr const char* kPortPrompt =
     "Both players must use the same port number. Enter new port number (1 - 65535)";
@@ -90,6 +91,8 @@ void frmNetwork::ListLocalIPs() {
 void frmNetwork::ShowAddresses() {
   EnableButtons(false);
   ListLocalIPs();
+  const int rows = lstIPs_->sizeHintForRow(0) * lstIPs_->count() + 2 * lstIPs_->frameWidth();
+  lstIPs_->setFixedHeight(rows + kListMargin);
   lstIPs_->show();
   lstIPs_->setCurrentRow(lstIPs_->count() > kHeadingLines ? kHeadingLines : 0);
   lstIPs_->setFocus();

@@ -39,6 +39,7 @@ class NetworkPlayer {
                         },
                         [address] { return std::vector<std::string>{"127.0.0.1", address}; }},
         ProgramFolders{"no-such-folder", folder.path(), folder / "Portraits"});
+    program->Start();
     auto player = std::make_unique<clsPlayer>(dialogs, random);
     player->Name = name;
     player->FileName = folder / (name + ".vnt");
