@@ -71,6 +71,7 @@ void NetworkGame::ScreensClosed() {
 void NetworkGame::MatchOpened(MatchEngine& match) {
   match_ = &match;
   peerMoves_ = {};
+  turnSeen_ = false;
   if (playerStarts_) match.setPlayerStarts(*std::exchange(playerStarts_, {}));
 }
 

@@ -171,6 +171,7 @@ class NetworkGame final : public MatchNetwork {
   bool hosting_ = true;
   bool peerReady_ = false;
   bool turnHeld_ = false;  // the peer's "[Turn]" was acted on; what follows are repetitions
+  bool turnSeen_ = false;  // the peer has ended a turn of this match
   bool arcade_ = false;
   bool versionMatches_ = true;
   Greeting greeting_;

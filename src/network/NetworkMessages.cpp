@@ -192,9 +192,11 @@ NetworkGame::Answer NetworkGame::Handle(const msg::Turn&) {
   const auto barred = turnHeld_ ? Answer::Done : MoveBarred();
   if (barred == Answer::Later) return *barred;
   NetSend("[TAck]");
-  if (barred) return *barred;
-  if (!peerMoves_.drawn && !match_->OpponentStood()) return Answer::Refuse;
-  turnHeld_ = true;
+  // Repetitions can come late, even after the next "[Play]": without a move since the last they end no turn.
+  const bool repeated = turnSeen_ && !peerMoves_.drawn;
+  if (barred) return repeated ? Answer::Done : *barred;
+  if (!peerMoves_.drawn && !match_->OpponentStood()) return repeated ? Answer::Done : Answer::Refuse;
+  turnHeld_ = turnSeen_ = true;
   peerMoves_ = {};
   match_->AI_EndTurn();
   return Answer::Done;

@@ -162,21 +162,28 @@ class TwoPrograms {
     Pass(4000);
   }
   /// Both do what can be done until `done`; throws when it does not come to that within `seconds`.
-  void PlayUntil(const std::function<bool()>& done, int stake = 10, int seconds = 1200) {
+  void PlayUntil(const std::function<bool()>& done, int stake = 10, int seconds = 3600) {
     for (int tick = 0; tick < seconds * 20; ++tick) {
       Pass(50);
       if (done()) return;
-      host.Act(stake);
-      guest.Act(stake);
+      for (NetworkPlayer* each : {&host, &guest}) {
+        each->Act(stake);
+        NetworkGame& network = *each->program->network();
+        if (repeatTurns != nullptr && network.link().turnRepeats() && repeatTurns->Rnd() < 0.05) {
+          network.NetSend("[Turn]");
+        }
+      }
     }
-    throw std::logic_error("stuck: host " + host.ScreenName() + ", guest " + guest.ScreenName());
+    throw std::logic_error("stuck: host " + host.ScreenName() + ", guest " + guest.ScreenName() +
+                           host.program->network()->chatLog() + "\nGUEST" + guest.program->network()->chatLog());
   }
   [[nodiscard]] bool BothOn(const char* screen) const {
     return host.ScreenName() == screen && guest.ScreenName() == screen;
   }
   void Start() {
     if (!host.Click("cmdStart") || !guest.Click("cmdStart")) throw std::logic_error("no Start");
-    PlayUntil([this] { return BothOn("frmCards"); });
+    for (int wait = 0; wait < 1000 && !BothOn("frmCards"); ++wait) Pass(50);
+    if (!BothOn("frmCards")) throw std::logic_error("no card screen");
   }
   void PlayMatch(int stake) {
     Start();
@@ -184,6 +191,7 @@ class TwoPrograms {
     Pass(3000);
   }
 
+  Random* repeatTurns = nullptr;  // by its chance "[Turn]" is repeated before its time
   HandScheduler clock;
   LoopbackNet net;
   NetworkPlayer host;
