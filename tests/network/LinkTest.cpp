@@ -28,18 +28,19 @@ class LinkTest : public testing::Test {
   std::vector<std::string> log;
   bool later = false;
   std::function<void()> inHandler;
-  Link link{clock, socket,
-            {.Greet = [this] { log.emplace_back("greet"); },
-             .Message =
-                 [this](const std::string& message) {
-                   messages.push_back(message);
-                   if (inHandler) inHandler();
-                   return !later;
-                 },
-             .Interrupted = [this](bool now) { log.emplace_back(now ? "interrupted" : "stands"); },
-             .Failed = [this](int number, const std::string& text) {
-               log.push_back(std::to_string(number) + " " + text);
-             }}};
+  Link link{
+      clock,
+      socket,
+      {.Greet = [this] { log.emplace_back("greet"); },
+       .Message =
+           [this](const std::string& message) {
+             messages.push_back(message);
+             if (inHandler) inHandler();
+             return !later;
+           },
+       .Interrupted = [this](bool now) { log.emplace_back(now ? "interrupted" : "stands"); },
+       .Failed = [this](int number,
+                        const std::string& text) { log.push_back(std::to_string(number) + " " + text); }}};
 };
 
 TEST_F(LinkTest, OneMessageEachWayATick) {

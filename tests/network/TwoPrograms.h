@@ -31,13 +31,21 @@ class NetworkPlayer {
                 std::uint64_t seed)
       : random(seed), chance_(seed + 1000), clock_(clock) {
     program = std::make_unique<Program>(
-        ProgramServices{clock, dialogs, random, sound, [this] { ++quits; }, {}, {},
+        ProgramServices{clock,
+                        dialogs,
+                        random,
+                        sound,
+                        [this] { ++quits; },
+                        {},
+                        {},
                         [&net, address, this] {
                           auto made = std::make_unique<LoopbackSocket>(net, address);
                           socket = made.get();
                           return made;
                         },
-                        [address] { return std::vector<std::string>{"127.0.0.1", address}; }},
+                        [address] {
+                          return std::vector<std::string>{"127.0.0.1", address};
+                        }},
         ProgramFolders{"no-such-folder", folder.path(), folder / "Portraits"});
     program->Start();
     auto player = std::make_unique<clsPlayer>(dialogs, random);
@@ -57,8 +65,9 @@ class NetworkPlayer {
 
   template <typename Kind>
   [[nodiscard]] Kind* Find(const char* name) {
-    return program->screen() == nullptr ? nullptr
-                                        : program->screen()->findChild<Kind*>(QString::fromUtf8(name));
+    Screen* screen = program->screen();
+    return screen == nullptr ? nullptr
+                             : dynamic_cast<Kind*>(screen->findChild<QWidget*>(QString::fromUtf8(name)));
   }
   /// Clicks a button that can be clicked; false when it cannot be.
   bool Click(const char* name) {
@@ -93,6 +102,8 @@ class NetworkPlayer {
   RecordingSound sound;
   LoopbackSocket* socket = nullptr;
   int quits = 0;
+  bool continues = true;                    // from the card screen once it can
+  bool plays = true;                        // when it is its turn in a match
   std::vector<std::array<int, 2>> results;  // won sets of each match: own, peer's
   std::unique_ptr<Program> program;
 
@@ -104,7 +115,7 @@ class NetworkPlayer {
     }
     if (cards.wager().isVisible() && wager.isEnabled()) {
       wager.click();
-    } else {
+    } else if (continues) {
       Click("cmdContinue");
     }
   }
@@ -120,7 +131,7 @@ class NetworkPlayer {
       return;
     }
     told_ = nullptr;
-    if (!engine.controls().endTurn) return;
+    if (!engine.controls().endTurn || !plays) return;
     const double what = chance_.Rnd();
     const int slot = 1 + static_cast<int>(chance_.Rnd() * kHandSize);
     if (what < 0.25) engine.FirstFlip(slot);
@@ -141,7 +152,9 @@ class NetworkPlayer {
 class TwoPrograms {
  public:
   explicit TwoPrograms(std::uint64_t seed = 1)
-      : net(clock), host(clock, net, "Hanna", "10.0.0.1", seed), guest(clock, net, "Gus", "10.0.0.2", seed + 1) {
+      : net(clock),
+        host(clock, net, "Hanna", "10.0.0.1", seed),
+        guest(clock, net, "Gus", "10.0.0.2", seed + 1) {
     Pass(200);
   }
   ~TwoPrograms() {
@@ -175,7 +188,8 @@ class TwoPrograms {
       }
     }
     throw std::logic_error("stuck: host " + host.ScreenName() + ", guest " + guest.ScreenName() +
-                           host.program->network()->chatLog() + "\nGUEST" + guest.program->network()->chatLog());
+                           host.program->network()->chatLog() + "\nGUEST" +
+                           guest.program->network()->chatLog());
   }
   [[nodiscard]] bool BothOn(const char* screen) const {
     return host.ScreenName() == screen && guest.ScreenName() == screen;

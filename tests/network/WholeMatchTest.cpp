@@ -49,7 +49,9 @@ TEST(WholeMatch, EndsAlikeOnBothSidesHoweverTheStreamIsCut) {
       const int stake = static_cast<int>(chance.Rnd() * 20);
       const Account host(both.host);
       const Account guest(both.guest);
-      const auto counters = [](const clsPlayer& p) { return std::array{p.Wins_MP->Value, p.Losses_MP->Value}; };
+      const auto counters = [](const clsPlayer& p) {
+        return std::array{p.Wins_MP->Value, p.Losses_MP->Value};
+      };
       const auto hostBefore = counters(both.host.record());
       const auto guestBefore = counters(both.guest.record());
       both.repeatTurns = &chance;
@@ -61,7 +63,9 @@ TEST(WholeMatch, EndsAlikeOnBothSidesHoweverTheStreamIsCut) {
       EXPECT_EQ(std::max(seen[0], seen[1]), kSetsToWin);
       host.Check(arcade, stake, hostBefore[0], hostBefore[1]);
       guest.Check(arcade, stake, guestBefore[0], guestBefore[1]);
-      EXPECT_FALSE(both.host.Saw("Unknown command")) << both.host.program->network()->chatLog() << "\n\nHOST " << both.host.socket->sent << "\n\nGUEST " << both.guest.socket->sent;
+      EXPECT_FALSE(both.host.Saw("Unknown command"))
+          << both.host.program->network()->chatLog() << "\n\nHOST " << both.host.socket->sent << "\n\nGUEST "
+          << both.guest.socket->sent;
       EXPECT_FALSE(both.guest.Saw("Unknown command"));
       if (testing::Test::HasFailure()) return;
     }
