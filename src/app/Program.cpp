@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "campaign/Settlement.h"
 #include "campaign/frmCampaign.h"
 #include "campaign/frmCards.h"
 #include "campaign/modSaveWin.h"
@@ -260,6 +261,8 @@ void Program::EndProgram() {
   globals_.tmrOff->setEnabled(false);
   globals_.tmrReloadCards->setEnabled(false);
   CloseCurrent();
+  // Whoever closes the window has ended the run as well: a record must not be lost by that.
+  if (game_ != nullptr && game_->Mode == kModeArcade) EndArcadeRun(*game_, *player_);
   services_.quit();
 }
 

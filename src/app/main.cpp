@@ -32,10 +32,13 @@ void OpenAddress(const std::string& address) {
 int main(int argc, char** argv) {
   // Everything that the player owns is found in the working folder from here on.
   const std::string programFolder = kv::ProgramFolder();
-  const std::string playerFolder = kv::UserFolder();
   std::error_code error;  // a folder that cannot be made is told when the player is saved
+  const std::string playerFolder = std::filesystem::absolute(kv::UserFolder(), error).string();
   std::filesystem::create_directories(playerFolder, error);
   std::filesystem::current_path(playerFolder, error);
+  // A folder that cannot be entered is named in full: nobody's players are put where the game happens to
+  // start.
+  const std::string working = error ? playerFolder : std::string();
   const kv::SingleInstance instance(playerFolder);
   if (instance.OtherRuns()) return 0;
 
@@ -49,7 +52,7 @@ int main(int argc, char** argv) {
 
   kv::QtScheduler scheduler;
   kv::QtDialogs dialogs(scheduler);
-  if (!kv::CheckProgramFiles(programFolder, {}, dialogs)) return 1;
+  if (!kv::CheckProgramFiles(programFolder, working, dialogs)) return 1;
   kv::SystemRandom random;
   kv::SdlSoundDevice sound(scheduler);
   kv::QtFontSystem fonts;
@@ -59,7 +62,7 @@ int main(int argc, char** argv) {
   // A plain end of the event loop: asking every window first whether it may be closed would let one refuse.
   const auto quit = [] { QCoreApplication::exit(0); };
   kv::Program program({scheduler, dialogs, random, sound, quit, OpenFolder, OpenAddress},
-                      {programFolder, {}, kv::PortraitFolder(programFolder, {})});
+                      {programFolder, working, kv::PortraitFolder(programFolder, working)});
   program.Start();
   return QApplication::exec();
 }

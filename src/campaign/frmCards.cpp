@@ -83,6 +83,8 @@ void frmCards::ClickBank(const CardPlace& place) {
   const BankClick did = desk_.ClickBank(place);
   if (did == BankClick::Ignored) return;
   if (did == BankClick::Added) PlayEffect("draw");
+  // The last copy is taken: the focus must not slide to a card that the person did not choose.
+  if (focusWidget() == Bank(place) && !desk_.Bank(place).enabled) setFocus();
   Refresh();
 }
 
@@ -135,12 +137,12 @@ void frmCards::Propose(std::int32_t amount) {
 }
 
 void frmCards::Settle(const WagerPress& press) {
-  if (!SettleStake(cards_.game, cards_.player, press.amount) || closing()) return;
   proposed_ = false;
   PlayEffect("accept");
   // Whatever the peer was ready for before is over: its next "[Play]" is that of the match.
   if (cards_.game.isNetwork()) cards_.network.clearPeerReady();
   if (press.acceptsPeer) cards_.network.NetSend("[Acpt]");
+  if (!SettleStake(cards_.game, cards_.player, press.amount) || closing()) return;
   desk_.StakeSettled();
   Refresh();
   if (chat_ == nullptr || !chat_->writing()) setFocus();
@@ -209,7 +211,6 @@ void frmCards::LeaveProgram() {
     cards_.network.SubmitChat("/quit");
     return;
   }
-  if (cards_.game.Mode == kModeArcade) EndArcadeRun(cards_.game, cards_.player);
   services().navigator.EndProgram();
 }
 
@@ -234,7 +235,8 @@ void frmCards::keyPressEvent(QKeyEvent* event) {
   if (button != nullptr && Usable(*button) && !event->isAutoRepeat()) {
     button->click();  // with the button's own sound
   } else if (key == Qt::Key_Escape && !event->isAutoRepeat()) {
-    TitlebarQuit();
+    // A key pressed in passing must not end a run, which nobody is asked about between two matches.
+    if (cards_.game.Mode != kModeArcade || !desk_.LeavesFreely()) TitlebarQuit();
   } else {
     Screen::keyPressEvent(event);
   }

@@ -98,6 +98,7 @@ ctlCard* frmCards::Bank(const CardPlace& place) {
 // --- Showing ---------------------------------------------------------------------------------------------
 
 void frmCards::Refresh() {
+  services().effects.StopCardPulse();  // it would paint over the dim of a card that is disabled now
   RefreshBanks();
   RefreshDeck();
   RefreshShop();

@@ -3,8 +3,10 @@
 #include <QKeyEvent>
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <iterator>
 #include <string_view>
+#include <utility>
 
 #include "platform/Keys.h"
 
@@ -101,6 +103,11 @@ int AtPlace(const Row& row, std::uint32_t scanCode) {
   return place < row.codes.size() ? row.codes[place] : 0;
 }
 
+// X11 key codes of the punctuation keys, and their virtual-key codes.
+constexpr std::pair<std::uint32_t, int> kPunctuationPlaces[] = {{20, 189}, {21, 187}, {34, 219}, {35, 221},
+                                                                {47, 186}, {48, 222}, {49, 192}, {51, 220},
+                                                                {59, 188}, {60, 190}, {61, 191}};
+
 }  // namespace
 
 int VirtualKey(int qtKey, bool keypad) {
@@ -125,6 +132,10 @@ int VirtualKey(const QKeyEvent& event) {
   if (const int code = VirtualKey(event.key(), keypad)) return code;
   for (const Row& row : kLetterRows) {
     if (const int letter = AtPlace(row, event.nativeScanCode())) return letter;
+  }
+  // National punctuation and dead keys: the code of the key that has this place on the American keyboard.
+  for (const auto& [scanCode, code] : kPunctuationPlaces) {
+    if (event.nativeScanCode() == scanCode) return code;
   }
   return 0;
 }

@@ -1,5 +1,6 @@
 #include "screens/frmMenuReset.h"
 
+#include <QEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -14,6 +15,12 @@ frmMenuReset::frmMenuReset(QWidget* parent, const PropertyBag& bag)
   connect(this, &QAbstractButton::clicked, this, [this] {
     if (const std::function<void()> handler = DblClick) handler();
   });
+}
+
+bool frmMenuReset::event(QEvent* event) {
+  // The toolkit would show the tooltip of a disabled widget: nothing is offered that cannot be had.
+  if (event->type() == QEvent::ToolTip && !isEnabled()) return true;
+  return QAbstractButton::event(event);
 }
 
 void frmMenuReset::paintEvent(QPaintEvent*) {

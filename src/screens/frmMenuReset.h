@@ -18,6 +18,7 @@ class frmMenuReset final : public QAbstractButton {
   std::function<void()> MouseMove;
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;

@@ -3,9 +3,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QValidator>
 
 #include "presentation/WidgetSkin.h"
+#include "screens/NameValidator.h"
 #include "screens/PinBox.h"
 #include "screens/TextLink.h"
 #include "screens/frmOptions.h"
@@ -26,19 +26,6 @@ constexpr QStringView kPanels[] = {u"grpPlayer", u"grpArcade",     u"grpGame", u
 constexpr QStringView kLabels[] = {
     u"lblInfo(0)",    u"lblInfo(1)",  u"lblName",      u"lblPIN",      u"lblSpeed",           u"lblArcadeOpp",
     u"lblArcadeInfo", u"lblArcadeAI", u"lblInterface", u"lblKeysInfo", u"lblEmberSizeWarning"};
-
-/// Takes leading blanks away wherever they come from, and keeps the caret before the same character.
-class NoLeadingBlanks final : public QValidator {
- public:
-  using QValidator::QValidator;
-  State validate(QString& input, int& caret) const override {
-    while (input.startsWith(u' ')) {
-      input.remove(0, 1);
-      if (caret > 0) --caret;
-    }
-    return Acceptable;
-  }
-};
 
 }  // namespace
 
@@ -63,7 +50,7 @@ void frmOptions::BuildPlayer() {
                    [this] { services().navigator.OpenPortraits(*this); });
   txtName_ = new QLineEdit(frmeOptions_);
   txtName_->setMaxLength(kNameLimit);
-  txtName_->setValidator(new NoLeadingBlanks(txtName_));
+  txtName_->setValidator(new NameValidator(txtName_));
   SkinWidget(*txtName_, layout().bag(u"txtName"));
   layout().Place(u"txtName", *txtName_);
   QObject::connect(txtName_, &QLineEdit::textChanged, this, [this] { cmdOK_->setEnabled(NameGiven()); });

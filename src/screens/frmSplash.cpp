@@ -11,6 +11,7 @@
 #include "presentation/PanelPainter.h"
 #include "presentation/TitleButton.h"
 #include "presentation/WidgetSkin.h"
+#include "screens/NameValidator.h"
 #include "screens/PinBox.h"
 #include "screens/TextLink.h"
 #include "screens/frmSplashTitle.h"
@@ -64,6 +65,11 @@ void frmSplash::BuildList() {
   SkinWidget(*lstPlayers_, layout().bag(u"lstPlayers"));
   layout().Place(u"lstPlayers", *lstPlayers_);
   connect(lstPlayers_, &QListWidget::currentRowChanged, this, [this] { PlayerSelected(); });
+  // Also a click on the entry that is current already: it stays selected, and the PIN is typed anew.
+  connect(lstPlayers_, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
+    item->setSelected(true);
+    PlayerSelected();
+  });
   lblPINtitle_ = layout().NewLabel(u"lblPINtitle", this);
   txtPIN_ = NewPinBox(u"txtPIN");
   cmdContinue_ = NewButton(u"cmdContinue", [this] { Continue(); });
@@ -73,6 +79,7 @@ void frmSplash::BuildList() {
 void frmSplash::BuildCreation() {
   lblHeader_ = layout().NewLabel(u"lblHeader", this);
   txtPlayer_ = NewBox(u"txtPlayer");
+  txtPlayer_->setValidator(new NameValidator(txtPlayer_));
   connect(txtPlayer_, &QLineEdit::textChanged, this, [this] { CheckPlayerName(); });
   cmdNewName_ = NewButton(u"cmdNewName", [this] { NewName(); });
   txtName_ = NewBox(u"txtName");

@@ -126,6 +126,21 @@ TEST_P(CardsScreenTest, CardsGoIntoTheDeckAndBackAndOnlyAFullOneContinues) {
   EXPECT_TRUE(Button("cmdContinue").Enabled());
 }
 
+TEST_P(CardsScreenTest, ASpentCardIsDimThoughThePointerRestsOnIt) {
+  Open(kModeCampaign);
+  SetStake("20");
+  Click(screen->ctlDeck(1));
+  Click(screen->ctlDeck(2));
+  ctlCard& card = *screen->Bank({2, 6});
+  for (int copy = 0; copy < 2; ++copy) Click(card);
+  EXPECT_FALSE(card.Enabled());
+  stage.Settle(200);
+  EXPECT_EQ(stage.globals.effects.pulsingCard(), nullptr);
+  stage.dialogs.answers = {false};
+  Key(Qt::Key_Escape);
+  EXPECT_EQ(stage.dialogs.boxes.size(), 1u) << "a stake is open: the key asks first";
+}
+
 TEST_P(CardsScreenTest, TheShopTradesWithTheWorkingCopiesUntilContinue) {
   Open(kModeCampaign);
   SetStake("20");
