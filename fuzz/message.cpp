@@ -1,11 +1,12 @@
 // A stream made of anything, cut anywhere: framing stays within its bounds, every cutting gives the same
 // messages, and whatever is taken for a message is within the limits that the game relies on.
+#include "network/Message.h"
+
 #include <cstdint>
 #include <cstdlib>
 #include <variant>
 
 #include "network/Framing.h"
-#include "network/Message.h"
 #include "platform/Text.h"
 
 namespace {
