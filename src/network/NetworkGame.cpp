@@ -12,7 +12,6 @@ namespace {
 
 constexpr int kLeaveInterval = 50;       // milliseconds
 constexpr int kMostLeaveTicks = 20;      // a second: then the link is closed in any case
-constexpr std::size_t kMostLog = 65536;  // bytes of chat that are kept
 constexpr std::size_t kMostLine = 1000;  // bytes of a typed line
 constexpr std::size_t kMostWire = 4000;  // bytes of a message
 constexpr std::string_view kHelp =
@@ -56,7 +55,7 @@ void NetworkGame::StartFresh() {
   playerStarts_.reset();
   postponed_ = 0;
   services_.stake.last = -1;
-  SetLog(std::string(kHelp));
+  chat_.Reset(std::string(kHelp));
 }
 
 // --- Screens ---------------------------------------------------------------------------------------------
@@ -65,7 +64,7 @@ void NetworkGame::ScreensClosed() {
   lobby_ = nullptr;
   cards_ = nullptr;
   match_ = nullptr;
-  mirror_ = {};
+  chat_.setMirror({});
 }
 
 void NetworkGame::MatchOpened(MatchEngine& match) {
@@ -82,7 +81,7 @@ void NetworkGame::SendHello() {
   peerReady_ = turnHeld_ = false;
   versionMatches_ = true;
   greeting_ = {};
-  SetLog("\r\n\r\n\r\n");
+  chat_.Reset("\r\n\r\n\r\n");
   NetSend("[Vers]" + std::string(kProgramVersion));
   NetSend("[Name]" + player_->Name);
   NetSend("[Chat]" + StatsLine());
@@ -168,25 +167,6 @@ void NetworkGame::NetSend(const std::string& message) {
   std::string text = WireText(message);
   if (text.size() > kMostWire) text = WireText(text.substr(0, kMostWire));
   link_.NetSend(text);
-}
-
-void NetworkGame::SetLog(std::string text) {
-  chatLog_ = std::move(text);
-  if (mirror_) mirror_(chatLog_);
-}
-
-void NetworkGame::AddChatLine(const std::string& line) {
-  std::string log = chatLog_ + "\r\n" + WireText(line);
-  if (log.size() > kMostLog) {
-    const std::size_t cut = log.find("\r\n", log.size() - kMostLog / 2);
-    log.erase(0, cut == std::string::npos ? log.size() - kMostLog / 2 : cut + 2);
-  }
-  SetLog(std::move(log));
-}
-
-void NetworkGame::MirrorChat(ChatMirror mirror) {
-  mirror_ = std::move(mirror);
-  if (mirror_) mirror_(chatLog_);
 }
 
 void NetworkGame::SubmitChat(const std::string& line) {

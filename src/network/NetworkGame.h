@@ -3,45 +3,23 @@
 // that the peer sends: what makes no sense at the moment it arrives changes nothing.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
 
-#include "campaign/WagerEntry.h"
 #include "campaign/WagerView.h"
 #include "match/MatchPartners.h"
+#include "network/ChatLog.h"
 #include "network/Link.h"
 #include "network/LobbyView.h"
 #include "network/Message.h"
-#include "platform/Dialogs.h"
-#include "platform/Picture.h"
-#include "platform/Scheduler.h"
-#include "presentation/Navigator.h"
+#include "network/NetworkServices.h"
 
 namespace kv {
 
 class MatchEngine;
 class clsGame;
 class clsPlayer;
-
-/// What a network game works with. All references outlive it.
-struct NetworkServices {
-  Scheduler& scheduler;
-  Dialogs& dialogs;
-  Navigator& navigator;
-  NetworkStake& stake;  // forgotten when a network game begins afresh
-  std::function<void(std::string_view effect)> playEffect;
-  std::function<void()> stopEffects;
-  /// The portrait of a number and a player file's base name; the current player's for -1 and "". `found`
-  /// tells whether it is a picture of one's own.
-  std::function<Picture(int number, const std::string& name, bool& found)> portrait;
-  /// Shuts the screen in front off while the connection is interrupted.
-  std::function<void(bool locked)> lockScreen;
-  /// Hides it: the person is leaving the program.
-  std::function<void()> hideScreen;
-};
 
 class NetworkGame final : public MatchNetwork {
  public:
@@ -85,7 +63,7 @@ class NetworkGame final : public MatchNetwork {
   /// The lobby is left for the main menu by its title bar.
   void LeaveLobby();
 
-  [[nodiscard]] const std::string& chatLog() const { return chatLog_; }
+  [[nodiscard]] const std::string& chatLog() const { return chat_.text(); }
   /// "[name: 100 credits, 3 wins, 2 losses, 0 disconnects]".
   [[nodiscard]] std::string StatsLine() const;
   [[nodiscard]] const Link& link() const { return link_; }
@@ -101,10 +79,9 @@ class NetworkGame final : public MatchNetwork {
   [[nodiscard]] bool peerReady() const override { return peerReady_; }
   void clearPeerReady() override { peerReady_ = false; }
   void startTurnRepeat() override { link_.StartTurnRepeat(); }
-  /// Also for texts of the peer's: whatever cannot be shown is taken out.
-  void AddChatLine(const std::string& line) override;
+  void AddChatLine(const std::string& line) override { chat_.AddLine(line); }
   void SubmitChat(const std::string& line) override;
-  void MirrorChat(ChatMirror mirror) override;
+  void MirrorChat(ChatMirror mirror) override { chat_.setMirror(std::move(mirror)); }
 
  private:
   enum class Answer { Done, Later, Refuse };
@@ -142,7 +119,6 @@ class NetworkGame final : public MatchNetwork {
   void WinAtTheDesk();
   void BookLossIfUnderWay();
   void StartFresh();
-  void SetLog(std::string text);
   /// Tells the peer, and closes the link once that has left, after a second at the latest.
   void SendQuit();
   void LeaveTick();
@@ -178,8 +154,7 @@ class NetworkGame final : public MatchNetwork {
   PeerMoves peerMoves_;
   std::optional<bool> playerStarts_;  // said before the match screen stood
   int postponed_ = 0;                 // times that the present message was put off
-  std::string chatLog_;
-  ChatMirror mirror_;
+  ChatLog chat_;
   std::unique_ptr<Timer> tmrLeave_;  // closes the link once "[Quit]" has left
   int leaveTicks_ = 0;               // since "[Quit]" was queued
 };

@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kHeadingLines = 2;  // of the list of addresses
 constexpr std::int32_t kTradedCredits = 10;
-constexpr int kListMargin = 8;    // layout pixels below its last line
+constexpr int kListMargin = 8;  // layout pixels below its last line
 constexpr const char* kLoopback = "127.0.0.1";
 constexpr const char* kPortPrompt =
     "Both players must use the same port number. Enter new port number (1 - 65535)";

@@ -62,7 +62,7 @@ void QtTcpSocket::Listen() {
 
 void QtTcpSocket::Connect() {
   failed_ = false;
-  socket_ = new QTcpSocket;
+  socket_ = new QTcpSocket(&server_);
   Watch();
   // The port to connect from is a wish: on the host's own machine it is taken.
   const auto port = static_cast<quint16>(localPort_);
@@ -79,7 +79,6 @@ void QtTcpSocket::Accept() {
   Close();
   failed_ = false;
   socket_ = std::exchange(request_, nullptr);
-  socket_->setParent(nullptr);
   server_.close();
   Watch();
   // The peer may have spoken before it was accepted.

@@ -43,8 +43,8 @@ class QtTcpSocket final : public TcpSocket {
   int localPort_ = 0;
   std::string localIP_;  // empty until an address was chosen
   QTcpServer server_;
-  QTcpSocket* socket_ = nullptr;   // deletes itself once it is let go
-  QTcpSocket* request_ = nullptr;  // asked to be accepted; a child of the server until then
+  QTcpSocket* socket_ = nullptr;   // children of the server; one that is let go deletes itself
+  QTcpSocket* request_ = nullptr;  // asked to be accepted
   bool failed_ = false;
 };
 

@@ -1,6 +1,11 @@
 // Whole network games between two programs: every match ends alike on both sides, and both book it.
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+
 #include "network/TwoPrograms.h"
 
 namespace kv {
@@ -70,6 +75,23 @@ TEST(WholeMatch, EndsAlikeOnBothSidesHoweverTheStreamIsCut) {
       if (testing::Test::HasFailure()) return;
     }
   }
+}
+
+/// Writes down what both sides say in one match, for docs/protocol.md: KV_TRANSCRIPT names the file.
+TEST(WholeMatch, CanBeReadAsATranscript) {
+  TwoPrograms both(5);
+  std::string transcript;
+  both.net.tap = [&](const std::string& from, std::string_view bytes) {
+    std::array<char, 32> head{};
+    std::snprintf(head.data(), head.size(), "%7.1f  %s", both.clock.timeGetTime() / 1000.0,
+                  from == "10.0.0.1" ? "host   " : "          guest  ");
+    transcript += head.data() + std::string(bytes.substr(0, bytes.size() - 1)) + "\n";
+  };
+  both.Meet();
+  both.PlayMatch(50);
+  EXPECT_EQ(transcript.find("host   [Vers]1.2.4\n"), transcript.find("host"));
+  EXPECT_NE(transcript.find("guest  [Acpt]\n"), std::string::npos);
+  if (const char* file = std::getenv("KV_TRANSCRIPT")) std::ofstream(file) << transcript;
 }
 
 }  // namespace

@@ -27,6 +27,7 @@ class LoopbackNet {
   Random* chance = nullptr;  // cuts and delays come from it; without it nothing is cut
   int mostDelay = 1;         // milliseconds
   std::vector<LoopbackSocket*> sockets;
+  std::function<void(const std::string& from, std::string_view bytes)> tap;  // hears what is sent
 
   [[nodiscard]] int Delay() const {
     return chance == nullptr ? mostDelay : 1 + static_cast<int>(chance->Rnd() * mostDelay);
@@ -82,6 +83,7 @@ class LoopbackSocket final : public TcpSocket {
   }
   void SendData(std::string_view bytes) override {
     sent += bytes;
+    if (net_.tap) net_.tap(address_, bytes);
     while (!bytes.empty()) {
       const std::size_t size =
           net_.chance == nullptr ? bytes.size() : 1 + static_cast<std::size_t>(net_.chance->Rnd() * 12);
