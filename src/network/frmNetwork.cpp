@@ -46,7 +46,8 @@ void frmNetwork::BuildConnection() {
   cmdHost_ = NewButton(u"cmdHost", [this] { ChooseSide(true); });
   cmdJoin_ = NewButton(u"cmdJoin", [this] { ChooseSide(false); });
   cmdDeviceIP_ = NewButton(u"cmdDeviceIP", [this] { ShowAddresses(); });
-  cmdDeviceIP_->setCaption(QString::fromStdString(lobby_.network.LocalAddress()));
+  ShowCaption(*cmdDeviceIP_, "Address of this computer",
+              QString::fromStdString(lobby_.network.LocalAddress()));
   lstIPs_ = new QListWidget(this);
   SkinWidget(*lstIPs_, layout().bag(u"lstIPs"));
   layout().Place(u"lstIPs", *lstIPs_);
@@ -63,7 +64,7 @@ void frmNetwork::BuildConnection() {
     if (cmdConnect_->Enabled()) cmdConnect_->click();
   });
   cmdPort_ = NewButton(u"cmdPort", [this] { cmdPort_Click(); });
-  cmdPort_->setCaption(QString::number(lobby_.player.LastPort));
+  ShowCaption(*cmdPort_, "Port", QString::number(lobby_.player.LastPort));
   cmdConnect_ = NewButton(u"cmdConnect", [this] { cmdConnect_Click(); });
 }
 
@@ -137,7 +138,13 @@ void frmNetwork::ShowMode() {
   for (ctlButton* button : {cmdGameMode_, cmdStart_}) {
     button->setColor_Style(arcade ? QStringLiteral("Ember_Menu") : QStringLiteral("Slate"));
   }
-  cmdGameMode_->setCaption(arcade ? QStringLiteral("arcade match") : QStringLiteral("normal match"));
+  ShowCaption(*cmdGameMode_, "Game mode",
+              arcade ? QStringLiteral("arcade match") : QStringLiteral("normal match"));
+}
+
+void frmNetwork::ShowCaption(ctlButton& button, const char* what, const QString& caption) {
+  button.setCaption(caption);
+  button.setAccessibleName(QString::fromUtf8(what) + QStringLiteral(": ") + caption);
 }
 
 void frmNetwork::ShowState(const char* state) {

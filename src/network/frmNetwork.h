@@ -65,6 +65,8 @@ class frmNetwork final : public Screen, public PortraitCaller, public LobbyView 
   void ShowStart();
   void NetWaitTick();
   void ShowState(const char* state);
+  /// A caption that changes, told with what it is the caption of.
+  static void ShowCaption(ctlButton& button, const char* what, const QString& caption);
   [[nodiscard]] int Port() const;
 
   frmNetworkServices lobby_;

@@ -28,7 +28,8 @@ void frmNetwork::EnableButtons(bool enabled) {
 
 void frmNetwork::ChooseSide(bool hosting) {
   lobby_.network.setHosting(hosting);
-  cmdConnect_->setCaption(hosting ? QStringLiteral("host") : QStringLiteral("connect"));
+  ShowCaption(*cmdConnect_, "Open the connection",
+              hosting ? QStringLiteral("host") : QStringLiteral("connect"));
   cmdHost_->setEnabled(!hosting);
   cmdJoin_->setEnabled(hosting);
   txtIP_->setEnabled(!hosting);
@@ -71,7 +72,7 @@ void frmNetwork::cmdPort_Click() {
     if (!answer || answer->find_first_not_of(' ') == std::string::npos) break;
     if (const auto port = PortOf(*answer)) {
       PlayEffect("click");
-      cmdPort_->setCaption(QString::number(*port));
+      ShowCaption(*cmdPort_, "Port", QString::number(*port));
       break;
     }
   }
@@ -109,7 +110,8 @@ void frmNetwork::HideAddresses() {
 void frmNetwork::ChooseAddress(const QListWidgetItem& item) {
   if (lstIPs_->row(&item) < kHeadingLines) return;
   lobby_.network.Bind(Port(), item.text().toStdString());
-  cmdDeviceIP_->setCaption(QString::fromStdString(lobby_.network.LocalAddress()));
+  ShowCaption(*cmdDeviceIP_, "Address of this computer",
+              QString::fromStdString(lobby_.network.LocalAddress()));
   HideAddresses();
 }
 
