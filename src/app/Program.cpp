@@ -7,6 +7,8 @@
 #include "campaign/frmCards.h"
 #include "campaign/modSaveWin.h"
 #include "match/frmGame.h"
+#include "network/frmNetwork.h"
+#include "platform/QtTcpSocket.h"
 #include "presentation/PictureSizes.h"
 #include "screens/frmMenu.h"
 #include "screens/frmOptions.h"
@@ -29,6 +31,7 @@ std::string BaseName(const std::string& path) {
 Program::Program(const ProgramServices& services, const ProgramFolders& folders)
     : services_(services),
       folders_(folders),
+      dialogs_(services.dialogs),
       sounds_(services.sound),
       buttons_(sounds_),
       globals_(services.scheduler, buttons_),
@@ -40,6 +43,7 @@ Program::Program(const ProgramServices& services, const ProgramFolders& folders)
       tmrSweep_(services.scheduler.NewTimer(kSweepInterval,
                                             [this] {
                                               if (services_.scheduler.PauseDepth() > 0) return;
+                                              if (dialogs_.open() > 0) return;
                                               tmrSweep_->setEnabled(false);
                                               // A screen goes before the records it stands on.
                                               while (!retired_.empty()) retired_.pop_front();
@@ -69,7 +73,7 @@ void Program::LoadSounds() {
 
 ScreenServices Program::Services() {
   return {services_.scheduler,
-          services_.dialogs,
+          dialogs_,
           services_.random,
           buttons_,
           globals_.effects,
@@ -90,6 +94,7 @@ void Program::Show(Make make) {
 }
 
 void Program::CloseCurrent() {
+  if (network_ != nullptr) network_->ScreensClosed();
   for (std::shared_ptr<Screen>* screen : {&screen_, &behind_}) {
     if (*screen == nullptr) continue;
     centre_ = (*screen)->Centre();
@@ -119,7 +124,7 @@ void Program::OpenSplash() {
     return std::make_shared<frmSplash>(
         Services(),
         frmSplashServices{folders_.player,
-                          [this] { return std::make_unique<clsPlayer>(services_.dialogs, services_.random); },
+                          [this] { return std::make_unique<clsPlayer>(dialogs_, services_.random); },
                           services_.openAddress});
   });
 }
@@ -146,20 +151,30 @@ void Program::OpenCampaign() {
 
 void Program::OpenCards() {
   Show([this] {
-    return std::make_shared<frmCards>(Services(),
-                                      frmCardsServices{*player_, *game_, noNetwork_, networkStake_});
+    auto cards =
+        std::make_shared<frmCards>(Services(), frmCardsServices{*player_, *game_, Network(), networkStake_});
+    if (game_->isNetwork()) network_->CardsOpened(*cards);
+    return cards;
   });
 }
 
 void Program::OpenLobby() {
-  services_.dialogs.Message("Network play is not part of this version.", "Kelm Vantri",
-                            DialogIcon::Information);
-  OpenMenu();
+  Show([this] {
+    auto lobby = std::make_shared<frmNetwork>(
+        Services(),
+        frmNetworkServices{*player_, *network_,
+                           services_.localAddresses ? services_.localAddresses : LocalIPv4Addresses});
+    network_->LobbyOpened(*lobby);
+    return lobby;
+  });
 }
 
 void Program::OpenMatch() {
   Show([this] {
-    return std::make_shared<frmGame>(frmGameServices{Services(), *player_, *game_, noNetwork_, *booking_});
+    auto match =
+        std::make_shared<frmGame>(frmGameServices{Services(), *player_, *game_, Network(), *booking_});
+    if (game_->isNetwork()) network_->MatchOpened(match->engine());
+    return match;
   });
 }
 
@@ -192,7 +207,33 @@ void Program::NewGame(std::string_view mode) {
     return portraits_.GetPortrait(number, name, found);
   });
   game_->Mode = mode;
-  booking_ = std::make_shared<SaveBooking>(*game_, *player_, services_.dialogs);
+  booking_ = std::make_shared<SaveBooking>(*game_, *player_, dialogs_);
+  if (game_->isNetwork()) StartNetwork();
+}
+
+void Program::StartNetwork() {
+  if (network_ == nullptr) {
+    socket_ = services_.newSocket ? services_.newSocket() : std::make_unique<QtTcpSocket>();
+    network_ = std::make_unique<NetworkGame>(
+        NetworkServices{services_.scheduler, dialogs_, *this, networkStake_,
+                        [this](std::string_view effect) { buttons_.PlayEffect(effect); },
+                        [this] { globals_.effects.StopEffects(); },
+                        [this](int number, const std::string& name, bool& found) {
+                          return portraits_.GetPortrait(number, name, found);
+                        },
+                        [this](bool locked) {
+                          if (screen_ != nullptr) screen_->setEnabled(!locked);
+                        },
+                        [this] {
+                          if (screen_ != nullptr) screen_->hide();
+                        }},
+        *socket_);
+  }
+  network_->Begin(*player_, *game_, *booking_);
+}
+
+MatchNetwork& Program::Network() {
+  return game_->isNetwork() ? static_cast<MatchNetwork&>(*network_) : noNetwork_;
 }
 
 void Program::LeaveMatch() {

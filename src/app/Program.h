@@ -8,12 +8,16 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
+#include "app/CountedDialogs.h"
 #include "app/frmGlobals.h"
 #include "campaign/WagerEntry.h"
 #include "match/MatchPartners.h"
 #include "match/clsGame.h"
+#include "network/NetworkGame.h"
 #include "platform/SoundDevice.h"
+#include "platform/TcpSocket.h"
 #include "presentation/Pictures.h"
 #include "presentation/Portraits.h"
 #include "presentation/Screen.h"
@@ -33,6 +37,9 @@ struct ProgramServices {
   /// Show a folder in the desktop's file browser, and an address in its web browser; both may be empty.
   std::function<void(const std::string& folder)> openFolder{};
   std::function<void(const std::string& address)> openAddress{};
+  /// A socket of the network, and the machine's IPv4 addresses; the real ones where they are empty.
+  std::function<std::unique_ptr<TcpSocket>()> newSocket{};
+  std::function<std::vector<std::string>()> localAddresses{};
 };
 
 /// Without a slash at their ends.
@@ -70,6 +77,8 @@ class Program final : public Navigator {
   [[nodiscard]] clsPlayer* player() { return player_.get(); }
   /// The match record, null outside the modes.
   [[nodiscard]] clsGame* game() { return game_.get(); }
+  /// The network game, null until one was begun.
+  [[nodiscard]] NetworkGame* network() { return network_.get(); }
   /// The open screen; null once the program has ended.
   [[nodiscard]] Screen* screen() { return screen_.get(); }
   /// The open screen if it is one of this kind, else null.
@@ -86,12 +95,16 @@ class Program final : public Navigator {
   template <typename Make>
   void Show(Make make);
   void CloseCurrent();
+  void StartNetwork();
+  /// The network as the present mode sees it.
+  [[nodiscard]] MatchNetwork& Network();
   void Retire(std::shared_ptr<void> what);
   void ClearGame();
   void LoadSounds();
 
   ProgramServices services_;
   ProgramFolders folders_;
+  CountedDialogs dialogs_;
   Sounds sounds_;
   ButtonContext buttons_;
   Pictures pictures_;
@@ -99,6 +112,8 @@ class Program final : public Navigator {
   Portraits portraits_;
   MatchNetwork noNetwork_;
   NetworkStake networkStake_;
+  std::unique_ptr<TcpSocket> socket_;  // both from the first network game on
+  std::unique_ptr<NetworkGame> network_;
   std::shared_ptr<clsPlayer> player_;
   std::shared_ptr<clsGame> game_;
   std::shared_ptr<MatchBooking> booking_;

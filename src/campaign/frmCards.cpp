@@ -33,6 +33,10 @@ frmCards::frmCards(const ScreenServices& services, const frmCardsServices& cards
   ctlWager_ = new ctlWager(this, layout(), services.buttons, entry_);
   ctlWager_->WagerClick = [this] { ctlWager_WagerClick(); };
   ctlWager_->EndClick = [this] { EndClick(); };
+  if (cards_.game.isNetwork()) {
+    GrowBelow(layout().rect(u"ctlChat").height());
+    chat_ = new ctlChat(this, layout(), cards_.network);
+  }
   ctlTitlebar_ = NewTitlebar();
   ctlTitlebar_->Quit = [this] { TitlebarQuit(); };
   ctlTitlebar_->setCaption(ToQString(desk_.Title()));
@@ -49,8 +53,9 @@ void frmCards::Activate() {
 
 void frmCards::Shown() {
   if (ctlWager_->isVisible()) ctlWager_->gettxtWager().setFocus();
-  if (!cards_.game.isNetwork()) return;
-  tmrNetWait_->setEnabled(cards_.game.Mode == kModeNetwork);
+  // In the other network mode there is no stake to agree upon, and nothing to wait for.
+  if (cards_.game.Mode != kModeNetwork) return;
+  tmrNetWait_->setEnabled(true);
   cards_.network.NetSend("[Play]");
 }
 
@@ -101,7 +106,20 @@ void frmCards::ctlWager_WagerClick() {
   if (press.action == WagerAction::Propose) Propose(press.amount);
   if (press.action == WagerAction::Settle) Settle(press);
   ctlWager_->Refresh();
-  if (ctlWager_->isVisible()) ctlWager_->gettxtWager().setFocus();
+  if (ctlWager_->isVisible() && (chat_ == nullptr || !chat_->writing())) ctlWager_->gettxtWager().setFocus();
+}
+
+void frmCards::Proposed(std::int32_t amount) {
+  proposed_ = false;
+  static_cast<void>(entry_.PeerProposes(std::to_string(amount)));
+  ctlWager_->Refresh();
+}
+
+void frmCards::Accepted() {
+  // The button settles what was proposed once a stake is open.
+  cards_.game.Wager = 0;
+  ctlWager_WagerClick();
+  if (desk_.view() == CardView::Null) cards_.game.Wager = -1;
 }
 
 void frmCards::Propose(std::int32_t amount) {
@@ -110,15 +128,19 @@ void frmCards::Propose(std::int32_t amount) {
   cards_.network.NetSend(texts.wage);
   cards_.network.NetSend(texts.chat);
   cards_.network.AddChatLine(texts.ownLine);
+  proposed_ = true;
 }
 
 void frmCards::Settle(const WagerPress& press) {
+  proposed_ = false;
   PlayEffect("accept");
+  // Whatever the peer was ready for before is over: its next "[Play]" is that of the match.
+  if (cards_.game.isNetwork()) cards_.network.clearPeerReady();
   if (press.acceptsPeer) cards_.network.NetSend("[Acpt]");
   if (!SettleStake(cards_.game, cards_.player, press.amount) || closing()) return;
   desk_.StakeSettled();
   Refresh();
-  setFocus();
+  if (chat_ == nullptr || !chat_->writing()) setFocus();
 }
 
 // --- Leaving ---------------------------------------------------------------------------------------------
@@ -180,6 +202,10 @@ void frmCards::TitlebarQuit() {
 void frmCards::LeaveProgram() {
   // What was booked when the stake was settled stays booked.
   if (!desk_.LeavesFreely() && !AskForfeit()) return;
+  if (cards_.game.isNetwork()) {
+    cards_.network.SubmitChat("/quit");
+    return;
+  }
   services().navigator.EndProgram();
 }
 

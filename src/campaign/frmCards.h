@@ -6,10 +6,12 @@
 
 #include "campaign/CardDesk.h"
 #include "campaign/WagerEntry.h"
+#include "campaign/WagerView.h"
 #include "campaign/ctlWager.h"
 #include "cards/clsDeckArray.h"
 #include "cards/ctlCard.h"
 #include "match/MatchPartners.h"
+#include "match/ctlChat.h"
 #include "presentation/Screen.h"
 #include "profile/clsPlayer.h"
 
@@ -23,7 +25,7 @@ struct frmCardsServices {
   NetworkStake& networkStake;
 };
 
-class frmCards final : public Screen {
+class frmCards final : public Screen, public WagerView {
  public:
   /// In the player's interface style, for the mode of the match record.
   frmCards(const ScreenServices& services, const frmCardsServices& cards);
@@ -31,6 +33,10 @@ class frmCards final : public Screen {
 
   /// A match whose stake is settled must be given up first.
   void LeaveProgram() override;
+
+  void Proposed(std::int32_t amount) override;
+  [[nodiscard]] bool awaitsAnswer() const override { return proposed_; }
+  void Accepted() override;
 
   [[nodiscard]] ctlWager& wager() { return *ctlWager_; }
   [[nodiscard]] ctlTitlebar& titlebar() { return *ctlTitlebar_; }
@@ -80,6 +86,7 @@ class frmCards final : public Screen {
   CardDesk desk_;
   WagerEntry entry_;
   std::unique_ptr<Timer> tmrNetWait_;
+  bool proposed_ = false;                                               // and the peer has not answered yet
   std::array<std::array<ctlCard*, kCardNumbers>, kCardKinds> banks_{};  // children, as all that follow
   std::array<ctlCard*, kDeckSize> slots_{};
   ctlWager* ctlWager_ = nullptr;
@@ -99,6 +106,7 @@ class frmCards final : public Screen {
   QLabel* lblAmountHeader_ = nullptr;
   QLabel* lblAmount_ = nullptr;
   QLabel* lblDeckCount_ = nullptr;
+  ctlChat* chat_ = nullptr;  // in a network mode only
 };
 
 }  // namespace kv

@@ -44,6 +44,10 @@ void frmGame::BuildControls() {
   cmdTurn_ = NewMatchButton(u"cmdTurn", [this] { engine_.EndTurn(); });
   cmdStand_ = NewMatchButton(u"cmdStand", [this] { engine_.Stand(); });
   cmdForfeit_ = NewMatchButton(u"cmdForfeit", [this] { engine_.Forfeit(); });
+  if (services_.game.isNetwork()) {
+    GrowBelow(layout().rect(u"ctlChat").height());
+    chat_ = new ctlChat(this, layout(), services_.network);
+  }
   ctlTitlebar_ = NewTitlebar();
   ctlTitlebar_->Quit = [this] { engine_.Forfeit(); };
   ctlBust_ = new ctlBust(this, layout(), services_.buttons);
@@ -95,11 +99,23 @@ void frmGame::Closing() {
 
 void frmGame::LeaveProgram() {
   if (closing()) return;
+  if (services_.game.isNetwork()) {
+    LeaveNetwork();
+    return;
+  }
   if (services_.game.Wager != -1) {
     engine_.Forfeit();
     if (closing() || !engine_.Stopped()) return;
   }
   services_.navigator.EndProgram();
+}
+
+/// The peer is told, and the match booked, by leaving the game.
+void frmGame::LeaveNetwork() {
+  const bool sure = services_.game.Wager == -1 ||
+                    services_.dialogs.AskYesNo("Are you sure you wish to forfeit this match?",
+                                               "Kelm Vantri: Forfeit Match", DialogIcon::Exclamation);
+  if (sure && !closing()) services_.network.SubmitChat("/quit");
 }
 
 void frmGame::Leave() {

@@ -6,6 +6,7 @@
 
 #include "match/MatchEngine.h"
 #include "match/ctlBust.h"
+#include "match/ctlChat.h"
 #include "match/frmGameHand.h"
 #include "match/frmGameServices.h"
 #include "match/frmGameSide.h"
@@ -57,6 +58,7 @@ class frmGame final : public Screen, private MatchView {
 
   void BuildTimers();
   void BuildControls();
+  void LeaveNetwork();
   void ConnectHand();
   ctlButton* NewMatchButton(QStringView control, std::function<void()> click);
   /// True when the key was one of the player's game keys; nothing else is done with it then.
@@ -80,6 +82,7 @@ class frmGame final : public Screen, private MatchView {
   ctlTitlebar* ctlTitlebar_ = nullptr;
   ctlBust* ctlBust_ = nullptr;
   QLabel* lblWager_ = nullptr;
+  ctlChat* chat_ = nullptr;  // in a network match only
 };
 
 }  // namespace kv

@@ -84,10 +84,10 @@ void frmGame::BannerChanged() {
   if (banner.visible) {
     services_.effects.StopCardPulse();
     ctlBust_->raise();
-    button.setFocus();
+    if (chat_ == nullptr || !chat_->writing()) button.setFocus();
     QAccessibleEvent alert(ctlBust_, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
-  } else {
+  } else if (chat_ == nullptr || !chat_->writing()) {
     setFocus();
   }
 }

@@ -87,18 +87,21 @@ ctlTitlebar* Screen::NewTitlebar() {
   return titlebar_;
 }
 
+void Screen::GrowBelow(int height) {
+  setFixedSize(layout_.size() + QSize(0, height));
+}
+
 std::unique_ptr<Timer> Screen::NewTimer(int milliseconds, std::function<void()> tick) const {
   return services().scheduler.NewTimer(milliseconds, std::move(tick));
 }
 
 void Screen::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  if (background_.empty()) {
-    painter.fillRect(rect(), Qt::black);
-  } else {
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(rect(), *background_.image());
-  }
+  const QRect pictured(QPoint(0, 0), layout_.size());
+  if (background_.empty() || pictured != rect()) painter.fillRect(rect(), Qt::black);
+  if (background_.empty()) return;
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(pictured, *background_.image());
 }
 
 void Screen::closeEvent(QCloseEvent* event) {

@@ -49,6 +49,8 @@ class Screen : public QWidget {
   /// The pointer is over nothing in particular: takes back every highlight.
   virtual void PlainHighlights();
 
+  /// Room below the picture for what only some modes show; once, in the constructor.
+  void GrowBelow(int height);
   /// A skinned button as the layout describes it; owned by the screen.
   ctlButton* NewButton(QStringView control, std::function<void()> click);
   /// The layout's "ctlTitlebar". Its Quit is the screen's to set.

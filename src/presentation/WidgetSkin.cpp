@@ -4,6 +4,7 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QStringList>
 
 namespace kv {
@@ -112,6 +113,9 @@ struct Look {
 QString SheetFor(const QWidget& widget, const Look& look) {
   if (qobject_cast<const QLineEdit*>(&widget) != nullptr) {
     return look.Box(QStringLiteral("QLineEdit")) + QStringLiteral("QLineEdit{padding:0 4px}");
+  }
+  if (qobject_cast<const QPlainTextEdit*>(&widget) != nullptr) {
+    return look.Box(QStringLiteral("QPlainTextEdit")) + look.ScrollBar();
   }
   if (qobject_cast<const QAbstractItemView*>(&widget) != nullptr) {
     return look.List(QStringLiteral("QAbstractItemView")) + look.ScrollBar();

@@ -28,6 +28,11 @@ void frmOptionsPortrait::setPicture(const Picture& picture) {
   update();
 }
 
+void frmOptionsPortrait::setBorder(const QColor& color) {
+  border_ = color;
+  update();
+}
+
 void frmOptionsPortrait::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);

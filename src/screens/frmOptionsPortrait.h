@@ -16,6 +16,8 @@ class frmOptionsPortrait final : public QAbstractButton {
   frmOptionsPortrait(QWidget* parent, Layout& layout, QStringView control);
 
   void setPicture(const Picture& picture);
+  /// Another frame colour than the layout's.
+  void setBorder(const QColor& color);
   [[nodiscard]] const Picture& picture() const { return picture_; }
 
  protected:

@@ -184,6 +184,7 @@ TEST_F(ProgramTest, SurvivesAMonkey) {
     seen.insert(ScreenName());
     test::ScreenHand hand(screen);
     dialogs.answers.assign(4, upTo(3) != 0);
+    dialogs.texts.assign(4, upTo(2) == 0 ? std::optional<std::string>("7000") : std::nullopt);
     const QList<QWidget*> widgets = screen.findChildren<QWidget*>();
     const QPoint point(upTo(screen.width()), upTo(screen.height()));
     switch (upTo(4)) {
@@ -212,8 +213,8 @@ TEST_F(ProgramTest, SurvivesAMonkey) {
     }
     if (step % 50 == 0) static_cast<void>(Stored("ann"));
   }
-  for (const char* name :
-       {"frmSplash", "frmMenu", "frmOptions", "frmPortraits", "frmCampaign", "frmCards", "frmGame"}) {
+  for (const char* name : {"frmSplash", "frmMenu", "frmOptions", "frmPortraits", "frmCampaign", "frmCards",
+                           "frmGame", "frmNetwork"}) {
     EXPECT_GT(seen.count(name), 0u) << name;
   }
 }

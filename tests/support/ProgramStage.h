@@ -18,6 +18,7 @@
 #include "app/Program.h"
 #include "match/frmGame.h"
 #include "support/HandScheduler.h"
+#include "support/LoopbackSocket.h"
 #include "support/RecordingSound.h"
 #include "support/ScreenHand.h"
 #include "support/ScriptedDialogs.h"
@@ -36,9 +37,17 @@ class ProgramStage {
     player.WritePlayerFile();
   }
   void Start() {
-    program =
-        std::make_unique<Program>(ProgramServices{scheduler, dialogs, random, sound, [this] { ++quits; }},
-                                  ProgramFolders{programFolder, folder.path(), folder / "Portraits"});
+    program = std::make_unique<Program>(
+        ProgramServices{scheduler,
+                        dialogs,
+                        random,
+                        sound,
+                        [this] { ++quits; },
+                        {},
+                        {},
+                        [this] { return std::make_unique<LoopbackSocket>(net, "10.0.0.1"); },
+                        [] { return std::vector<std::string>{"10.0.0.1"}; }},
+        ProgramFolders{programFolder, folder.path(), folder / "Portraits"});
     program->Start();
     Settle(1000);
   }
@@ -89,6 +98,7 @@ class ProgramStage {
   TempFolder folder;
   std::string programFolder = "no-such-folder";
   HandScheduler scheduler;
+  LoopbackNet net{scheduler};  // nobody else is on it
   ScriptedDialogs dialogs;
   SeededRandom random{7};
   RecordingSound sound;

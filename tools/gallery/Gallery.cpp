@@ -7,7 +7,7 @@ namespace kv {
 namespace {
 
 constexpr auto kGroups = {RenderStart,    RenderMenu, RenderOptions, RenderPortraits,
-                          RenderCampaign, RenderDesk, RenderMatch};
+                          RenderCampaign, RenderDesk, RenderLobby,   RenderMatch};
 
 }  // namespace
 

@@ -1,0 +1,67 @@
+#include "match/ctlChat.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
+
+#include "presentation/PanelPainter.h"
+#include "presentation/WidgetSkin.h"
+
+namespace kv {
+namespace {
+
+constexpr int kMostCharacters = 400;  // of a line
+constexpr int kTabWidth = 8;          // in characters
+
+}  // namespace
+
+ctlChat::ctlChat(QWidget* parent, Layout& layout, MatchNetwork& network)
+    : QWidget(parent),
+      network_(network),
+      look_(layout.bag(u"ctlChat")),
+      txtNetwork_(new QPlainTextEdit(this)),
+      txtSend_(new QLineEdit(this)) {
+  layout.Place(u"ctlChat", *this);
+  txtNetwork_->setReadOnly(true);
+  txtNetwork_->setUndoRedoEnabled(false);
+  txtNetwork_->setTabChangesFocus(true);
+  txtNetwork_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  txtNetwork_->setFocusPolicy(Qt::StrongFocus);
+  SkinWidget(*txtNetwork_, layout.bag(u"txtNetwork"));
+  txtNetwork_->setTabStopDistance(kTabWidth * txtNetwork_->fontMetrics().averageCharWidth());
+  layout.Place(u"txtNetwork", *txtNetwork_);
+  txtSend_->setMaxLength(kMostCharacters);
+  txtSend_->setPlaceholderText(look_.text(u"prompt"));
+  SkinWidget(*txtSend_, layout.bag(u"txtSend"));
+  layout.Place(u"txtSend", *txtSend_);
+  connect(txtSend_, &QLineEdit::returnPressed, this, [this] { Submit(); });
+  network_.MirrorChat([this](const std::string& log) { ShowLog(log); });
+}
+
+void ctlChat::ShowLog(const std::string& log) {
+  txtNetwork_->setPlainText(QString::fromStdString(log));
+  txtNetwork_->verticalScrollBar()->setValue(txtNetwork_->verticalScrollBar()->maximum());
+}
+
+void ctlChat::Submit() {
+  const std::string line = txtSend_->text().toStdString();
+  if (line.empty()) return;
+  txtSend_->clear();
+  network_.SubmitChat(line);
+}
+
+void ctlChat::keyPressEvent(QKeyEvent* event) {
+  // What is typed here is no key of the screen around it; Escape still leaves.
+  if (event->key() == Qt::Key_Escape) {
+    event->ignore();
+  } else {
+    event->accept();
+  }
+}
+
+void ctlChat::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  PaintPanel(painter, rect(), look_);
+}
+
+}  // namespace kv

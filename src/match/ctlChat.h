@@ -1,0 +1,39 @@
+// The chat of a network game: its log and the line to write in. It shows texts as they are, never as markup,
+// and knows nothing of what a line means.
+#pragma once
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QWidget>
+
+#include "match/MatchPartners.h"
+#include "presentation/Layout.h"
+
+namespace kv {
+
+class ctlChat final : public QWidget {
+ public:
+  /// Takes "ctlChat", "txtNetwork" and "txtSend" from the layout and shows the log of `network`, which must
+  /// outlive it, until another chat does.
+  ctlChat(QWidget* parent, Layout& layout, MatchNetwork& network);
+
+  [[nodiscard]] QPlainTextEdit& txtNetwork() { return *txtNetwork_; }
+  [[nodiscard]] QLineEdit& txtSend() { return *txtSend_; }
+  /// Whether the person is writing.
+  [[nodiscard]] bool writing() const { return txtSend_->hasFocus(); }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void ShowLog(const std::string& log);
+  void Submit();
+
+  MatchNetwork& network_;
+  const PropertyBag look_;
+  QPlainTextEdit* txtNetwork_;  // children
+  QLineEdit* txtSend_;
+};
+
+}  // namespace kv

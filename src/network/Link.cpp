@@ -1,0 +1,141 @@
+#include "network/Link.h"
+
+#include <utility>
+
+#include "platform/Text.h"
+
+namespace kv {
+namespace {
+
+// Milliseconds.
+constexpr int kNetInterval = 100;
+constexpr int kTimeOutInterval = 10000;
+constexpr int kTurnInterval = 5000;
+
+constexpr std::size_t kMostWaiting = 1000;  // messages: a peer cannot be that far ahead of the pump
+constexpr const char* kQuit = "[Quit]";
+
+}  // namespace
+
+Link::Link(Scheduler& scheduler, TcpSocket& socket, LinkEvents events)
+    : socket_(socket),
+      events_(std::move(events)),
+      tmrNet_(scheduler.NewTimer(kNetInterval, [this] { Pump(); })),
+      tmrNetTimeOut_(scheduler.NewTimer(kTimeOutInterval,
+                                        [this] {
+                                          tmrNetTimeOut_->setEnabled(false);
+                                          if (!connected()) WinSockError(0, "Connection lost");
+                                        })),
+      tmrNetTurn_(scheduler.NewTimer(kTurnInterval, [this] { NetSend("[Turn]"); })) {
+  socket_.ConnectionRequest = [this] {
+    if (socket_.State() != TcpSocket::Status::Closed) CloseConnection();
+    socket_.Accept();
+    Greet();
+  };
+  socket_.Connected = [this] { Greet(); };
+  socket_.DataArrival = [this] { DataArrival(); };
+  socket_.Error = [this](int number, const std::string& description) { WinSockError(number, description); };
+}
+
+Link::~Link() {
+  socket_.ConnectionRequest = socket_.Connected = socket_.DataArrival = {};
+  socket_.Error = {};
+  socket_.Close();
+}
+
+void Link::NetSend(const std::string& message) {
+  lstSend_.push_back(ToWindows1252(message) + kSeparatorByte);
+}
+
+void Link::QuitLink() {
+  lstSend_.clear();
+  NetSend(kQuit);
+}
+
+void Link::CloseConnection() {
+  ++connection_;
+  socket_.Close();
+  for (Timer* timer : {tmrNet_.get(), tmrNetTimeOut_.get(), tmrNetTurn_.get()}) timer->setEnabled(false);
+  lstSend_.clear();
+  lstReceive_.clear();
+  framing_.Reset();
+  if (std::exchange(interrupted_, false)) events_.Interrupted(false);
+}
+
+void Link::Open(int port, const std::string& remoteHost) {
+  CloseConnection();
+  socket_.setLocalPort(port);
+  socket_.setRemotePort(port);
+  socket_.setRemoteHost(remoteHost);
+}
+
+void Link::Listen(int port, const std::string& remoteHost) {
+  Open(port, remoteHost);
+  socket_.Listen();
+}
+
+void Link::Connect(int port, const std::string& remoteHost) {
+  Open(port, remoteHost);
+  socket_.Connect();
+}
+
+void Link::Greet() {
+  tmrNet_->setEnabled(true);
+  events_.Greet();
+}
+
+void Link::DataArrival() {
+  for (std::string& message : framing_.Feed(socket_.GetData())) lstReceive_.push_back(std::move(message));
+  if (framing_.broken()) {
+    WinSockError(0, "The other side sent a message that is too long");
+  } else if (lstReceive_.size() > kMostWaiting) {
+    WinSockError(0, "The other side sent too many messages");
+  }
+}
+
+void Link::Pump() {
+  if (!connected()) {
+    Interrupt();
+    return;
+  }
+  if (std::exchange(interrupted_, false)) events_.Interrupted(false);
+  SendNext();
+  if (pumping()) HandleNext();
+}
+
+void Link::SendNext() {
+  if (lstSend_.empty()) return;
+  const std::string entry = std::move(lstSend_.front());
+  lstSend_.pop_front();
+  socket_.SendData(entry);
+  if (entry != std::string(kQuit) + kSeparatorByte) return;
+  lstSend_.clear();
+  lstReceive_.clear();
+  tmrNet_->setEnabled(false);
+}
+
+void Link::HandleNext() {
+  // A handler that shows a box is still at its message: the next one waits.
+  if (handling_ || lstReceive_.empty()) return;
+  const std::uint32_t connection = connection_;
+  std::string entry = std::move(lstReceive_.front());
+  lstReceive_.pop_front();
+  handling_ = true;
+  const bool handled = events_.Message(FromWindows1252(entry));
+  handling_ = false;
+  if (!handled && connection == connection_) lstReceive_.push_front(std::move(entry));
+}
+
+void Link::Interrupt() {
+  if (tmrNetTimeOut_->Enabled()) return;
+  tmrNetTimeOut_->setEnabled(true);
+  interrupted_ = true;
+  events_.Interrupted(true);
+}
+
+void Link::WinSockError(int number, const std::string& description) {
+  CloseConnection();
+  events_.Failed(number, description);
+}
+
+}  // namespace kv

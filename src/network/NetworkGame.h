@@ -1,0 +1,162 @@
+// A network game as one of its two programs sees it: what the peer's messages mean, the chat log, and what is
+// booked when a game ends before its time. It knows screens only through small interfaces, and trusts nothing
+// that the peer sends: what makes no sense at the moment it arrives changes nothing.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "campaign/WagerView.h"
+#include "match/MatchPartners.h"
+#include "network/ChatLog.h"
+#include "network/Link.h"
+#include "network/LobbyView.h"
+#include "network/Message.h"
+#include "network/NetworkServices.h"
+
+namespace kv {
+
+class MatchEngine;
+class clsGame;
+class clsPlayer;
+
+class NetworkGame final : public MatchNetwork {
+ public:
+  NetworkGame(const NetworkServices& services, TcpSocket& socket);
+  NetworkGame(const NetworkGame&) = delete;
+  NetworkGame& operator=(const NetworkGame&) = delete;
+
+  /// A fresh network game: nothing is connected, this side hosts, the log holds the help text. All three must
+  /// outlive what follows, up to the next call.
+  void Begin(clsPlayer& player, clsGame& game, MatchBooking& booking);
+
+  // --- The screens, while they are open; none of them is owned ---------------------------------------------
+  void LobbyOpened(LobbyView& lobby) { lobby_ = &lobby; }
+  void CardsOpened(WagerView& cards) { cards_ = &cards; }
+  /// Tells the engine what the peer has said of the first starter meanwhile.
+  void MatchOpened(MatchEngine& match);
+  /// Whichever was open is no longer.
+  void ScreensClosed();
+
+  // --- What the lobby does
+  // -----------------------------------------------------------------------------------
+  void setHosting(bool hosting) { hosting_ = hosting; }
+  /// Listens or connects, by the side this is.
+  void Open(int port, const std::string& remoteHost);
+  /// Closes what is open; from now on this address of the machine is used.
+  void Bind(int port, const std::string& address);
+  [[nodiscard]] std::string LocalAddress() const { return link_.socket().LocalIP(); }
+  [[nodiscard]] bool connected() const { return link_.connected(); }
+  /// False once the peer's version has turned out to be another one.
+  [[nodiscard]] bool versionMatches() const { return versionMatches_; }
+  /// The game mode of the matches to come.
+  [[nodiscard]] bool arcade() const { return arcade_; }
+  /// Switches it, says so in the log and, on the host, tells the peer. Forgets that the peer was ready.
+  void ToggleMode();
+  /// Tells the peer that this side is ready: the chat notice and "[Play]".
+  void SendReady();
+  /// Sets the match record up for the mode; the card screen comes next.
+  void PrepareMatch();
+  /// The lobby is shown while connected: both sides see this player's statistics.
+  void TellStats();
+  /// The lobby is left for the main menu by its title bar.
+  void LeaveLobby();
+
+  [[nodiscard]] const std::string& chatLog() const { return chat_.text(); }
+  /// "[name: 100 credits, 3 wins, 2 losses, 0 disconnects]".
+  [[nodiscard]] std::string StatsLine() const;
+  [[nodiscard]] const Link& link() const { return link_; }
+
+  /// One entry of the incoming queue. False: not yet, hand it over again on a later tick.
+  [[nodiscard]] bool ProcessMessage(const std::string& entry);
+  /// Books a match that a broken connection ends.
+  void SaveDisconnect();
+
+  // --- What the screens of a match do ----------------------------------------------------------------------
+  void NetSend(const std::string& message) override;
+  [[nodiscard]] bool hosting() const override { return hosting_; }
+  [[nodiscard]] bool peerReady() const override { return peerReady_; }
+  void clearPeerReady() override { peerReady_ = false; }
+  void startTurnRepeat() override { link_.StartTurnRepeat(); }
+  void AddChatLine(const std::string& line) override { chat_.AddLine(line); }
+  void SubmitChat(const std::string& line) override;
+  void MirrorChat(ChatMirror mirror) override { chat_.setMirror(std::move(mirror)); }
+
+ private:
+  enum class Answer { Done, Later, Refuse };
+
+  Answer Handle(const msg::Acpt&);
+  Answer Handle(const msg::Back&);
+  Answer Handle(const msg::Card& card);
+  Answer Handle(const msg::Mode& mode);
+  Answer Handle(const msg::Chat& chat);
+  Answer Handle(const msg::Forf&);
+  Answer Handle(const msg::Hand& hand);
+  Answer Handle(const msg::Name& name);
+  Answer Handle(const msg::Play&);
+  Answer Handle(const msg::File& file);
+  Answer Handle(const msg::Port& port);
+  Answer Handle(const msg::Quit&);
+  Answer Handle(const msg::Stnd&);
+  Answer Handle(const msg::Turn&);
+  Answer Handle(const msg::TAck&);
+  Answer Handle(const msg::Vers& version);
+  Answer Handle(const msg::Wage& wage);
+  Answer Handle(const msg::WhoS& who);
+
+  /// Why a move of the peer's cannot be taken now; nothing when it can.
+  [[nodiscard]] std::optional<Answer> MoveBarred() const;
+  [[nodiscard]] bool matchUnderWay() const;
+  void SendHello();
+  void Interrupted(bool interrupted);
+  void ConnectionFailed(int number, const std::string& description);
+  /// The stake of a match that ends on the card screen leaves the player's own credits: the screen's working
+  /// copy, which it was taken from, is lost.
+  void StakeToRecord();
+  /// The match is called off before its first set: the stake and the advance entry are taken back.
+  void WithdrawStake();
+  void WinAtTheDesk();
+  void BookLossIfUnderWay();
+  void StartFresh();
+  /// Tells the peer, and closes the link once that has left, after a second at the latest.
+  void SendQuit();
+  void LeaveTick();
+
+  /// What the peer has done in its present turn.
+  struct PeerMoves {
+    bool drawn = false;
+    bool played = false;
+  };
+  /// What of the greeting has arrived.
+  struct Greeting {
+    bool version = false;
+    bool name = false;
+    bool portrait = false;
+    bool file = false;
+  };
+
+  NetworkServices services_;
+  Link link_;
+  clsPlayer* player_ = nullptr;
+  clsGame* game_ = nullptr;
+  MatchBooking* booking_ = nullptr;
+  LobbyView* lobby_ = nullptr;
+  WagerView* cards_ = nullptr;
+  MatchEngine* match_ = nullptr;
+  bool hosting_ = true;
+  bool peerReady_ = false;
+  bool turnHeld_ = false;  // the peer's "[Turn]" was acted on; what follows are repetitions
+  bool turnSeen_ = false;  // the peer has ended a turn of this match
+  bool arcade_ = false;
+  bool versionMatches_ = true;
+  Greeting greeting_;
+  PeerMoves peerMoves_;
+  std::optional<bool> playerStarts_;  // said before the match screen stood
+  int postponed_ = 0;                 // times that the present message was put off
+  ChatLog chat_;
+  std::unique_ptr<Timer> tmrLeave_;  // closes the link once "[Quit]" has left
+  int leaveTicks_ = 0;               // since "[Quit]" was queued
+};
+
+}  // namespace kv

@@ -1,0 +1,161 @@
+// What the lobby shows and how it is built. What the person does in it is in frmNetworkActions.cpp.
+#include "network/frmNetwork.h"
+
+#include <QPainter>
+#include <array>
+
+#include "presentation/PanelPainter.h"
+#include "presentation/WidgetSkin.h"
+
+namespace kv {
+namespace {
+
+// Milliseconds.
+constexpr int kNetWaitInterval = 200;
+constexpr int kShowStartInterval = 2200;
+
+constexpr QColor kOwnPortraitFrame(0x0D, 0x59, 0x45);
+constexpr QColor kBuiltInFrame(0x80, 0x80, 0x80);
+
+constexpr std::array kHeadings = {u"lblNameH",       u"lblCreditsH", u"lblWinsH", u"lblLossesH", u"lblDCsH",
+                                  u"lblConnectMode", u"lblDeviceIP", u"lblIP",    u"lblPort"};
+constexpr std::array kPanels = {u"panelPlayer", u"panelConnection", u"panelPlay"};
+
+}  // namespace
+
+frmNetwork::frmNetwork(const ScreenServices& services, const frmNetworkServices& lobby)
+    : Screen(services, "frmNetwork", lobby.player.Interface_Opt),
+      lobby_(lobby),
+      tmrNetWait_(NewTimer(kNetWaitInterval, [this] { NetWaitTick(); })),
+      tmrShowStart_(NewTimer(kShowStartInterval, [this] { ShowStart(); })) {
+  for (const char16_t* heading : kHeadings) layout().NewLabel(heading, this);
+  BuildConnection();
+  BuildPlayer();
+  BuildPlay();
+  ctlTitlebar* titlebar = NewTitlebar();
+  titlebar->Quit = [this] { lobby_.network.LeaveLobby(); };
+  // Over everything that it covers.
+  lstIPs_->raise();
+}
+
+frmNetwork::~frmNetwork() {
+  CloseScreen();
+}
+
+void frmNetwork::BuildConnection() {
+  cmdHost_ = NewButton(u"cmdHost", [this] { ChooseSide(true); });
+  cmdJoin_ = NewButton(u"cmdJoin", [this] { ChooseSide(false); });
+  cmdDeviceIP_ = NewButton(u"cmdDeviceIP", [this] { ShowAddresses(); });
+  ShowCaption(*cmdDeviceIP_, "Address of this computer",
+              QString::fromStdString(lobby_.network.LocalAddress()));
+  lstIPs_ = new QListWidget(this);
+  SkinWidget(*lstIPs_, layout().bag(u"lstIPs"));
+  layout().Place(u"lstIPs", *lstIPs_);
+  lstIPs_->hide();
+  connect(lstIPs_, &QListWidget::itemActivated, this,
+          [this](QListWidgetItem* item) { ChooseAddress(*item); });
+  txtIP_ = new QLineEdit(this);
+  txtIP_->setMaxLength(15);
+  SkinWidget(*txtIP_, layout().bag(u"txtIP"));
+  layout().Place(u"txtIP", *txtIP_);
+  txtIP_->setText(QString::fromStdString(lobby_.player.LastIP));
+  connect(txtIP_, &QLineEdit::textChanged, this, [this] { AddressChanged(); });
+  connect(txtIP_, &QLineEdit::returnPressed, this, [this] {
+    if (cmdConnect_->Enabled()) cmdConnect_->click();
+  });
+  cmdPort_ = NewButton(u"cmdPort", [this] { cmdPort_Click(); });
+  ShowCaption(*cmdPort_, "Port", QString::number(lobby_.player.LastPort));
+  cmdConnect_ = NewButton(u"cmdConnect", [this] { cmdConnect_Click(); });
+}
+
+void frmNetwork::BuildPlayer() {
+  imgYourPic_ = new frmOptionsPortrait(this, layout(), u"imgYourPic");
+  connect(imgYourPic_, &QAbstractButton::clicked, this,
+          [this] { services().navigator.OpenPortraits(*this); });
+  lblName_ = layout().NewLabel(u"lblName", this);
+  lblCredits_ = layout().NewLabel(u"lblCredits", this);
+  lblWins_ = layout().NewLabel(u"lblWins", this);
+  lblLosses_ = layout().NewLabel(u"lblLosses", this);
+  lblDCs_ = layout().NewLabel(u"lblDCs", this);
+}
+
+void frmNetwork::BuildPlay() {
+  chat_ = new ctlChat(this, layout(), lobby_.network);
+  lblState_ = layout().NewLabel(u"lblState", this);
+  cmdGameMode_ = NewButton(u"cmdGameMode", [this] { cmdGameMode_Click(); });
+  cmdStart_ = NewButton(u"cmdStart", [this] { cmdStart_Click(); });
+  cmdGameMode_->hide();
+  cmdStart_->hide();
+  if (lobby_.network.arcade()) ShowMode();
+}
+
+void frmNetwork::Activate() {
+  ShowPlayer();
+  ListLocalIPs();
+  if (!lobby_.network.connected()) {
+    EnableButtons(true);
+    ChooseSide(lobby_.network.hosting());
+    ShowState("Choose to host or to join a game.");
+    return;
+  }
+  EnableButtons(false);
+  lobby_.network.TellStats();
+  if (!lobby_.network.versionMatches()) {
+    RefuseStart();
+    return;
+  }
+  tmrShowStart_->setEnabled(true);
+  ShowState("Connected.");
+}
+
+void frmNetwork::Closing() {
+  tmrNetWait_->setEnabled(false);
+  tmrShowStart_->setEnabled(false);
+}
+
+void frmNetwork::ShowPlayer() {
+  const clsPlayer& player = lobby_.player;
+  const auto show = [](QLabel* label, const QString& heading, const QString& value) {
+    label->setText(value);
+    label->setAccessibleName(heading + QStringLiteral(": ") + value);
+  };
+  show(lblName_, QStringLiteral("Name"), QString::fromStdString(player.Name));
+  show(lblCredits_, QStringLiteral("Credits"), QString::number(player.Credits_MP->Value));
+  show(lblWins_, QStringLiteral("Wins"), QString::number(player.Wins_MP->Value));
+  show(lblLosses_, QStringLiteral("Losses"), QString::number(player.Losses_MP->Value));
+  show(lblDCs_, QStringLiteral("Disconnects"), QString::number(player.Disconnects));
+  bool found = false;
+  imgYourPic_->setPicture(services().portraits.GetPortrait(kOwnPortrait, "", found));
+  imgYourPic_->setBorder(found ? kOwnPortraitFrame : kBuiltInFrame);
+}
+
+void frmNetwork::PortraitChosen(const Picture& picture) {
+  imgYourPic_->setPicture(picture);
+}
+
+void frmNetwork::ShowMode() {
+  const bool arcade = lobby_.network.arcade();
+  for (ctlButton* button : {cmdGameMode_, cmdStart_}) {
+    button->setColor_Style(arcade ? QStringLiteral("Ember_Menu") : QStringLiteral("Slate"));
+  }
+  ShowCaption(*cmdGameMode_, "Game mode",
+              arcade ? QStringLiteral("arcade match") : QStringLiteral("normal match"));
+}
+
+void frmNetwork::ShowCaption(ctlButton& button, const char* what, const QString& caption) {
+  button.setCaption(caption);
+  button.setAccessibleName(QString::fromUtf8(what) + QStringLiteral(": ") + caption);
+}
+
+void frmNetwork::ShowState(const char* state) {
+  lblState_->setText(QString::fromUtf8(state));
+  lblState_->setAccessibleName(lblState_->text());
+}
+
+void frmNetwork::paintEvent(QPaintEvent* event) {
+  Screen::paintEvent(event);
+  QPainter painter(this);
+  for (const char16_t* panel : kPanels) PaintPanel(painter, layout().rect(panel), layout().bag(panel));
+}
+
+}  // namespace kv

@@ -1,0 +1,185 @@
+#include "platform/QtTcpSocket.h"
+
+#include <QNetworkInterface>
+#include <array>
+
+namespace kv {
+namespace {
+
+constexpr qint64 kReadBuffer = 65536;  // bytes that the toolkit holds for us; the rest waits with the peer
+constexpr const char* kLoopback = "127.0.0.1";
+
+struct ErrorRow {
+  QAbstractSocket::SocketError error;
+  int number;
+};
+// The numbers by which the desktop's own socket services call these errors.
+constexpr std::array<ErrorRow, 8> kErrorNumbers = {{
+    {QAbstractSocket::ConnectionRefusedError, 10061},
+    {QAbstractSocket::RemoteHostClosedError, 10054},
+    {QAbstractSocket::HostNotFoundError, 11001},
+    {QAbstractSocket::SocketAccessError, 10013},
+    {QAbstractSocket::SocketTimeoutError, 10060},
+    {QAbstractSocket::NetworkError, 10051},
+    {QAbstractSocket::AddressInUseError, 10048},
+    {QAbstractSocket::SocketAddressNotAvailableError, 10049},
+}};
+constexpr int kOtherError = 10050;
+
+int NumberOf(QAbstractSocket::SocketError error) {
+  for (const ErrorRow& row : kErrorNumbers) {
+    if (row.error == error) return row.number;
+  }
+  return kOtherError;
+}
+
+}  // namespace
+
+QtTcpSocket::QtTcpSocket() {
+  server_.setMaxPendingConnections(1);
+  QObject::connect(&server_, &QTcpServer::newConnection, &server_, [this] {
+    if (request_ != nullptr) return;
+    request_ = server_.nextPendingConnection();
+    if (request_ != nullptr && ConnectionRequest) ConnectionRequest();
+  });
+}
+
+QtTcpSocket::~QtTcpSocket() {
+  Close();
+}
+
+QHostAddress QtTcpSocket::ListenAddress() const {
+  return localIP_.empty() ? QHostAddress(QHostAddress::AnyIPv4)
+                          : QHostAddress(QString::fromStdString(localIP_));
+}
+
+void QtTcpSocket::Listen() {
+  failed_ = false;
+  if (!server_.listen(ListenAddress(), static_cast<quint16>(localPort_))) {
+    Fail(server_.serverError(), server_.errorString());
+  }
+}
+
+void QtTcpSocket::Connect() {
+  failed_ = false;
+  socket_ = new QTcpSocket(&server_);
+  Watch();
+  // The port to connect from is a wish: on the host's own machine it is taken.
+  const auto port = static_cast<quint16>(localPort_);
+  const auto reuse = QAbstractSocket::ShareAddress | QAbstractSocket::ReuseAddressHint;
+  if (!socket_->bind(ListenAddress(), port, reuse) && !localIP_.empty()) {
+    static_cast<void>(socket_->bind(ListenAddress(), 0));
+  }
+  socket_->connectToHost(QString::fromStdString(remoteHost_), static_cast<quint16>(remotePort_),
+                         QIODevice::ReadWrite, QAbstractSocket::IPv4Protocol);
+}
+
+void QtTcpSocket::Accept() {
+  if (request_ == nullptr) return;
+  Close();
+  failed_ = false;
+  socket_ = std::exchange(request_, nullptr);
+  server_.close();
+  Watch();
+  // The peer may have spoken before it was accepted.
+  if (socket_->bytesAvailable() > 0) {
+    QMetaObject::invokeMethod(
+        socket_,
+        [this] {
+          if (DataArrival) DataArrival();
+        },
+        Qt::QueuedConnection);
+  }
+}
+
+void QtTcpSocket::Watch() {
+  socket_->setReadBufferSize(kReadBuffer);
+  socket_->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+  QObject::connect(socket_, &QTcpSocket::connected, socket_, [this] {
+    if (Connected) Connected();
+  });
+  QObject::connect(socket_, &QTcpSocket::readyRead, socket_, [this] {
+    if (DataArrival) DataArrival();
+  });
+  QObject::connect(socket_, &QTcpSocket::errorOccurred, socket_, [this](QAbstractSocket::SocketError error) {
+    // A peer that hangs up is seen by the state; the line may only be interrupted.
+    if (error != QAbstractSocket::RemoteHostClosedError) Fail(error, socket_->errorString());
+  });
+}
+
+void QtTcpSocket::Fail(QAbstractSocket::SocketError error, const QString& description) {
+  failed_ = true;
+  if (Error) Error(NumberOf(error), description.toStdString());
+}
+
+void QtTcpSocket::Bind(int localPort, const std::string& localIP) {
+  localPort_ = localPort;
+  localIP_ = localIP;
+}
+
+void QtTcpSocket::SendData(std::string_view bytes) {
+  if (State() != Status::Connected) return;
+  socket_->write(bytes.data(), static_cast<qint64>(bytes.size()));
+  socket_->flush();
+}
+
+std::string QtTcpSocket::GetData() {
+  return socket_ == nullptr ? std::string() : socket_->readAll().toStdString();
+}
+
+void QtTcpSocket::Release(QTcpSocket* socket) {
+  if (socket == nullptr) return;
+  QObject::disconnect(socket, nullptr, socket, nullptr);
+  if (socket->state() == QAbstractSocket::ConnectedState) {
+    socket->readAll();
+    QObject::connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
+    socket->disconnectFromHost();
+    if (socket->state() != QAbstractSocket::UnconnectedState) return;  // bytes still go out
+  } else {
+    socket->abort();
+  }
+  socket->deleteLater();
+}
+
+void QtTcpSocket::Close() {
+  if (request_ == nullptr) server_.close();
+  Release(std::exchange(socket_, nullptr));
+  failed_ = false;
+}
+
+TcpSocket::Status QtTcpSocket::State() const {
+  if (failed_) return Status::Failed;
+  if (socket_ == nullptr) return server_.isListening() ? Status::Listening : Status::Closed;
+  switch (socket_->state()) {
+    case QAbstractSocket::ConnectedState:
+      return Status::Connected;
+    case QAbstractSocket::UnconnectedState:
+    case QAbstractSocket::ClosingState:
+      return Status::Closing;
+    default:
+      return Status::Connecting;
+  }
+}
+
+std::string QtTcpSocket::LocalIP() const {
+  if (socket_ != nullptr && socket_->state() == QAbstractSocket::ConnectedState) {
+    return QHostAddress(socket_->localAddress().toIPv4Address()).toString().toStdString();
+  }
+  if (!localIP_.empty()) return localIP_;
+  for (const std::string& address : LocalIPv4Addresses()) {
+    if (address != kLoopback) return address;
+  }
+  return kLoopback;
+}
+
+std::vector<std::string> LocalIPv4Addresses() {
+  std::vector<std::string> addresses;
+  for (const QHostAddress& address : QNetworkInterface::allAddresses()) {
+    if (address.protocol() == QAbstractSocket::IPv4Protocol) {
+      addresses.push_back(address.toString().toStdString());
+    }
+  }
+  return addresses;
+}
+
+}  // namespace kv

@@ -1,0 +1,349 @@
+// A network game step by step: the greeting, the ways it ends, and a peer that says what it must not.
+#include <gtest/gtest.h>
+
+#include "network/TwoPrograms.h"
+
+namespace kv {
+namespace {
+
+using test::NetworkPlayer;
+using test::TwoPrograms;
+
+class NetworkGameTest : public testing::Test, protected TwoPrograms {
+ protected:
+  NetworkGameTest() {
+    for (NetworkPlayer* each : {&host, &guest}) each->record().AutoTurn_Opt = false;
+  }
+  /// A message that nobody's program has sent arrives and is handled.
+  void Forge(NetworkPlayer& to, const std::string& message) {
+    to.socket->Receive(message + "\x87");
+    Pass(250);
+  }
+  /// To the card screens, and with `settled` until the stake is agreed upon.
+  void ToCards(bool settled) {
+    host.continues = guest.continues = false;
+    Start();
+    if (settled) PlayUntil([this] { return Settled(); }, 50);
+    host.continues = guest.continues = true;
+  }
+  [[nodiscard]] bool Settled() const {
+    return host.program->game()->Wager == 50 && guest.program->game()->Wager == 50 && BothOn("frmCards");
+  }
+  /// To the first turn of a match for 50 credits; `seat` is the host's view of whose turn it is.
+  void ToTurn(Seat seat) {
+    ToCards(true);
+    NetworkPlayer& acts = seat == Seat::Player ? host : guest;
+    acts.plays = false;
+    PlayUntil([&] {
+      if (!BothOn("frmGame")) return false;
+      return acts.match()->engine().controls().endTurn &&
+             Other(acts).match()->engine().peerTurn() == PeerTurn::Theirs;
+    });
+    acts.plays = true;
+    Pass(500);
+  }
+  NetworkPlayer& Other(const NetworkPlayer& player) { return &player == &host ? guest : host; }
+  [[nodiscard]] static std::array<int, 4> Account(NetworkPlayer& player) {
+    const auto stored = std::make_unique<clsPlayer>(player.dialogs, player.random);
+    EXPECT_FALSE(stored->LoadPlayerFile(player.record().FileName));
+    return {stored->Credits_MP->Value, stored->Wins_MP->Value, stored->Losses_MP->Value, stored->Disconnects};
+  }
+  using Accounts = std::array<int, 4>;  // credits, wins, losses, disconnects, as they are on disk
+};
+
+TEST_F(NetworkGameTest, GreetingShowsWhoIsThere) {
+  Meet();
+  EXPECT_EQ(host.program->network()->chatLog(),
+            "\r\n\r\n\r\n\r\n[Version Check (Pass): You - v1.2.4, Opp - v1.2.4]\r\n[Connected with Gus]\r\n"
+            "[(You) Hanna: 100 credits, 0 wins, 0 losses, 0 disconnects]\r\n"
+            "[Gus: 100 credits, 0 wins, 0 losses, 0 disconnects]");
+  EXPECT_EQ(guest.record().LastIP, "10.0.0.1");
+  EXPECT_TRUE(host.Find<ctlButton>("cmdGameMode")->isEnabled());
+  EXPECT_FALSE(guest.Find<ctlButton>("cmdGameMode")->isEnabled());
+  host.Say("<b>hi</b> \u2021[Quit]\u2021");
+  Pass(500);
+  EXPECT_TRUE(guest.Saw("\r\nHanna: <b>hi</b> [Quit]"));
+  EXPECT_EQ(guest.Find<QPlainTextEdit>("txtNetwork")->toPlainText().toStdString().find("<b>hi</b>") !=
+                std::string::npos,
+            true);
+}
+
+TEST_F(NetworkGameTest, AnotherVersionCanOnlyChat) {
+  test::LoopbackSocket stranger(net, "10.0.0.7");
+  stranger.Connected = [&] { stranger.SendData("[Vers]1.3.0\x87[Name]Old\x87[Chat]hi\x87"); };
+  stranger.DataArrival = [] {};
+  host.Click("cmdConnect");
+  stranger.setRemoteHost("10.0.0.1");
+  stranger.setRemotePort(6000);
+  stranger.Connect();
+  Pass(5000);
+  EXPECT_TRUE(host.Saw("[Version Check (FAIL): You - 1.2.4, Opp - v1.3.0]"));
+  EXPECT_TRUE(host.Saw("\r\nhi"));
+  EXPECT_FALSE(host.Find<ctlButton>("cmdStart")->isVisible());
+}
+
+TEST_F(NetworkGameTest, AModeChangeTakesBothStartsBack) {
+  Meet();
+  guest.Click("cmdStart");
+  Pass(1000);
+  host.Click("cmdGameMode");
+  Pass(1000);
+  EXPECT_TRUE(guest.Saw("[Hanna has changed the game mode to Arcade match.]"));
+  EXPECT_TRUE(guest.Find<ctlButton>("cmdStart")->isEnabled());
+  host.Click("cmdStart");
+  Pass(3000);
+  EXPECT_TRUE(BothOn("frmNetwork"));
+  guest.Click("cmdStart");
+  Pass(3000);
+  EXPECT_TRUE(BothOn("frmCards"));
+  EXPECT_EQ(guest.program->game()->Mode, kModeNetworkArcade);
+}
+
+TEST_F(NetworkGameTest, TheGuestMayProposeAnotherStake) {
+  Meet();
+  Start();
+  Pass(500);
+  host.Act(30);
+  Pass(500);
+  auto& cards = *guest.program->screenAs<frmCards>();
+  EXPECT_EQ(cards.wager().getcmdWager().Caption(), "accept");
+  cards.wager().gettxtWager().setText("40");
+  cards.wager().getcmdWager().click();
+  Pass(500);
+  EXPECT_EQ(host.program->screenAs<frmCards>()->wager().gettxtWager().text(), "40");
+  host.Act(0);
+  Pass(500);
+  EXPECT_EQ(host.program->game()->Wager, 40);
+  EXPECT_EQ(guest.program->game()->Wager, 40);
+  EXPECT_EQ(Account(guest), (Accounts{100, 0, 0, 1})) << "the advance entry is on disk";
+}
+
+TEST_F(NetworkGameTest, BackFromTheCardsReturnsBoth) {
+  Meet();
+  ToCards(false);
+  host.program->screenAs<frmCards>()->wager().getcmdEnd().click();
+  Pass(1000);
+  EXPECT_TRUE(BothOn("frmNetwork"));
+  EXPECT_TRUE(guest.Saw("[Hanna has returned to the Network screen.]"));
+  Pass(3000);
+  PlayMatch(10);
+}
+
+TEST_F(NetworkGameTest, WhoGivesUpLosesTheStake) {
+  Meet();
+  ToTurn(Seat::Player);
+  host.dialogs.answers = {true};
+  host.match()->engine().Forfeit();
+  Pass(1000);
+  EXPECT_TRUE(guest.Saw("[Hanna has forfeit this match. You Win.]"));
+  PlayUntil([this] { return BothOn("frmNetwork"); });
+  EXPECT_EQ(Account(host), (Accounts{50, 0, 1, 0}));
+  EXPECT_EQ(Account(guest), (Accounts{155, 1, 0, 0}));
+}
+
+TEST_F(NetworkGameTest, LeavingAMatchIsLosingIt) {
+  Meet();
+  ToTurn(Seat::Opponent);
+  host.Say("/disconnect");
+  EXPECT_EQ(host.ScreenName(), "frmMenu");
+  Pass(3000);
+  EXPECT_EQ(guest.dialogs.boxes.back().text, "Opponent has quit! You Win!");
+  EXPECT_EQ(guest.ScreenName(), "frmNetwork");
+  EXPECT_TRUE(guest.Saw("Network chat commands"));
+  EXPECT_EQ(Account(host), (Accounts{50, 0, 1, 0}));
+  EXPECT_EQ(Account(guest), (Accounts{155, 1, 0, 0}));
+  EXPECT_EQ(clock.RunningTimers(), 0);
+}
+
+TEST_F(NetworkGameTest, LeavingAtTheCardsCostsTheStakeToo) {
+  Meet();
+  ToCards(true);
+  guest.Say("/quit");
+  EXPECT_FALSE(guest.program->screen()->isVisible());
+  Pass(1500);
+  EXPECT_EQ(host.dialogs.boxes.back().text, "Opponent has quit! You Win!");
+  EXPECT_EQ(guest.quits, 0);
+  Pass(1500);
+  EXPECT_EQ(guest.quits, 1);
+  EXPECT_EQ(Account(guest), (Accounts{50, 0, 1, 0}));
+  EXPECT_EQ(Account(host), (Accounts{155, 1, 0, 0}));
+}
+
+TEST_F(NetworkGameTest, LeavingBetweenMatchesBooksNothing) {
+  Meet();
+  host.Find<ctlTitlebar>("ctlTitlebar")->Quit();
+  EXPECT_EQ(host.ScreenName(), "frmMenu");
+  Pass(2000);
+  EXPECT_EQ(guest.dialogs.boxes.back().text, "Opponent has quit!");
+  EXPECT_EQ(guest.dialogs.boxes.back().title, "Kelm Vantri: Connection Terminated");
+  EXPECT_EQ(Account(guest), (Accounts{100, 0, 0, 0}));
+}
+
+/// The line drops: the screen is locked, ten seconds later the loss of half the stake is booked.
+TEST_F(NetworkGameTest, ADroppedLineCostsHalfTheStake) {
+  const std::array<std::function<void()>, 5> states = {
+      [this] { guest.Click("cmdStart"); },  // Start is pressed
+      [this] { ToCards(false); },           // the cards are on view
+      [this] { ToCards(true); },            // the stake is agreed upon
+      [this] { ToTurn(Seat::Player); },     // a turn of the peer's
+      [this] { ToTurn(Seat::Opponent); },   // a turn of one's own
+  };
+  for (std::size_t state = 0; state < states.size(); ++state) {
+    SCOPED_TRACE(state);
+    guest.record().Credits_MP->Value = host.record().Credits_MP->Value = 100;
+    guest.record().Disconnects = host.record().Disconnects = 0;
+    Meet();
+    states.at(state)();
+    host.socket->Close();
+    Pass(300);
+    EXPECT_TRUE(guest.Saw("<< WARNING: Connection interrupted - Please Wait >>"));
+    EXPECT_FALSE(guest.program->screen()->isEnabled());
+    Pass(10500);
+    EXPECT_EQ(guest.dialogs.boxes.back().text, "Connection Problem (Err No: 0 - Connection lost)");
+    EXPECT_EQ(guest.dialogs.boxes.back().title, "Kelm Vantri: TCP/IP WinSock Error");
+    const bool atStake = state >= 2;
+    EXPECT_EQ(Account(guest), (Accounts{atStake ? 75 : 100, 0, 0, atStake ? 1 : 0}));
+    EXPECT_EQ(guest.program->game()->Wager, -1);
+    EXPECT_EQ(guest.ScreenName(), "frmNetwork");
+    EXPECT_TRUE(guest.program->screen()->isEnabled());
+    Pass(12000);
+  }
+}
+
+TEST_F(NetworkGameTest, AScreenThatClosesUnderItsQuestionIsKeptUntilTheAnswer) {
+  Meet();
+  ToTurn(Seat::Opponent);
+  guest.dialogs.answers = {true};
+  guest.dialogs.whileOpen = [this] {
+    guest.dialogs.whileOpen = {};
+    Forge(guest, "[Quit]");
+    Pass(1000);
+    EXPECT_EQ(guest.ScreenName(), "frmNetwork");
+  };
+  guest.match()->engine().Forfeit();
+  Pass(1000);
+  EXPECT_EQ(guest.program->Retired(), 0u);
+  EXPECT_EQ(Account(guest), (Accounts{155, 1, 0, 0}));
+}
+
+// --- A peer that says what it must not -------------------------------------------------------------------
+
+TEST_F(NetworkGameTest, MessagesOutOfPlaceChangeNothing) {
+  Meet();
+  const auto refused = [this](NetworkPlayer& player, const std::string& message) {
+    const std::string line = "<< Unknown command: " + message + " - report as bug >>";
+    const auto count = [&] {
+      std::size_t found = 0;
+      const std::string& log = player.program->network()->chatLog();
+      for (auto at = log.find(line); at != std::string::npos; at = log.find(line, at + 1)) ++found;
+      return found;
+    };
+    const std::size_t before = count();
+    Forge(player, message);
+    EXPECT_EQ(count(), before + 1) << message;
+  };
+  for (const char* message :
+       {"[Xyzw]hello", "[Card]no7", "[Hand]1ps3", "[Stnd]", "[Turn]", "[Forf]", "[Acpt]", "[Wage]50",
+        "[WhoS]True", "[Name]Other", "[Port]12", "[Vers]1.3.0", "[File]0"}) {
+    refused(host, message);
+  }
+  refused(host, "[Mode]1");
+  EXPECT_EQ(host.program->game()->OppName, "Gus");
+
+  ToTurn(Seat::Player);
+  MatchEngine& engine = host.match()->engine();
+  const int total = engine.Total(Seat::Opponent);
+  for (const char* message : {"[Card]no7", "[Hand]1ps3", "[Stnd]", "[Play]", "[Wage]5", "[Acpt]", "[Back]"}) {
+    refused(host, message);
+  }
+  EXPECT_EQ(engine.Total(Seat::Opponent), total);
+  EXPECT_TRUE(engine.controls().endTurn) << "still this side's turn";
+
+  engine.EndTurn();
+  PlayUntil([this] { return guest.match()->engine().controls().endTurn; });
+  Pass(500);
+  refused(host, "[Card]no3");  // it has drawn
+  const int slot = 2;
+  Forge(host, "[Hand]2fp3");
+  EXPECT_EQ(engine.HandCard(Seat::Opponent, slot).text(), "00");
+  EXPECT_EQ(engine.Table(Seat::Opponent).back().text(), "fp3");
+  refused(host, "[Hand]3ps1");  // one side card a turn
+}
+
+TEST_F(NetworkGameTest, ATurnThatIsRepeatedEndsOnce) {
+  Meet();
+  ToTurn(Seat::Opponent);
+  const std::size_t before = host.socket->sent.size();
+  for (int time = 0; time < 3; ++time) host.socket->Receive("[Turn]\x87");
+  Pass(250);
+  EXPECT_EQ(host.match()->engine().peerTurn(), PeerTurn::NotTheirs);
+  Pass(2000);
+  const std::string answers = host.socket->sent.substr(before);
+  std::size_t count = 0;
+  for (auto at = answers.find("[TAck]"); at != std::string::npos; at = answers.find("[TAck]", at + 1))
+    ++count;
+  EXPECT_EQ(count, 3u);
+  EXPECT_FALSE(host.Saw("Unknown command"));
+}
+
+TEST_F(NetworkGameTest, AnOwnPictureIsOnlyLookedForInThePortraitFolder) {
+  Meet();
+  for (const char* name : {"[File]../../secret.vnt", "[File]/etc/x.vnt"}) Forge(host, name);
+  EXPECT_TRUE(host.Saw("<< Unknown command: [File]../../secret.vnt - report as bug >>"));
+}
+
+// --- The lobby -------------------------------------------------------------------------------------------
+
+TEST_F(NetworkGameTest, OnesOwnAddressCannotBeJoined) {
+  guest.Click("cmdJoin");
+  for (const char* own : {"127.0.0.1", "10.0.0.2"}) {
+    guest.Find<QLineEdit>("txtIP")->setText(QString::fromUtf8(own));
+    guest.Click("cmdConnect");
+    EXPECT_EQ(guest.dialogs.boxes.back().text, "Error! This IP is being used on this computer!");
+    EXPECT_TRUE(guest.Find<ctlButton>("cmdConnect")->isEnabled());
+  }
+  guest.Find<QLineEdit>("txtIP")->setText("1.2.3");
+  EXPECT_FALSE(guest.Click("cmdConnect"));
+  guest.Find<QLineEdit>("txtIP")->setText("10.0.0.99");
+  guest.Click("cmdConnect");
+  Pass(100);
+  EXPECT_EQ(guest.dialogs.boxes.back().text, "Connection Problem (Err No: 10061 - Connection refused)");
+  EXPECT_TRUE(guest.Find<ctlButton>("cmdConnect")->isEnabled()) << "a fresh lobby";
+}
+
+TEST_F(NetworkGameTest, APortIsAskedForUntilItIsOne) {
+  host.dialogs.texts = {"0", "65536", "abc", "7000"};
+  host.Click("cmdPort");
+  EXPECT_EQ(host.Find<ctlButton>("cmdPort")->Caption(), "7000");
+  host.dialogs.texts = {std::nullopt};
+  host.Click("cmdPort");
+  EXPECT_EQ(host.Find<ctlButton>("cmdPort")->Caption(), "7000");
+  EXPECT_TRUE(host.Find<ctlButton>("cmdPort")->isEnabled());
+}
+
+TEST_F(NetworkGameTest, AnAddressIsChosenFromTheList) {
+  host.Click("cmdDeviceIP");
+  auto& list = *host.Find<QListWidget>("lstIPs");
+  ASSERT_EQ(list.count(), 3);
+  EXPECT_EQ(list.item(0)->text(), "< 1 IP(s) detected >");
+  emit list.itemActivated(list.item(1));
+  EXPECT_TRUE(list.isVisible());
+  emit list.itemActivated(list.item(2));
+  EXPECT_FALSE(list.isVisible());
+  EXPECT_FALSE(host.Find<ctlButton>("cmdHost")->isEnabled());
+  EXPECT_TRUE(host.Find<ctlButton>("cmdJoin")->isEnabled());
+}
+
+TEST_F(NetworkGameTest, AWinBuysTenCredits) {
+  host.record().Credits_MP->Value = guest.record().Credits_MP->Value = 0;
+  host.record().Wins_MP->Value = 2;
+  Meet();
+  host.dialogs.answers = {true};
+  Start();
+  EXPECT_EQ(host.record().Credits_MP->Value, 10);
+  EXPECT_EQ(host.record().Wins_MP->Value, 1);
+  EXPECT_TRUE(guest.dialogs.boxes.empty()) << "nothing to trade in";
+}
+
+}  // namespace
+}  // namespace kv

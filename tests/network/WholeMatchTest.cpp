@@ -1,0 +1,98 @@
+// Whole network games between two programs: every match ends alike on both sides, and both book it.
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+
+#include "network/TwoPrograms.h"
+
+namespace kv {
+namespace {
+
+using test::NetworkPlayer;
+using test::TwoPrograms;
+
+/// What a match did to one player: checked against the sets it saw.
+struct Account {
+  explicit Account(NetworkPlayer& who) : player(who), credits(who.record().Credits_MP->Value) {}
+  void Check(bool arcade, int stake, int wins, int losses) const {
+    const clsPlayer& now = player.record();
+    const bool won = player.results.back()[0] == kSetsToWin;
+    const int gain = arcade ? 0 : won ? stake + stake / 10 : -stake;
+    EXPECT_EQ(now.Credits_MP->Value, credits + gain);
+    EXPECT_EQ(now.Wins_MP->Value, wins + (won && !arcade ? 1 : 0));
+    EXPECT_EQ(now.Losses_MP->Value, losses + (won || arcade ? 0 : 1));
+    EXPECT_EQ(now.Disconnects, 0);
+    EXPECT_EQ(player.program->game()->Wager, -1);
+  }
+  NetworkPlayer& player;
+  int credits;
+};
+
+int MatchCount() {
+  const char* count = std::getenv("KV_NETWORK_MATCHES");
+  return count == nullptr ? 20 : std::atoi(count);
+}
+
+/// Streams cut anywhere, every piece late by chance, "[Turn]" repeated by chance, in both modes.
+TEST(WholeMatch, EndsAlikeOnBothSidesHoweverTheStreamIsCut) {
+  for (int round = 0, played = 0; played < MatchCount(); ++round) {
+    const auto seed = static_cast<std::uint64_t>(round) * 10 + 1;
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    SeededRandom chance(seed + 5);
+    TwoPrograms both(seed);
+    both.net.chance = &chance;
+    both.net.mostDelay = round % 3 == 0 ? 1500 : 40;
+    both.Meet();
+    both.Pass(30000);
+    for (int match = 0; match < 5; ++match, ++played) {
+      const bool arcade = chance.Rnd() < 0.4;
+      if (both.host.program->network()->arcade() != arcade) both.host.Click("cmdGameMode");
+      both.Pass(5000);
+      const int stake = static_cast<int>(chance.Rnd() * 20);
+      const Account host(both.host);
+      const Account guest(both.guest);
+      const auto counters = [](const clsPlayer& p) {
+        return std::array{p.Wins_MP->Value, p.Losses_MP->Value};
+      };
+      const auto hostBefore = counters(both.host.record());
+      const auto guestBefore = counters(both.guest.record());
+      both.repeatTurns = &chance;
+      both.PlayMatch(stake);
+      both.Pass(30000);
+      ASSERT_EQ(both.host.results.size(), both.guest.results.size());
+      const auto& seen = both.host.results.back();
+      EXPECT_EQ(seen, (std::array{both.guest.results.back()[1], both.guest.results.back()[0]}));
+      EXPECT_EQ(std::max(seen[0], seen[1]), kSetsToWin);
+      host.Check(arcade, stake, hostBefore[0], hostBefore[1]);
+      guest.Check(arcade, stake, guestBefore[0], guestBefore[1]);
+      EXPECT_FALSE(both.host.Saw("Unknown command"))
+          << both.host.program->network()->chatLog() << "\n\nHOST " << both.host.socket->sent << "\n\nGUEST "
+          << both.guest.socket->sent;
+      EXPECT_FALSE(both.guest.Saw("Unknown command"));
+      if (testing::Test::HasFailure()) return;
+    }
+  }
+}
+
+/// Writes down what both sides say in one match, for docs/protocol.md: KV_TRANSCRIPT names the file.
+TEST(WholeMatch, CanBeReadAsATranscript) {
+  TwoPrograms both(5);
+  std::string transcript;
+  both.net.tap = [&](const std::string& from, std::string_view bytes) {
+    std::array<char, 32> head{};
+    std::snprintf(head.data(), head.size(), "%7.1f  %s", both.clock.timeGetTime() / 1000.0,
+                  from == "10.0.0.1" ? "host   " : "          guest  ");
+    transcript += head.data() + std::string(bytes.substr(0, bytes.size() - 1)) + "\n";
+  };
+  both.Meet();
+  both.PlayMatch(50);
+  EXPECT_EQ(transcript.find("host   [Vers]1.2.4\n"), transcript.find("host"));
+  EXPECT_NE(transcript.find("guest  [Acpt]\n"), std::string::npos);
+  if (const char* file = std::getenv("KV_TRANSCRIPT")) std::ofstream(file) << transcript;
+}
+
+}  // namespace
+}  // namespace kv
