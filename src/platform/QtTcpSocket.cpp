@@ -36,6 +36,12 @@ int NumberOf(QAbstractSocket::SocketError error) {
   return kOtherError;
 }
 
+/// The toolkit has no name of its own for a port that cannot be used to connect from.
+bool MayBePort(QAbstractSocket::SocketError error) {
+  return error == QAbstractSocket::UnknownSocketError || error == QAbstractSocket::AddressInUseError ||
+         error == QAbstractSocket::SocketAddressNotAvailableError;
+}
+
 }  // namespace
 
 QtTcpSocket::QtTcpSocket() {
@@ -109,9 +115,8 @@ void QtTcpSocket::Watch() {
 void QtTcpSocket::Failed(QAbstractSocket::SocketError error) {
   // A peer that hangs up is seen by the state; the line may only be interrupted.
   if (error == QAbstractSocket::RemoteHostClosedError) return;
-  const bool refused = error == QAbstractSocket::ConnectionRefusedError;
-  if (std::exchange(dialledFromPort_, false) && !refused) {
-    // The system may still hold the port for the last connection to the same host.
+  if (std::exchange(dialledFromPort_, false) && MayBePort(error)) {
+    // The system still holds the port for the last connection to the same host.
     Post([this] {
       Release(std::exchange(socket_, nullptr));
       Dial(0);
