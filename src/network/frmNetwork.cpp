@@ -92,9 +92,9 @@ void frmNetwork::Activate() {
   if (std::exchange(choosingPortrait_, false)) PlayEffect("panel");
   ShowPlayer();
   ListLocalIPs();
+  EnableButtons(true);
+  ChooseSide(lobby_.network.hosting());
   if (!lobby_.network.connected()) {
-    EnableButtons(true);
-    ChooseSide(lobby_.network.hosting());
     ShowState("Choose to host or to join a game.");
     return;
   }
