@@ -52,6 +52,7 @@ class NetworkPlayer {
     player->Name = name;
     player->FileName = folder / (name + ".vnt");
     player->Credits_MP->Value = 100;
+    player->LightPulse_Opt = false;  // nothing to see here
     player->AutoDialogs_Opt = chance_.Rnd() < 0.5;
     player->AutoTurn_Opt = chance_.Rnd() < 0.5;
     player->Interface_Opt = chance_.Rnd() < 0.5 ? "Slate" : "Ember";
