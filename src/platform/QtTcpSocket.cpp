@@ -1,7 +1,6 @@
 #include "platform/QtTcpSocket.h"
 
 #include <QNetworkInterface>
-#include <QTimer>
 #include <array>
 #include <utility>
 
@@ -45,6 +44,8 @@ bool MayBePort(QAbstractSocket::SocketError error) {
 }  // namespace
 
 QtTcpSocket::QtTcpSocket() {
+  tmrPosted_.setSingleShot(true);
+  QObject::connect(&tmrPosted_, &QTimer::timeout, &tmrPosted_, [this] { TellNext(); });
   server_.setMaxPendingConnections(1);
   QObject::connect(&server_, &QTcpServer::newConnection, &server_, [this] {
     if (request_ != nullptr) return;
@@ -127,12 +128,16 @@ void QtTcpSocket::Failed(QAbstractSocket::SocketError error) {
 }
 
 void QtTcpSocket::Post(std::function<void()> event) {
-  QMetaObject::invokeMethod(
-      &server_,
-      [this, use = uses_, event = std::move(event)] {
-        if (use == uses_) event();
-      },
-      Qt::QueuedConnection);
+  posted_.push_back(std::move(event));
+  tmrPosted_.start();
+}
+
+void QtTcpSocket::TellNext() {
+  if (posted_.empty()) return;
+  const std::function<void()> event = std::move(posted_.front());
+  posted_.pop_front();
+  if (!posted_.empty()) tmrPosted_.start();
+  event();
 }
 
 void QtTcpSocket::Fail(QAbstractSocket::SocketError error, const QString& description) {
@@ -166,7 +171,9 @@ void QtTcpSocket::Release(QTcpSocket* socket) {
     socket->disconnectFromHost();
     if (socket->state() != QAbstractSocket::UnconnectedState) {
       // Bytes still go out; a peer that never reads must not hold them for ever.
-      QTimer::singleShot(kLinger, socket, [socket] { socket->abort(); });
+      auto* patience = new QTimer(socket);
+      QObject::connect(patience, &QTimer::timeout, socket, &QTcpSocket::abort);
+      patience->start(kLinger);
       return;
     }
   } else {
@@ -176,7 +183,7 @@ void QtTcpSocket::Release(QTcpSocket* socket) {
 }
 
 void QtTcpSocket::Close() {
-  ++uses_;
+  posted_.clear();
   if (request_ == nullptr) server_.close();
   Release(std::exchange(socket_, nullptr));
   failed_ = false;

@@ -3,6 +3,9 @@
 
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QTimer>
+#include <deque>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -38,6 +41,7 @@ class QtTcpSocket final : public TcpSocket {
   void Failed(QAbstractSocket::SocketError error);
   /// Tells it in the event loop's own time, unless the socket is closed meanwhile.
   void Post(std::function<void()> event);
+  void TellNext();
   void Fail(QAbstractSocket::SocketError error, const QString& description);
   [[nodiscard]] QHostAddress ListenAddress() const;
   /// Lets go of a connection; what was written to it still goes out, for a while.
@@ -52,7 +56,8 @@ class QtTcpSocket final : public TcpSocket {
   QTcpSocket* request_ = nullptr;  // asked to be accepted
   bool failed_ = false;
   bool dialledFromPort_ = false;  // connecting from a port of our own choice
-  std::uint32_t uses_ = 0;        // counts closings
+  std::deque<std::function<void()>> posted_;
+  QTimer tmrPosted_;  // ticks as soon as the event loop has time
 };
 
 /// The machine's own IPv4 addresses in the system's order, loop-back included.
