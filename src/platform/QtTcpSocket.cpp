@@ -63,13 +63,14 @@ void QtTcpSocket::Listen() {
 void QtTcpSocket::Connect() {
   failed_ = false;
   socket_ = new QTcpSocket(&server_);
-  Watch();
-  // The port to connect from is a wish: on the host's own machine it is taken.
+  // The port to connect from is a wish: on the host's own machine it is taken. A refusal must not count as a
+  // failed connection, so nobody listens to the socket yet.
   const auto port = static_cast<quint16>(localPort_);
   const auto reuse = QAbstractSocket::ShareAddress | QAbstractSocket::ReuseAddressHint;
   if (!socket_->bind(ListenAddress(), port, reuse) && !localIP_.empty()) {
     static_cast<void>(socket_->bind(ListenAddress(), 0));
   }
+  Watch();
   socket_->connectToHost(QString::fromStdString(remoteHost_), static_cast<quint16>(remotePort_),
                          QIODevice::ReadWrite, QAbstractSocket::IPv4Protocol);
 }
