@@ -92,9 +92,9 @@ void frmNetwork::BuildPlay() {
 void frmNetwork::Activate() {
   ShowPlayer();
   ListLocalIPs();
+  EnableButtons(true);
+  ChooseSide(lobby_.network.hosting());
   if (!lobby_.network.connected()) {
-    EnableButtons(true);
-    ChooseSide(lobby_.network.hosting());
     ShowState("Choose to host or to join a game.");
     return;
   }
