@@ -165,7 +165,8 @@ void frmCards::EndClick() {
   Navigator& navigator = services().navigator;
   if (cards_.game.isNetwork()) {
     cards_.network.NetSend("[Back]");
-    navigator.OpenLobby();
+    cards_.player.WritePlayerFile();
+    if (!closing()) navigator.OpenLobby();
   } else if (cards_.game.Mode == kModeArcade) {
     EndArcadeRun(cards_.game, cards_.player);
     navigator.OpenMenu();

@@ -11,6 +11,8 @@ namespace {
 constexpr int kNetInterval = 100;
 constexpr int kTimeOutInterval = 10000;
 constexpr int kTurnInterval = 5000;
+constexpr int kLeaveInterval = 50;
+constexpr int kMostLeaveTicks = 20;  // a second
 
 constexpr std::size_t kMostWaiting = 1000;  // messages: a peer cannot be that far ahead of the pump
 constexpr const char* kQuit = "[Quit]";
@@ -26,7 +28,8 @@ Link::Link(Scheduler& scheduler, TcpSocket& socket, LinkEvents events)
                                           tmrNetTimeOut_->setEnabled(false);
                                           if (!connected()) WinSockError(0, "Connection lost");
                                         })),
-      tmrNetTurn_(scheduler.NewTimer(kTurnInterval, [this] { NetSend("[Turn]"); })) {
+      tmrNetTurn_(scheduler.NewTimer(kTurnInterval, [this] { NetSend("[Turn]"); })),
+      tmrLeave_(scheduler.NewTimer(kLeaveInterval, [this] { LeaveTick(); })) {
   socket_.ConnectionRequest = [this] {
     if (socket_.State() != TcpSocket::Status::Closed) CloseConnection();
     socket_.Accept();
@@ -52,10 +55,26 @@ void Link::QuitLink() {
   NetSend(kQuit);
 }
 
+void Link::Leave() {
+  if (!connected()) {
+    CloseConnection();
+    return;
+  }
+  QuitLink();
+  leaveTicks_ = 0;
+  tmrLeave_->setEnabled(true);
+}
+
+void Link::LeaveTick() {
+  // The peer hangs up when it has read the message; it may be slow, or gone.
+  if (connected() && ++leaveTicks_ < kMostLeaveTicks) return;
+  CloseConnection();
+}
+
 void Link::CloseConnection() {
   ++connection_;
   socket_.Close();
-  for (Timer* timer : {tmrNet_.get(), tmrNetTimeOut_.get(), tmrNetTurn_.get()}) timer->setEnabled(false);
+  for (const auto* timer : {&tmrNet_, &tmrNetTimeOut_, &tmrNetTurn_, &tmrLeave_}) (*timer)->setEnabled(false);
   lstSend_.clear();
   lstReceive_.clear();
   framing_.Reset();
@@ -85,7 +104,10 @@ void Link::Greet() {
 }
 
 void Link::DataArrival() {
-  for (std::string& message : framing_.Feed(socket_.GetData())) lstReceive_.push_back(std::move(message));
+  const std::string bytes = socket_.GetData();
+  // After "[Quit]" nobody handles what still comes: it must not pile up.
+  if (!pumping()) return;
+  for (std::string& message : framing_.Feed(bytes)) lstReceive_.push_back(std::move(message));
   if (framing_.broken()) {
     WinSockError(0, "The other side sent a message that is too long");
   } else if (lstReceive_.size() > kMostWaiting) {
@@ -127,15 +149,16 @@ void Link::HandleNext() {
 }
 
 void Link::Interrupt() {
-  if (tmrNetTimeOut_->Enabled()) return;
+  if (tmrNetTimeOut_->Enabled() || tmrLeave_->Enabled()) return;
   tmrNetTimeOut_->setEnabled(true);
   interrupted_ = true;
   events_.Interrupted(true);
 }
 
 void Link::WinSockError(int number, const std::string& description) {
+  const bool leaving = tmrLeave_->Enabled();
   CloseConnection();
-  events_.Failed(number, description);
+  if (!leaving) events_.Failed(number, description);
 }
 
 }  // namespace kv

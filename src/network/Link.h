@@ -40,6 +40,9 @@ class Link {
   void NetSend(const std::string& message);
   /// "[Quit]" becomes the next and the last message that is sent.
   void QuitLink();
+  /// The game is left: QuitLink, and the link is closed when the peer has hung up, after a second at the
+  /// latest. The owner is told nothing of it.
+  void Leave();
   /// Closes the socket, stops all timers and empties both queues. Safe in any state.
   void CloseConnection();
 
@@ -65,6 +68,7 @@ class Link {
   void SendNext();
   void HandleNext();
   void Interrupt();
+  void LeaveTick();
   void WinSockError(int number, const std::string& description);
 
   TcpSocket& socket_;
@@ -73,11 +77,13 @@ class Link {
   std::deque<std::string> lstSend_;     // bytes of the wire, each with its separator
   std::deque<std::string> lstReceive_;  // bytes of the wire
   std::uint32_t connection_ = 0;        // counts closings: tells whether a handler has closed the link
+  int leaveTicks_ = 0;                  // since Leave
   bool handling_ = false;
   bool interrupted_ = false;
   std::unique_ptr<Timer> tmrNet_;
   std::unique_ptr<Timer> tmrNetTimeOut_;
   std::unique_ptr<Timer> tmrNetTurn_;
+  std::unique_ptr<Timer> tmrLeave_;  // runs from Leave until the link is closed
 };
 
 }  // namespace kv

@@ -1,18 +1,15 @@
 #include "network/NetworkGame.h"
 
-#include <algorithm>
 #include <utility>
 
-#include "campaign/Counter.h"
 #include "match/MatchEngine.h"
+#include "network/BrokenOff.h"
 #include "profile/clsPlayer.h"
 
 namespace kv {
 namespace {
 
-constexpr int kLeaveInterval = 50;       // milliseconds
-constexpr int kMostLeaveTicks = 20;      // a second: then the link is closed in any case
-constexpr std::size_t kMostLine = 1000;  // bytes of a typed line
+constexpr std::size_t kMostLine = 1600;  // bytes of a typed line
 constexpr std::size_t kMostWire = 4000;  // bytes of a message
 constexpr std::string_view kHelp =
     "Network chat commands: \r\n/quit\t\t-\tQuit whole game\r\n/disconnect\t-\tDisconnect to Main "
@@ -34,8 +31,7 @@ NetworkGame::NetworkGame(const NetworkServices& services, TcpSocket& socket)
             {.Greet = [this] { SendHello(); },
              .Message = [this](const std::string& message) { return ProcessMessage(message); },
              .Interrupted = [this](bool interrupted) { Interrupted(interrupted); },
-             .Failed = [this](int number, const std::string& text) { ConnectionFailed(number, text); }}),
-      tmrLeave_(services.scheduler.NewTimer(kLeaveInterval, [this] { LeaveTick(); })) {}
+             .Failed = [this](int number, const std::string& text) { ConnectionFailed(number, text); }}) {}
 
 void NetworkGame::Begin(clsPlayer& player, clsGame& game, MatchBooking& booking) {
   player_ = &player;
@@ -45,20 +41,21 @@ void NetworkGame::Begin(clsPlayer& player, clsGame& game, MatchBooking& booking)
 }
 
 void NetworkGame::StartFresh() {
-  tmrLeave_->setEnabled(false);
   link_.CloseConnection();
   hosting_ = true;
-  peerReady_ = turnHeld_ = arcade_ = false;
-  versionMatches_ = true;
-  greeting_ = {};
-  peerMoves_ = {};
-  playerStarts_.reset();
-  postponed_ = 0;
+  arcade_ = false;
+  peer_ = {};
   services_.stake.last = -1;
   chat_.Reset(std::string(kHelp));
 }
 
 // --- Screens ---------------------------------------------------------------------------------------------
+
+void NetworkGame::LobbyOpened(LobbyView& lobby) {
+  lobby_ = &lobby;
+  // A match without a stake may have been called off at the cards: there is none under way here.
+  if (game_->Mode == kModeNetworkArcade) game_->Wager = -1;
+}
 
 void NetworkGame::ScreensClosed() {
   lobby_ = nullptr;
@@ -69,18 +66,16 @@ void NetworkGame::ScreensClosed() {
 
 void NetworkGame::MatchOpened(MatchEngine& match) {
   match_ = &match;
-  peerMoves_ = {};
-  turnSeen_ = false;
-  if (playerStarts_) match.setPlayerStarts(*std::exchange(playerStarts_, {}));
+  peer_.moves = {};
+  peer_.turnSeen = false;
+  if (peer_.playerStarts) match.setPlayerStarts(*std::exchange(peer_.playerStarts, {}));
 }
 
 // --- Greeting --------------------------------------------------------------------------------------------
 
 void NetworkGame::SendHello() {
   if (lobby_ != nullptr) lobby_->Greet();
-  peerReady_ = turnHeld_ = false;
-  versionMatches_ = true;
-  greeting_ = {};
+  peer_ = {};
   chat_.Reset("\r\n\r\n\r\n");
   NetSend("[Vers]" + std::string(kProgramVersion));
   NetSend("[Name]" + player_->Name);
@@ -88,7 +83,9 @@ void NetworkGame::SendHello() {
   NetSend("[Port]" + std::to_string(player_->Portrait));
   bool found = false;
   static_cast<void>(services_.portrait(-1, "", found));
-  NetSend("[File]" + (found ? FileNameOf(player_->FileName) : std::string("0")));
+  // A name that the wire cannot spell would name another file over there.
+  const std::string file = FileNameOf(player_->FileName);
+  NetSend("[File]" + (found && WireText(file) == file ? file : std::string("0")));
   player_->LastIP = link_.socket().RemoteHost();
   player_->LastPort = link_.socket().LocalPort();
   player_->WritePlayerFile();
@@ -125,7 +122,7 @@ void NetworkGame::ToggleMode() {
   arcade_ = !arcade_;
   AddChatLine(arcade_ ? "[Changed game mode to Arcade match.]" : "[Changed game mode to Normal match.]");
   if (!hosting_) return;
-  peerReady_ = false;
+  peer_.ready = false;
   NetSend(arcade_ ? "[Mode]1" : "[Mode]0");
 }
 
@@ -141,7 +138,7 @@ void NetworkGame::PrepareMatch() {
   game.YourPic = services_.portrait(-1, "", found);
   game.Wager = -1;
   game.MinWager = 0;
-  playerStarts_.reset();
+  peer_.playerStarts.reset();
   if (arcade_) {
     game.Mode = kModeNetworkArcade;
     game.InitArcadeCards();
@@ -171,15 +168,16 @@ void NetworkGame::NetSend(const std::string& message) {
 
 void NetworkGame::SubmitChat(const std::string& line) {
   if (line == "/quit") {
-    SendQuit();
+    link_.Leave();
     services_.playEffect("losematch");
     BookLossIfUnderWay();
+    peer_.ready = false;  // no screen goes on behind the scenes
     services_.hideScreen();
     services_.navigator.EndProgramSoon();
     return;
   }
   if (line == "/disconnect") {
-    SendQuit();
+    link_.Leave();
     BookLossIfUnderWay();
     services_.navigator.OpenMenu();
     return;
@@ -194,26 +192,9 @@ void NetworkGame::SubmitChat(const std::string& line) {
 // --- Leaving ---------------------------------------------------------------------------------------------
 
 void NetworkGame::LeaveLobby() {
-  SendQuit();
+  link_.Leave();
   services_.playEffect("click");
   services_.navigator.OpenMenu();
-}
-
-void NetworkGame::SendQuit() {
-  if (!link_.connected()) {
-    link_.CloseConnection();
-    return;
-  }
-  link_.QuitLink();
-  leaveTicks_ = 0;
-  tmrLeave_->setEnabled(true);
-}
-
-void NetworkGame::LeaveTick() {
-  // The peer hangs up when it has read the message; it may be slow, or gone.
-  if (link_.connected() && ++leaveTicks_ < kMostLeaveTicks) return;
-  tmrLeave_->setEnabled(false);
-  link_.CloseConnection();
 }
 
 void NetworkGame::Interrupted(bool interrupted) {
@@ -222,11 +203,10 @@ void NetworkGame::Interrupted(bool interrupted) {
 }
 
 void NetworkGame::ConnectionFailed(int number, const std::string& description) {
-  if (tmrLeave_->Enabled()) return;  // it was to be closed anyway, and the game is left
   services_.dialogs.Message(
       "Connection Problem (Err No: " + std::to_string(number) + " - " + description + ")",
       "Kelm Vantri: TCP/IP WinSock Error", DialogIcon::Critical);
-  SaveDisconnect();
+  SaveDisconnect(*game_, *player_, *booking_, services_.dialogs);
   StartFresh();
   services_.navigator.OpenLobby();
 }
@@ -237,42 +217,8 @@ bool NetworkGame::matchUnderWay() const {
 
 void NetworkGame::BookLossIfUnderWay() {
   if (!matchUnderWay()) return;
-  StakeToRecord();
+  StakeToRecord(*game_, *player_);
   booking_->SaveLoss();
-}
-
-void NetworkGame::StakeToRecord() {
-  if (game_->Mode != kModeNetwork || game_->CreditsRef == player_->Credits_MP) return;
-  player_->Credits_MP->Value -= game_->Wager;
-  game_->CreditsRef = player_->Credits_MP;
-}
-
-void NetworkGame::WithdrawStake() {
-  if (!matchUnderWay()) return;
-  const std::int32_t stake = std::exchange(game_->Wager, -1);
-  if (game_->Mode != kModeNetwork) return;
-  if (game_->CreditsRef == player_->Credits_MP) game_->CreditsRef->Value += stake;
-  Lower(player_->Disconnects);
-  player_->WritePlayerFile();
-}
-
-void NetworkGame::SaveDisconnect() {
-  if (game_->Mode == kModeNetworkArcade) {
-    game_->Wager = -1;
-    return;
-  }
-  if (game_->Mode != kModeNetwork) {
-    services_.dialogs.Message("Bug: Saving for disconnect when not a network game (report me)",
-                              "Kelm Vantri: Error", DialogIcon::None);
-    booking_->SaveLoss();
-    return;
-  }
-  if (!matchUnderWay()) return;
-  StakeToRecord();
-  const std::int64_t half = std::exchange(game_->Wager, -1) / 2;
-  clsLong& credits = *game_->CreditsRef;
-  credits.Value = static_cast<std::int32_t>(std::min<std::int64_t>(kMostCredits, credits.Value + half));
-  player_->WritePlayerFile();
 }
 
 }  // namespace kv

@@ -3,7 +3,6 @@
 // that the peer sends: what makes no sense at the moment it arrives changes nothing.
 #pragma once
 
-#include <memory>
 #include <optional>
 #include <string>
 
@@ -14,6 +13,7 @@
 #include "network/LobbyView.h"
 #include "network/Message.h"
 #include "network/NetworkServices.h"
+#include "network/PeerState.h"
 
 namespace kv {
 
@@ -32,15 +32,14 @@ class NetworkGame final : public MatchNetwork {
   void Begin(clsPlayer& player, clsGame& game, MatchBooking& booking);
 
   // --- The screens, while they are open; none of them is owned ---------------------------------------------
-  void LobbyOpened(LobbyView& lobby) { lobby_ = &lobby; }
+  void LobbyOpened(LobbyView& lobby);
   void CardsOpened(WagerView& cards) { cards_ = &cards; }
   /// Tells the engine what the peer has said of the first starter meanwhile.
   void MatchOpened(MatchEngine& match);
   /// Whichever was open is no longer.
   void ScreensClosed();
 
-  // --- What the lobby does
-  // -----------------------------------------------------------------------------------
+  // --- What the lobby does ---------------------------------------------------------------------------------
   void setHosting(bool hosting) { hosting_ = hosting; }
   /// Listens or connects, by the side this is.
   void Open(int port, const std::string& remoteHost);
@@ -49,7 +48,7 @@ class NetworkGame final : public MatchNetwork {
   [[nodiscard]] std::string LocalAddress() const { return link_.socket().LocalIP(); }
   [[nodiscard]] bool connected() const { return link_.connected(); }
   /// False once the peer's version has turned out to be another one.
-  [[nodiscard]] bool versionMatches() const { return versionMatches_; }
+  [[nodiscard]] bool versionMatches() const { return peer_.versionMatches; }
   /// The game mode of the matches to come.
   [[nodiscard]] bool arcade() const { return arcade_; }
   /// Switches it, says so in the log and, on the host, tells the peer. Forgets that the peer was ready.
@@ -70,14 +69,12 @@ class NetworkGame final : public MatchNetwork {
 
   /// One entry of the incoming queue. False: not yet, hand it over again on a later tick.
   [[nodiscard]] bool ProcessMessage(const std::string& entry);
-  /// Books a match that a broken connection ends.
-  void SaveDisconnect();
 
   // --- What the screens of a match do ----------------------------------------------------------------------
   void NetSend(const std::string& message) override;
   [[nodiscard]] bool hosting() const override { return hosting_; }
-  [[nodiscard]] bool peerReady() const override { return peerReady_; }
-  void clearPeerReady() override { peerReady_ = false; }
+  [[nodiscard]] bool peerReady() const override { return peer_.ready; }
+  void clearPeerReady() override { peer_.ready = false; }
   void startTurnRepeat() override { link_.StartTurnRepeat(); }
   void AddChatLine(const std::string& line) override { chat_.AddLine(line); }
   void SubmitChat(const std::string& line) override;
@@ -86,24 +83,9 @@ class NetworkGame final : public MatchNetwork {
  private:
   enum class Answer { Done, Later, Refuse };
 
-  Answer Handle(const msg::Acpt&);
-  Answer Handle(const msg::Back&);
-  Answer Handle(const msg::Card& card);
-  Answer Handle(const msg::Mode& mode);
-  Answer Handle(const msg::Chat& chat);
-  Answer Handle(const msg::Forf&);
-  Answer Handle(const msg::Hand& hand);
-  Answer Handle(const msg::Name& name);
-  Answer Handle(const msg::Play&);
-  Answer Handle(const msg::File& file);
-  Answer Handle(const msg::Port& port);
-  Answer Handle(const msg::Quit&);
-  Answer Handle(const msg::Stnd&);
-  Answer Handle(const msg::Turn&);
-  Answer Handle(const msg::TAck&);
-  Answer Handle(const msg::Vers& version);
-  Answer Handle(const msg::Wage& wage);
-  Answer Handle(const msg::WhoS& who);
+  /// What a message does; one specialization for each.
+  template <typename Kind>
+  Answer Handle(const Kind& message);
 
   /// Why a move of the peer's cannot be taken now; nothing when it can.
   [[nodiscard]] std::optional<Answer> MoveBarred() const;
@@ -111,30 +93,9 @@ class NetworkGame final : public MatchNetwork {
   void SendHello();
   void Interrupted(bool interrupted);
   void ConnectionFailed(int number, const std::string& description);
-  /// The stake of a match that ends on the card screen leaves the player's own credits: the screen's working
-  /// copy, which it was taken from, is lost.
-  void StakeToRecord();
-  /// The match is called off before its first set: the stake and the advance entry are taken back.
-  void WithdrawStake();
   void WinAtTheDesk();
   void BookLossIfUnderWay();
   void StartFresh();
-  /// Tells the peer, and closes the link once that has left, after a second at the latest.
-  void SendQuit();
-  void LeaveTick();
-
-  /// What the peer has done in its present turn.
-  struct PeerMoves {
-    bool drawn = false;
-    bool played = false;
-  };
-  /// What of the greeting has arrived.
-  struct Greeting {
-    bool version = false;
-    bool name = false;
-    bool portrait = false;
-    bool file = false;
-  };
 
   NetworkServices services_;
   Link link_;
@@ -145,18 +106,9 @@ class NetworkGame final : public MatchNetwork {
   WagerView* cards_ = nullptr;
   MatchEngine* match_ = nullptr;
   bool hosting_ = true;
-  bool peerReady_ = false;
-  bool turnHeld_ = false;  // the peer's "[Turn]" was acted on; what follows are repetitions
-  bool turnSeen_ = false;  // the peer has ended a turn of this match
   bool arcade_ = false;
-  bool versionMatches_ = true;
-  Greeting greeting_;
-  PeerMoves peerMoves_;
-  std::optional<bool> playerStarts_;  // said before the match screen stood
-  int postponed_ = 0;                 // times that the present message was put off
+  PeerState peer_;
   ChatLog chat_;
-  std::unique_ptr<Timer> tmrLeave_;  // closes the link once "[Quit]" has left
-  int leaveTicks_ = 0;               // since "[Quit]" was queued
 };
 
 }  // namespace kv

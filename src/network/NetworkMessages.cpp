@@ -2,8 +2,8 @@
 // early, because this side is still in a pause of its own, waits for its moment.
 #include <string>
 
-#include "campaign/Counter.h"
 #include "match/MatchEngine.h"
+#include "network/BrokenOff.h"
 #include "network/NetworkGame.h"
 #include "profile/clsPlayer.h"
 
@@ -15,16 +15,6 @@ constexpr std::uint8_t kCopiesInDeck = 4;  // of each main-deck card
 constexpr std::size_t kVersionDigits = 4;  // "1.2.": what two versions that can play have in common
 
 }  // namespace
-
-bool NetworkGame::ProcessMessage(const std::string& entry) {
-  const auto message = ParseMessage(entry);
-  Answer answer = Answer::Refuse;
-  if (message) answer = std::visit([this](const auto& each) { return Handle(each); }, *message);
-  if (answer == Answer::Later && ++postponed_ <= kMostPostponed) return false;
-  postponed_ = 0;
-  if (answer != Answer::Done) AddChatLine("<< Unknown command: " + WireText(entry) + " - report as bug >>");
-  return true;
-}
 
 std::optional<NetworkGame::Answer> NetworkGame::MoveBarred() const {
   if (match_ == nullptr) return Answer::Refuse;
@@ -42,12 +32,13 @@ std::optional<NetworkGame::Answer> NetworkGame::MoveBarred() const {
 
 // --- Greeting and chat -------------------------------------------------------------------------------------
 
+template <>
 NetworkGame::Answer NetworkGame::Handle(const msg::Vers& version) {
-  if (std::exchange(greeting_.version, true)) return Answer::Refuse;
+  if (std::exchange(peer_.greeting.version, true)) return Answer::Refuse;
   const auto digits = [](std::string_view text) { return text.substr(0, kVersionDigits); };
   const std::string own(kProgramVersion);
-  versionMatches_ = digits(version.version) == digits(kProgramVersion);
-  if (versionMatches_) {
+  peer_.versionMatches = digits(version.version) == digits(kProgramVersion);
+  if (peer_.versionMatches) {
     AddChatLine("[Version Check (Pass): You - v" + own + ", Opp - v" + version.version + "]");
     return Answer::Done;
   }
@@ -56,30 +47,33 @@ NetworkGame::Answer NetworkGame::Handle(const msg::Vers& version) {
   return Answer::Done;
 }
 
+template <>
 NetworkGame::Answer NetworkGame::Handle(const msg::Name& name) {
-  if (std::exchange(greeting_.name, true)) return Answer::Refuse;
+  if (std::exchange(peer_.greeting.name, true)) return Answer::Refuse;
   game_->OppName = name.text;
   AddChatLine("[Connected with " + name.text + "]");
   AddChatLine("[(You) " + StatsLine().substr(1));
   return Answer::Done;
 }
 
+template <>
 NetworkGame::Answer NetworkGame::Handle(const msg::Port& port) {
-  if (std::exchange(greeting_.portrait, true)) return Answer::Refuse;
+  if (std::exchange(peer_.greeting.portrait, true)) return Answer::Refuse;
   bool found = false;
   game_->OppPic = services_.portrait(port.number, "0", found);
   return Answer::Done;
 }
 
+template <>
 NetworkGame::Answer NetworkGame::Handle(const msg::File& file) {
-  if (std::exchange(greeting_.file, true)) return Answer::Refuse;
-  if (file.baseName == "0") return Answer::Done;
+  if (std::exchange(peer_.greeting.file, true)) return Answer::Refuse;
   bool found = false;
   const Picture own = services_.portrait(0, file.baseName, found);
   if (found) game_->OppPic = own;
   return Answer::Done;
 }
 
+template <>
 NetworkGame::Answer NetworkGame::Handle(const msg::Chat& chat) {
   AddChatLine(chat.text);
   return Answer::Done;
@@ -87,34 +81,37 @@ NetworkGame::Answer NetworkGame::Handle(const msg::Chat& chat) {
 
 // --- Lobby and card screen -------------------------------------------------------------------------------
 
+template <>
 NetworkGame::Answer NetworkGame::Handle(const msg::Mode& mode) {
   const bool choosingCards = cards_ != nullptr && (!matchUnderWay() || arcade_);
   if (hosting_ || (lobby_ == nullptr && !choosingCards)) return Answer::Refuse;
   AddChatLine("[" + game_->OppName + " has changed the game mode to " +
               (mode.arcade ? "Arcade match" : "Normal match") + ".]");
-  peerReady_ = false;
+  peer_.ready = false;
   // The host took its Start back while this side was already on its way to the cards.
   if (lobby_ == nullptr) {
-    WithdrawStake();
+    WithdrawStake(*game_, *player_);
     services_.navigator.OpenLobby();
   }
   if (lobby_ != nullptr) lobby_->ModeReceived(mode.arcade);
   return Answer::Done;
 }
 
+template <>
 NetworkGame::Answer NetworkGame::Handle(const msg::Play&) {
   if (match_ != nullptr) {
     if (match_->deciding()) return Answer::Later;
     if (!match_->expectsPlay()) return Answer::Refuse;
   }
   // The one before has not been used yet by the screen that waits for it: two must not become one.
-  if (peerReady_ && (cards_ != nullptr || (lobby_ != nullptr && lobby_->waiting()))) return Answer::Later;
-  peerReady_ = true;
-  turnHeld_ = false;
-  peerMoves_ = {};
+  if (peer_.ready && (cards_ != nullptr || (lobby_ != nullptr && lobby_->waiting()))) return Answer::Later;
+  peer_.ready = true;
+  peer_.turnHeld = false;
+  peer_.moves = {};
   return Answer::Done;
 }
 
+template <>
 NetworkGame::Answer NetworkGame::Handle(const msg::Wage& wage) {
   if (cards_ == nullptr || game_->Mode != kModeNetwork || matchUnderWay()) return Answer::Refuse;
   services_.playEffect("propose");
@@ -122,6 +119,7 @@ NetworkGame::Answer NetworkGame::Handle(const msg::Wage& wage) {
   return Answer::Done;
 }
 
+template <>
 NetworkGame::Answer NetworkGame::Handle(const msg::Acpt&) {
   if (cards_ == nullptr || game_->Mode != kModeNetwork || matchUnderWay()) return Answer::Refuse;
   if (!cards_->awaitsAnswer()) return Answer::Refuse;
@@ -130,37 +128,39 @@ NetworkGame::Answer NetworkGame::Handle(const msg::Acpt&) {
   return Answer::Done;
 }
 
+template <>
 NetworkGame::Answer NetworkGame::Handle(const msg::Back&) {
   const bool opening = match_ != nullptr && !match_->begun();
   if (lobby_ == nullptr && cards_ == nullptr && !opening) return Answer::Refuse;
   AddChatLine("[" + game_->OppName + " has returned to the Network screen.]");
-  peerReady_ = false;
+  peer_.ready = false;
   if (lobby_ != nullptr) return Answer::Done;
-  WithdrawStake();
+  WithdrawStake(*game_, *player_);
   services_.navigator.OpenLobby();
   return Answer::Done;
 }
 
-// --- The match
-// -----------------------------------------------------------------------------------------------
+// --- The match ---------------------------------------------------------------------------------------------
 
+template <>
 NetworkGame::Answer NetworkGame::Handle(const msg::WhoS& who) {
   if (hosting_ || (match_ != nullptr && match_->begun())) return Answer::Refuse;
   if (match_ == nullptr && cards_ == nullptr) return Answer::Refuse;
-  turnHeld_ = who.youStart;
+  peer_.turnHeld = who.youStart;
   if (match_ != nullptr) {
     match_->setPlayerStarts(who.youStart);
   } else {
-    playerStarts_ = who.youStart;
+    peer_.playerStarts = who.youStart;
   }
   return Answer::Done;
 }
 
+template <>
 NetworkGame::Answer NetworkGame::Handle(const msg::Card& card) {
   if (const auto barred = MoveBarred()) return *barred;
   const bool left = match_->MainDeckCount(card.value) < kCopiesInDeck;
-  if (peerMoves_.drawn || match_->OpponentStood() || !left) return Answer::Refuse;
-  peerMoves_.drawn = true;
+  if (peer_.moves.drawn || match_->OpponentStood() || !left) return Answer::Refuse;
+  peer_.moves.drawn = true;
   const int before = match_->Total(Seat::Opponent);
   match_->LoadNextCard(CardCode(CardType::MainDeck, card.value), true);
   match_->DeductDrawCard(card.value);
@@ -169,47 +169,52 @@ NetworkGame::Answer NetworkGame::Handle(const msg::Card& card) {
   return Answer::Done;
 }
 
+template <>
 NetworkGame::Answer NetworkGame::Handle(const msg::Hand& hand) {
   if (const auto barred = MoveBarred()) return *barred;
   const bool full = match_->Table(Seat::Opponent).size() == kTableSize;
   const bool spent = match_->HandCard(Seat::Opponent, hand.slot) == EmptiedSlot();
-  if (!peerMoves_.drawn || peerMoves_.played || match_->OpponentStood() || full || spent) {
+  if (!peer_.moves.drawn || peer_.moves.played || match_->OpponentStood() || full || spent) {
     return Answer::Refuse;
   }
-  peerMoves_.played = true;
+  peer_.moves.played = true;
   match_->OppPlayHand(hand.slot, hand.code);
   return Answer::Done;
 }
 
+template <>
 NetworkGame::Answer NetworkGame::Handle(const msg::Stnd&) {
   if (const auto barred = MoveBarred()) return *barred;
-  if (!peerMoves_.drawn || match_->OpponentStood()) return Answer::Refuse;
+  if (!peer_.moves.drawn || match_->OpponentStood()) return Answer::Refuse;
   match_->OppStand();
   return Answer::Done;
 }
 
+template <>
 NetworkGame::Answer NetworkGame::Handle(const msg::Turn&) {
-  const auto barred = turnHeld_ ? Answer::Done : MoveBarred();
+  const auto barred = peer_.turnHeld ? Answer::Done : MoveBarred();
   if (barred == Answer::Later) return *barred;
   NetSend("[TAck]");
   // Repetitions can come late, even after the next "[Play]": without a move since the last they end no turn.
-  const bool repeated = turnSeen_ && !peerMoves_.drawn;
+  const bool repeated = peer_.turnSeen && !peer_.moves.drawn;
   if (barred) return repeated ? Answer::Done : *barred;
-  if (!peerMoves_.drawn && !match_->OpponentStood()) return repeated ? Answer::Done : Answer::Refuse;
-  turnHeld_ = turnSeen_ = true;
-  peerMoves_ = {};
+  if (!peer_.moves.drawn && !match_->OpponentStood()) return repeated ? Answer::Done : Answer::Refuse;
+  peer_.turnHeld = peer_.turnSeen = true;
+  peer_.moves = {};
   match_->AI_EndTurn();
   return Answer::Done;
 }
 
+template <>
 NetworkGame::Answer NetworkGame::Handle(const msg::TAck&) {
   // A surplus answer, to a repeated "[Turn]", must not let the peer's own repetitions through.
   if (!link_.turnRepeats()) return Answer::Done;
   link_.StopTurnRepeat();
-  turnHeld_ = false;
+  peer_.turnHeld = false;
   return Answer::Done;
 }
 
+template <>
 NetworkGame::Answer NetworkGame::Handle(const msg::Forf&) {
   const bool choosingCards = cards_ != nullptr && matchUnderWay();
   if (match_ == nullptr && !choosingCards) return Answer::Refuse;
@@ -226,20 +231,21 @@ NetworkGame::Answer NetworkGame::Handle(const msg::Forf&) {
 
 /// The peer was at the table already and gave up there; its banner waits for this side's "[Play]".
 void NetworkGame::WinAtTheDesk() {
-  StakeToRecord();
+  StakeToRecord(*game_, *player_);
   booking_->SaveWin();
   NetSend("[Play]");
-  peerReady_ = false;
+  peer_.ready = false;
   services_.navigator.OpenLobby();
 }
 
+template <>
 NetworkGame::Answer NetworkGame::Handle(const msg::Quit&) {
   services_.stopEffects();
   const bool won = matchUnderWay();
   // The line goes first: while the box is open nothing more may happen on it.
   link_.CloseConnection();
   if (won) {
-    StakeToRecord();
+    StakeToRecord(*game_, *player_);
     booking_->SaveWin();
   }
   services_.dialogs.Message(won ? "Opponent has quit! You Win!" : "Opponent has quit!",
@@ -247,6 +253,17 @@ NetworkGame::Answer NetworkGame::Handle(const msg::Quit&) {
   StartFresh();
   services_.navigator.OpenLobby();
   return Answer::Done;
+}
+
+// Last, for every kind of message must be known here.
+bool NetworkGame::ProcessMessage(const std::string& entry) {
+  const auto message = ParseMessage(entry);
+  Answer answer = Answer::Refuse;
+  if (message) answer = std::visit([this](const auto& each) { return Handle(each); }, *message);
+  if (answer == Answer::Later && ++peer_.postponed <= kMostPostponed) return false;
+  peer_.postponed = 0;
+  if (answer != Answer::Done) AddChatLine("<< Unknown command: " + WireText(entry) + " - report as bug >>");
+  return true;
 }
 
 }  // namespace kv

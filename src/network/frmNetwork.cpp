@@ -70,8 +70,7 @@ void frmNetwork::BuildConnection() {
 
 void frmNetwork::BuildPlayer() {
   imgYourPic_ = new frmOptionsPortrait(this, layout(), u"imgYourPic");
-  connect(imgYourPic_, &QAbstractButton::clicked, this,
-          [this] { services().navigator.OpenPortraits(*this); });
+  connect(imgYourPic_, &QAbstractButton::clicked, this, [this] { imgYourPic_Click(); });
   lblName_ = layout().NewLabel(u"lblName", this);
   lblCredits_ = layout().NewLabel(u"lblCredits", this);
   lblWins_ = layout().NewLabel(u"lblWins", this);
@@ -90,6 +89,7 @@ void frmNetwork::BuildPlay() {
 }
 
 void frmNetwork::Activate() {
+  if (std::exchange(choosingPortrait_, false)) PlayEffect("panel");
   ShowPlayer();
   ListLocalIPs();
   EnableButtons(true);

@@ -56,6 +56,7 @@ class frmNetwork final : public Screen, public PortraitCaller, public LobbyView 
   void ShowAddresses();
   void HideAddresses();
   void ChooseAddress(const QListWidgetItem& item);
+  void imgYourPic_Click();
   void cmdConnect_Click();
   void cmdPort_Click();
   void cmdGameMode_Click();
@@ -70,6 +71,7 @@ class frmNetwork final : public Screen, public PortraitCaller, public LobbyView 
   [[nodiscard]] int Port() const;
 
   frmNetworkServices lobby_;
+  bool choosingPortrait_ = false;  // the picker is open
   std::unique_ptr<Timer> tmrNetWait_;
   std::unique_ptr<Timer> tmrShowStart_;
   QLabel* lblName_ = nullptr;  // children, as all that follow

@@ -10,6 +10,7 @@ namespace {
 constexpr int kHeadingLines = 2;  // of the list of addresses
 constexpr std::int32_t kTradedCredits = 10;
 constexpr int kListMargin = 8;  // layout pixels below its last line
+constexpr QColor kChoosingFrame(255, 0, 0);
 constexpr const char* kLoopback = "127.0.0.1";
 constexpr const char* kPortPrompt =
     "Both players must use the same port number. Enter new port number (1 - 65535)";
@@ -115,6 +116,13 @@ void frmNetwork::ChooseAddress(const QListWidgetItem& item) {
   HideAddresses();
 }
 
+void frmNetwork::imgYourPic_Click() {
+  PlayEffect("click");
+  imgYourPic_->setBorder(kChoosingFrame);
+  choosingPortrait_ = true;
+  services().navigator.OpenPortraits(*this);
+}
+
 // --- Mode and start --------------------------------------------------------------------------------------
 
 void frmNetwork::cmdGameMode_Click() {
@@ -178,6 +186,7 @@ void frmNetwork::Greet() {
 
 void frmNetwork::RefuseStart() {
   tmrShowStart_->setEnabled(false);
+  tmrNetWait_->setEnabled(false);
   cmdStart_->hide();
   ShowState("The versions differ: only chat is possible.");
 }

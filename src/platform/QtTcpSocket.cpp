@@ -1,12 +1,15 @@
 #include "platform/QtTcpSocket.h"
 
 #include <QNetworkInterface>
+#include <QTimer>
 #include <array>
+#include <utility>
 
 namespace kv {
 namespace {
 
 constexpr qint64 kReadBuffer = 65536;  // bytes that the toolkit holds for us; the rest waits with the peer
+constexpr int kLinger = 1000;          // milliseconds for what was sent to leave a closed connection
 constexpr const char* kLoopback = "127.0.0.1";
 
 struct ErrorRow {
@@ -31,6 +34,12 @@ int NumberOf(QAbstractSocket::SocketError error) {
     if (row.error == error) return row.number;
   }
   return kOtherError;
+}
+
+/// The toolkit has no name of its own for a port that cannot be used to connect from.
+bool MayBePort(QAbstractSocket::SocketError error) {
+  return error == QAbstractSocket::UnknownSocketError || error == QAbstractSocket::AddressInUseError ||
+         error == QAbstractSocket::SocketAddressNotAvailableError;
 }
 
 }  // namespace
@@ -62,14 +71,16 @@ void QtTcpSocket::Listen() {
 
 void QtTcpSocket::Connect() {
   failed_ = false;
+  Dial(localPort_);
+}
+
+void QtTcpSocket::Dial(int localPort) {
   socket_ = new QTcpSocket(&server_);
   // The port to connect from is a wish: on the host's own machine it is taken. A refusal must not count as a
   // failed connection, so nobody listens to the socket yet.
-  const auto port = static_cast<quint16>(localPort_);
   const auto reuse = QAbstractSocket::ShareAddress | QAbstractSocket::ReuseAddressHint;
-  if (!socket_->bind(ListenAddress(), port, reuse) && !localIP_.empty()) {
-    static_cast<void>(socket_->bind(ListenAddress(), 0));
-  }
+  dialledFromPort_ = localPort != 0 && socket_->bind(ListenAddress(), static_cast<quint16>(localPort), reuse);
+  if (!dialledFromPort_ && !localIP_.empty()) static_cast<void>(socket_->bind(ListenAddress(), 0));
   Watch();
   socket_->connectToHost(QString::fromStdString(remoteHost_), static_cast<quint16>(remotePort_),
                          QIODevice::ReadWrite, QAbstractSocket::IPv4Protocol);
@@ -83,34 +94,53 @@ void QtTcpSocket::Accept() {
   server_.close();
   Watch();
   // The peer may have spoken before it was accepted.
-  if (socket_->bytesAvailable() > 0) {
-    QMetaObject::invokeMethod(
-        socket_,
-        [this] {
-          if (DataArrival) DataArrival();
-        },
-        Qt::QueuedConnection);
-  }
+  Post([this] {
+    if (socket_->bytesAvailable() > 0 && DataArrival) DataArrival();
+  });
 }
 
 void QtTcpSocket::Watch() {
   socket_->setReadBufferSize(kReadBuffer);
   socket_->setSocketOption(QAbstractSocket::LowDelayOption, 1);
   QObject::connect(socket_, &QTcpSocket::connected, socket_, [this] {
+    dialledFromPort_ = false;
     if (Connected) Connected();
   });
   QObject::connect(socket_, &QTcpSocket::readyRead, socket_, [this] {
     if (DataArrival) DataArrival();
   });
-  QObject::connect(socket_, &QTcpSocket::errorOccurred, socket_, [this](QAbstractSocket::SocketError error) {
-    // A peer that hangs up is seen by the state; the line may only be interrupted.
-    if (error != QAbstractSocket::RemoteHostClosedError) Fail(error, socket_->errorString());
-  });
+  QObject::connect(socket_, &QTcpSocket::errorOccurred, socket_,
+                   [this](QAbstractSocket::SocketError error) { Failed(error); });
+}
+
+void QtTcpSocket::Failed(QAbstractSocket::SocketError error) {
+  // A peer that hangs up is seen by the state; the line may only be interrupted.
+  if (error == QAbstractSocket::RemoteHostClosedError) return;
+  if (std::exchange(dialledFromPort_, false) && MayBePort(error)) {
+    // The system still holds the port for the last connection to the same host.
+    Post([this] {
+      Release(std::exchange(socket_, nullptr));
+      Dial(0);
+    });
+    return;
+  }
+  Fail(error, socket_->errorString());
+}
+
+void QtTcpSocket::Post(std::function<void()> event) {
+  QMetaObject::invokeMethod(
+      &server_,
+      [this, use = uses_, event = std::move(event)] {
+        if (use == uses_) event();
+      },
+      Qt::QueuedConnection);
 }
 
 void QtTcpSocket::Fail(QAbstractSocket::SocketError error, const QString& description) {
   failed_ = true;
-  if (Error) Error(NumberOf(error), description.toStdString());
+  Post([this, number = NumberOf(error), text = description.toStdString()] {
+    if (Error) Error(number, text);
+  });
 }
 
 void QtTcpSocket::Bind(int localPort, const std::string& localIP) {
@@ -135,7 +165,11 @@ void QtTcpSocket::Release(QTcpSocket* socket) {
     socket->readAll();
     QObject::connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
     socket->disconnectFromHost();
-    if (socket->state() != QAbstractSocket::UnconnectedState) return;  // bytes still go out
+    if (socket->state() != QAbstractSocket::UnconnectedState) {
+      // Bytes still go out; a peer that never reads must not hold them for ever.
+      QTimer::singleShot(kLinger, socket, [socket] { socket->abort(); });
+      return;
+    }
   } else {
     socket->abort();
   }
@@ -143,6 +177,7 @@ void QtTcpSocket::Release(QTcpSocket* socket) {
 }
 
 void QtTcpSocket::Close() {
+  ++uses_;
   if (request_ == nullptr) server_.close();
   Release(std::exchange(socket_, nullptr));
   failed_ = false;

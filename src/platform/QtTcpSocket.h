@@ -32,10 +32,15 @@ class QtTcpSocket final : public TcpSocket {
   [[nodiscard]] std::string LocalIP() const override;
 
  private:
+  /// From this port, or from any when it is 0.
+  void Dial(int localPort);
   void Watch();
+  void Failed(QAbstractSocket::SocketError error);
+  /// Tells it in the event loop's own time, unless the socket is closed meanwhile.
+  void Post(std::function<void()> event);
   void Fail(QAbstractSocket::SocketError error, const QString& description);
   [[nodiscard]] QHostAddress ListenAddress() const;
-  /// Lets go of a connection; what was written to it still goes out.
+  /// Lets go of a connection; what was written to it still goes out, for a while.
   static void Release(QTcpSocket* socket);
 
   std::string remoteHost_;
@@ -46,6 +51,8 @@ class QtTcpSocket final : public TcpSocket {
   QTcpSocket* socket_ = nullptr;   // children of the server; one that is let go deletes itself
   QTcpSocket* request_ = nullptr;  // asked to be accepted
   bool failed_ = false;
+  bool dialledFromPort_ = false;  // connecting from a port of our own choice
+  std::uint32_t uses_ = 0;        // counts closings
 };
 
 /// The machine's own IPv4 addresses in the system's order, loop-back included.

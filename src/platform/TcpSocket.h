@@ -22,7 +22,8 @@ class TcpSocket {
 
   virtual ~TcpSocket() = default;
 
-  // Events, on the user-interface thread. A handler may close the socket and may take as long as it likes.
+  // Events, on the user-interface thread and never inside a call of this object: whoever calls need not fear
+  // that it is gone afterwards. A handler may close the socket and may take as long as it likes.
   std::function<void()> ConnectionRequest;  // somebody asks to be accepted
   std::function<void()> Connected;
   std::function<void()> DataArrival;  // GetData has something
@@ -47,7 +48,8 @@ class TcpSocket {
   virtual void SendData(std::string_view bytes) = 0;
   /// All bytes that have arrived since the last call.
   [[nodiscard]] virtual std::string GetData() = 0;
-  /// What was sent still goes out. Safe in any state.
+  /// What was sent still goes out, unless the peer takes longer than a second to read it. Never waits. Safe
+  /// in any state; an event that is under way is dropped.
   virtual void Close() = 0;
   [[nodiscard]] virtual Status State() const = 0;
   /// The address in use, or the first of the machine's own.

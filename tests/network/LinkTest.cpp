@@ -84,9 +84,29 @@ TEST_F(LinkTest, QuitIsTheLastWord) {
   clock.Advance(1000);
   EXPECT_EQ(heard, "[Quit]\x87");
   EXPECT_FALSE(link.pumping());
+  for (int time = 0; time < 50; ++time) peer.SendData(std::string(100, '\x87') + std::string(4000, 'x'));
+  clock.Advance(1000);
+  EXPECT_EQ(link.waiting(), 0u) << "nobody handles what comes after it";
+  EXPECT_EQ(log, std::vector<std::string>{"greet"});
   link.CloseConnection();
   link.CloseConnection();
   EXPECT_EQ(clock.RunningTimers(), 0);
+}
+
+TEST_F(LinkTest, WhoLeavesWaitsForThePeerASecondAndIsToldNothing) {
+  for (const bool gone : {false, true}) {
+    link.Leave();
+    if (gone) peer.Close();
+    clock.Advance(gone ? 200 : 900);
+    EXPECT_EQ(link.connected(), !gone);
+    clock.Advance(200);
+    EXPECT_EQ(clock.RunningTimers(), 0);
+    EXPECT_EQ(log.back(), "greet");
+    peer.Close();
+    peer.Listen();
+    link.Connect(6000, "10.0.0.9");
+    clock.Advance(10);
+  }
 }
 
 TEST_F(LinkTest, ALostLineIsToldAfterItsTimeOfGrace) {

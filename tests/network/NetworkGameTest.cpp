@@ -27,6 +27,7 @@ class NetworkGameTest : public testing::Test, protected TwoPrograms {
     host.continues = guest.continues = true;
   }
   [[nodiscard]] bool Settled() const {
+    if (host.program->network()->arcade()) return BothOn("frmCards");
     return host.program->game()->Wager == 50 && guest.program->game()->Wager == 50 && BothOn("frmCards");
   }
   /// To the first turn of a match for 50 credits; `seat` is the host's view of whose turn it is.
@@ -120,6 +121,15 @@ TEST_F(NetworkGameTest, TheGuestMayProposeAnotherStake) {
 
 TEST_F(NetworkGameTest, BackFromTheCardsReturnsBoth) {
   Meet();
+  host.Click("cmdGameMode");
+  Pass(500);
+  ToCards(false);
+  host.Find<ctlTitlebar>("ctlTitlebar")->Quit();
+  Pass(3000);
+  EXPECT_TRUE(BothOn("frmNetwork"));
+  for (NetworkPlayer* each : {&host, &guest}) EXPECT_EQ(each->program->game()->Wager, -1);
+  host.Click("cmdGameMode");
+  Pass(500);
   ToCards(false);
   host.program->screenAs<frmCards>()->wager().getcmdEnd().click();
   Pass(1000);
@@ -127,6 +137,9 @@ TEST_F(NetworkGameTest, BackFromTheCardsReturnsBoth) {
   EXPECT_TRUE(guest.Saw("[Hanna has returned to the Network screen.]"));
   Pass(3000);
   PlayMatch(10);
+  host.Say("/quit");
+  Pass(3000);
+  EXPECT_EQ(guest.dialogs.boxes.back().text, "Opponent has quit!");
 }
 
 TEST_F(NetworkGameTest, WhoGivesUpLosesTheStake) {
@@ -179,33 +192,70 @@ TEST_F(NetworkGameTest, LeavingBetweenMatchesBooksNothing) {
   EXPECT_EQ(Account(guest), (Accounts{100, 0, 0, 0}));
 }
 
-/// The line drops: the screen is locked, ten seconds later the loss of half the stake is booked.
-TEST_F(NetworkGameTest, ADroppedLineCostsHalfTheStake) {
-  const std::array<std::function<void()>, 5> states = {
-      [this] { guest.Click("cmdStart"); },  // Start is pressed
-      [this] { ToCards(false); },           // the cards are on view
-      [this] { ToCards(true); },            // the stake is agreed upon
-      [this] { ToTurn(Seat::Player); },     // a turn of the peer's
-      [this] { ToTurn(Seat::Opponent); },   // a turn of one's own
+/// The line drops at each state of a game: the screen that stays is locked, and ten seconds later an open
+/// stake is booked and a fresh lobby stands.
+TEST_F(NetworkGameTest, ADroppedLineIsBookedByTheStateOfTheGame) {
+  const auto arcade = [this] { host.Click("cmdGameMode"), Pass(500); };
+  const auto banner = [this](int sets) {
+    ToTurn(Seat::Player);
+    guest.acts = false;
+    PlayUntil([this, sets] {
+      const MatchEngine& engine = guest.match()->engine();
+      const bool shown =
+          engine.banner().visible && engine.SetWins(Seat::Player) + engine.SetWins(Seat::Opponent) >= sets;
+      if (!shown && engine.banner().visible) guest.match()->engine().Continue();
+      if (engine.controls().endTurn) guest.match()->engine().EndTurn();
+      return shown;
+    });
+    guest.acts = true;
   };
-  for (std::size_t state = 0; state < states.size(); ++state) {
-    SCOPED_TRACE(state);
-    guest.record().Credits_MP->Value = host.record().Credits_MP->Value = 100;
-    guest.record().Disconnects = host.record().Disconnects = 0;
+  const Accounts untouched = {100, 0, 0, 0};
+  const Accounts halved = {75, 0, 0, 1};
+  struct Row {
+    const char* state;
+    std::function<void()> reach;
+    Accounts booked;
+  };
+  const std::vector<Row> rows = {
+      {"lobby", [] {}, untouched},
+      {"Start pressed", [this] { guest.Click("cmdStart"); }, untouched},
+      {"cards", [this] { ToCards(false); }, untouched},
+      {"stake proposed", [this] { ToCards(false), Pass(500), host.Act(50), Pass(500); }, untouched},
+      {"stake settled", [this] { ToCards(true); }, halved},
+      {"match opening", [this] { ToCards(true), guest.Click("cmdContinue"), Pass(1000); }, halved},
+      {"turn of the peer", [this] { ToTurn(Seat::Player); }, halved},
+      {"turn of one's own", [this] { ToTurn(Seat::Opponent); }, halved},
+      {"banner of a set", [&] { banner(1); }, halved},
+      {"match won",
+       [&] {
+         ToTurn(Seat::Player), host.dialogs.answers = {true}, host.match()->engine().Forfeit(), Pass(1000);
+       },
+       {155, 1, 0, 0}},
+      {"arcade cards", [&] { arcade(), ToCards(false); }, untouched},
+      {"arcade turn", [&] { arcade(), ToTurn(Seat::Player); }, untouched},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.state);
+    for (NetworkPlayer* each : {&host, &guest}) {
+      each->record().Credits_MP->Value = 100;
+      each->record().Wins_MP->Value = each->record().Losses_MP->Value = each->record().Disconnects = 0;
+    }
     Meet();
-    states.at(state)();
+    row.reach();
     host.socket->Close();
     Pass(300);
     EXPECT_TRUE(guest.Saw("<< WARNING: Connection interrupted - Please Wait >>"));
     EXPECT_FALSE(guest.program->screen()->isEnabled());
-    Pass(10500);
+    Pass(9500);
+    EXPECT_FALSE(guest.Saw("Network chat commands"));
+    Pass(1000);
     EXPECT_EQ(guest.dialogs.boxes.back().text, "Connection Problem (Err No: 0 - Connection lost)");
     EXPECT_EQ(guest.dialogs.boxes.back().title, "Kelm Vantri: TCP/IP WinSock Error");
-    const bool atStake = state >= 2;
-    EXPECT_EQ(Account(guest), (Accounts{atStake ? 75 : 100, 0, 0, atStake ? 1 : 0}));
+    EXPECT_EQ(Account(guest), row.booked);
     EXPECT_EQ(guest.program->game()->Wager, -1);
     EXPECT_EQ(guest.ScreenName(), "frmNetwork");
     EXPECT_TRUE(guest.program->screen()->isEnabled());
+    EXPECT_TRUE(guest.Saw("Network chat commands"));
     Pass(12000);
   }
 }

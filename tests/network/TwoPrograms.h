@@ -92,6 +92,7 @@ class NetworkPlayer {
 
   /// Does one thing that a person could do now on the card or match screen.
   void Act(int stake) {
+    if (!acts) return;
     if (auto* cards = program->screenAs<frmCards>()) ActOnCards(*cards, stake);
     if (frmGame* screen = match()) ActInMatch(screen->engine());
   }
@@ -102,6 +103,7 @@ class NetworkPlayer {
   RecordingSound sound;
   LoopbackSocket* socket = nullptr;
   int quits = 0;
+  bool acts = true;                         // at all
   bool continues = true;                    // from the card screen once it can
   bool plays = true;                        // when it is its turn in a match
   std::vector<std::array<int, 2>> results;  // won sets of each match: own, peer's

@@ -70,7 +70,50 @@ TEST_F(QtTcpSocketTest, TellsWhatCannotBeDone) {
   second.Error = [this](int number, const std::string&) { errors.push_back(number); };
   second.Bind(kPort, "127.0.0.1");
   second.Listen();
+  EXPECT_EQ(second.State(), Status::Failed);
+  EXPECT_EQ(errors.size(), 1u) << "no event inside the call";
+  ASSERT_TRUE(QTest::qWaitFor([this] { return errors.size() == 2; }));
   EXPECT_EQ(errors.back(), 10048);
+  second.Listen();
+  second.Close();
+  QTest::qWait(20);
+  EXPECT_EQ(errors.size(), 2u) << "an event that is under way is dropped";
+}
+
+TEST_F(QtTcpSocketTest, ConnectsFromAnotherPortWhereItsOwnIsStillHeld) {
+  QTcpServer server;
+  ASSERT_TRUE(server.listen(QHostAddress("127.0.0.1"), kPort));
+  guest.Connect();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return guest.State() == Status::Connected; }));
+  QtTcpSocket again;
+  again.Error = [this](int number, const std::string&) { errors.push_back(number); };
+  again.Bind(kPort, "127.0.0.2");
+  again.setRemoteHost("127.0.0.1");
+  again.setRemotePort(kPort);
+  again.Connect();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return again.State() == Status::Connected; }));
+  EXPECT_TRUE(errors.empty());
+}
+
+TEST_F(QtTcpSocketTest, APeerThatNeverReadsDoesNotHoldAClosedConnection) {
+  QTcpSocket deaf;
+  deaf.setReadBufferSize(1);
+  host.Listen();
+  deaf.connectToHost(QStringLiteral("127.0.0.1"), kPort);
+  ASSERT_TRUE(QTest::qWaitFor([this] { return host.State() == Status::Connected; }));
+  const std::string much(1 << 20, 'x');
+  constexpr qint64 kSent = 64 << 20;
+  for (qint64 sent = 0; sent < kSent; sent += 1 << 20) host.SendData(much);
+  host.Close();
+  QTest::qWait(1200);
+  qint64 read = 0;
+  deaf.setReadBufferSize(0);
+  const auto ended = [&] {
+    read += deaf.readAll().size();
+    return deaf.state() == QAbstractSocket::UnconnectedState;
+  };
+  EXPECT_TRUE(QTest::qWaitFor(ended));
+  EXPECT_LT(read + deaf.readAll().size(), kSent) << "given up";
 }
 
 TEST_F(QtTcpSocketTest, ConnectsFromAnotherPortWhenItsOwnIsTheHosts) {

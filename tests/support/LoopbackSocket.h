@@ -80,7 +80,7 @@ class LoopbackSocket final : public TcpSocket {
     state_ = Status::Connected;
     LoopbackSocket* guest = pipe_->ends[0];
     guest->state_ = Status::Connected;
-    guest->Later([guest] { guest->Connected(); });
+    Via(pipe_, [](LoopbackSocket& peer) { peer.Connected(); });  // before anything that is sent
   }
   void SendData(std::string_view bytes) override {
     sent += bytes;

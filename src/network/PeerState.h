@@ -1,0 +1,33 @@
+// What a network game remembers of the peer's messages, so that each is taken only where it makes sense. It
+// is forgotten with the connection.
+#pragma once
+
+#include <optional>
+
+namespace kv {
+
+struct PeerState {
+  /// What of the greeting has arrived.
+  struct Greeting {
+    bool version = false;
+    bool name = false;
+    bool portrait = false;
+    bool file = false;
+  };
+  /// What it has done in its present turn.
+  struct Moves {
+    bool drawn = false;
+    bool played = false;
+  };
+
+  bool ready = false;     // its "[Play]" has come and no screen has used it yet
+  bool turnHeld = false;  // its "[Turn]" was acted on; what follows are repetitions
+  bool turnSeen = false;  // it has ended a turn of this match
+  bool versionMatches = true;
+  Greeting greeting;
+  Moves moves;
+  std::optional<bool> playerStarts;  // said before the match screen stood
+  int postponed = 0;                 // times that the present message was put off
+};
+
+}  // namespace kv
