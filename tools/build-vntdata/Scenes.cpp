@@ -79,38 +79,6 @@ void Traffic(QPainter& painter, QRectF area, double slope, std::uint64_t seed, i
   }
 }
 
-/// The lights of towns on the night side of a world's horizon.
-void Towns(QPainter& painter, QPointF centre, double radius, std::uint64_t seed) {
-  Chance chance(seed);
-  painter.setPen(Qt::NoPen);
-  for (int i = 0; i < 420; ++i) {
-    const double turn = chance.Between(-0.32, 0.26) + 0.02 * std::floor(chance.Unit() * 4);
-    const double depth = radius * (1 - std::pow(chance.Unit(), 2) * 0.04) - 4;
-    const QPointF at = centre + QPointF(std::sin(turn), -std::cos(turn)) * depth;
-    painter.setBrush(Faint(Mix(kAmber, Qt::white, chance.Unit() * 0.5), chance.Between(0.15, 0.8)));
-    const double size = chance.Between(0.3, 0.9);
-    painter.drawEllipse(at, size * 1.6, size * 0.7);
-  }
-}
-
-/// A world so near that only its upper edge is seen, with its air lit from behind.
-void Horizon(QPainter& painter, QPointF centre, double radius, std::uint64_t seed) {
-  for (int i = 12; i >= 1; --i) {
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(Faint(kSlate.accent, 0.028));
-    painter.drawEllipse(centre, radius + i * 3.2, radius + i * 3.2);
-  }
-  QPainterPath ball;
-  ball.addEllipse(centre, radius, radius);
-  QRadialGradient body(centre, radius);
-  body.setColorAt(0.8, QColor(4, 8, 15));
-  body.setColorAt(0.97, QColor(10, 24, 40));
-  body.setColorAt(1, QColor(60, 140, 190));
-  painter.fillPath(ball, body);
-  Towns(painter, centre, radius, seed);
-  painter.strokePath(ball, QPen(Faint(QColor(170, 226, 255), 0.8), 1.2));
-}
-
 void PaintOrbits(QPainter& painter, QPointF sun) {
   Chance chance(1023);
   for (int i = 0; i < 6; ++i) {  // one for each stop of the circuit
