@@ -77,7 +77,7 @@ void PaintTray(QPainter& painter, QRectF area, const Style& style, QColor lining
   light.setColorAt(0.5, lining);
   light.setColorAt(1, Mix(lining, Qt::black, 0.6));
   painter.fillRect(area, light);
-  Grain(painter, area, seed, style.worn ? 0.09 : 0.05, style.worn ? 2 : 30);
+  Grain(painter, area, seed, style.worn ? 0.08 : 0.05, style.worn ? 3 : 30);
   for (int i = 1; i <= 5; ++i) {  // the rim's shadow
     painter.strokePath(path.translated(1, 1.5), QPen(Faint(Qt::black, 0.2), i * 3));
   }
