@@ -8,13 +8,13 @@
 namespace kv::datafile {
 namespace {
 
-constexpr double kHalfWidth = 24.5;
-constexpr double kHalfLength = 29.5;
+constexpr double kHalfWidth = 25.2;
+constexpr double kHalfLength = 30.3;
 
 Surface Plain(Stuff stuff) {
   switch (stuff) {
     case Stuff::Skin:
-      return {.gloss = 0.13, .sharp = 14, .wrap = 0.42, .rim = 0.85};
+      return {.gloss = 0.15, .sharp = 12, .wrap = 0.3, .rim = 0.9};
     case Stuff::Hide:
       return {.gloss = 0.20, .sharp = 22, .wrap = 0.25, .rim = 0.85};
     case Stuff::Hair:

@@ -7,7 +7,7 @@
 namespace kv::datafile {
 namespace {
 
-constexpr double kEyeWidth = 5.4;
+constexpr double kEyeWidth = 6.1;
 
 struct EyeAt {
   QPointF at;

@@ -150,9 +150,9 @@ void Uniform(QPainter& painter, Sitter& sitter) {
   for (int i = 0; i < 3; ++i)
     Model(painter, sitter, Polygon(throat + QPointF(-30 + i * 6.5, 17), 2.8, 4), gold, Stuff::Metal, 1.5);
   for (const double side : {-1.0, 1.0}) {
-    QPainterPath board(Shoulder(sitter, side) + QPointF(0, -1));
-    board.lineTo(throat + QPointF(side * 24, -1));
-    Model(painter, sitter, Tapered(board, 3, 2), Mix(sitter.cloth, gold, 0.4), Stuff::Cloth, 2);
+    QPainterPath board(Shoulder(sitter, side) + QPointF(-side * 7, -2));
+    board.lineTo(throat + QPointF(side * 23, -1));
+    Model(painter, sitter, Tapered(board, 4.2, 2.6), Mix(sitter.cloth, gold, 0.4), Stuff::Cloth, 2);
   }
 }
 

@@ -6,22 +6,22 @@
 namespace kv::datafile {
 namespace {
 
-const QColor kGold(214, 166, 74);
-const QColor kLeather(74, 50, 34);
+constexpr QColor kGold(214, 166, 74);
+constexpr QColor kLeather(74, 50, 34);
 
 QPainterPath HoodShape(const Sitter& sitter) {
   QPainterPath hood(sitter.Out(-0.1, -1.6));
-  hood.cubicTo(sitter.Out(1.4, -1.4), sitter.Out(1.5, 0.2), sitter.Out(1.75, 1.7));
-  hood.lineTo(sitter.Out(-1.75, 1.7));
+  hood.cubicTo(sitter.Out(1.4, -1.4), sitter.Out(1.5, 0.2), sitter.Out(1.75, 2.6));
+  hood.lineTo(sitter.Out(-1.75, 2.6));
   hood.cubicTo(sitter.Out(-1.5, 0.2), sitter.Out(-1.6, -1.3), sitter.Out(-0.1, -1.6));
   return hood;
 }
 
 void Hood(QPainter& painter, Sitter& sitter) {
   QPainterPath opening(sitter.At(-0.02, -0.98));
-  opening.cubicTo(sitter.At(0.95, -0.92), sitter.Out(1.06, 0.1), sitter.Out(0.78, 1.36));
-  opening.lineTo(sitter.Out(-0.78, 1.36));
-  opening.cubicTo(sitter.Out(-1.06, 0.1), sitter.At(-0.95, -0.92), sitter.At(-0.02, -0.98));
+  opening.cubicTo(sitter.At(0.95, -0.92), sitter.Out(1.08, 0.3), sitter.Out(0.5, 2.8));
+  opening.lineTo(sitter.Out(-0.5, 2.8));
+  opening.cubicTo(sitter.Out(-1.08, 0.3), sitter.At(-0.95, -0.92), sitter.At(-0.02, -0.98));
   Relief cloth(painter, HoodShape(sitter).subtracted(opening), 7);
   QPainterPath folds;
   for (const double side : {-1.0, 1.0}) {
@@ -34,8 +34,8 @@ void Hood(QPainter& painter, Sitter& sitter) {
   cloth.Roughen(static_cast<std::uint64_t>(sitter.spec.number), 0.8, 0.18);
   painter.save();
   painter.setClipPath(opening);
-  for (int i = 1; i <= 5; ++i) {  // the face lies in its shadow
-    painter.strokePath(opening.translated(1, 1.5), QPen(Faint(QColor(6, 3, 8), 0.2), i * 5.0));
+  for (int i = 1; i <= 18; ++i) {  // the face lies in its shadow
+    painter.strokePath(opening.translated(1, 1.5), QPen(Faint(QColor(6, 3, 8), 0.06), i * 1.5));
   }
   painter.restore();
   cloth.Paint(painter, sitter.Of(sitter.cloth, Stuff::Cloth));
@@ -111,7 +111,7 @@ void Visor(QPainter& painter, Sitter& sitter) {
 
 void Helmet(QPainter& painter, Sitter& sitter) {
   QPainterPath shell(sitter.Out(-1.2, 0.62));
-  shell.cubicTo(sitter.Out(-1.4, -1.6), sitter.Out(1.4, -1.6), sitter.Out(1.2, 0.62));
+  shell.cubicTo(sitter.Out(-1.5, -1.9), sitter.Out(1.5, -1.9), sitter.Out(1.2, 0.62));
   shell.lineTo(sitter.At(0.82, 0.5));
   shell.quadTo(sitter.At(0.9, -0.38), sitter.At(0.1, -0.36));
   shell.lineTo(sitter.At(0, -0.1, 0.06));
@@ -119,7 +119,7 @@ void Helmet(QPainter& painter, Sitter& sitter) {
   shell.quadTo(sitter.At(-0.9, -0.38), sitter.At(-0.82, 0.5));
   shell.closeSubpath();
   Relief metal(painter, shell, 9);
-  QPainterPath ridge(sitter.Out(0, -1.2));
+  QPainterPath ridge(sitter.Out(0, -1.4));
   ridge.lineTo(sitter.At(0, -0.3, 0.06));
   metal.Line(ridge, 4, 2.4, 0.7);
   QPainterPath seam(sitter.Out(-1.2, -0.2));

@@ -205,7 +205,7 @@ void PaintBehind(QPainter& painter, Sitter& sitter) {
           furred ? EarRow{{0.66, -0.56}, {1.06, -1.62}, 13} : EarRow{{0.84, 0.16}, {1.86, -0.62}, 8.5});
     case Growth::LongEars:
       return EarsOf(painter, sitter,
-                    furred ? EarRow{{0.4, -0.66}, {0.72, -2.1}, 9} : EarRow{{0.8, -0.2}, {2.1, 0.36}, 11});
+                    furred ? EarRow{{0.4, -0.66}, {0.72, -2.1}, 9} : EarRow{{0.82, 0.22}, {2.05, -0.74}, 11});
     case Growth::Fins:
       return Fins(painter, sitter);
     case Growth::Crest:

@@ -100,7 +100,8 @@ QPainterPath WildMane(Sitter& sitter) {
   constexpr int kTufts = 19;
   for (int i = 0; i <= kTufts; ++i) {
     const double angle = 2.5 + 4.4 * i / kTufts;
-    const double tip = sitter.chance.Between(1.35, 1.75);
+    const bool covered = sitter.spec.gear != Gear::None && std::sin(angle) < -0.3;
+    const double tip = covered ? 1.1 : sitter.chance.Between(1.35, 1.75);
     points << sitter.Out(std::cos(angle - 0.08) * 1.12, std::sin(angle - 0.08) * 1.1)
            << sitter.Out(std::cos(angle) * tip, std::sin(angle) * tip * 0.94);
   }

@@ -32,7 +32,7 @@ void PressNose(Relief& head, Sitter& sitter) {
   const double low = sitter.plan.mouthY - 0.29;
   QPainterPath bridge(sitter.At(0, -0.2, 0.02));
   bridge.quadTo(sitter.At(0, 0.04, 0.08), sitter.At(0, low - 0.04, 0.2));
-  head.Area(Tapered(bridge, 1.4, 2.4 + 2 * broad), 2.6, 1.1);
+  head.Area(Tapered(bridge, 1.5, 2.6 + 3 * broad), 3.0, 1.0);
   head.Bump(sitter.At(0, low - 0.02, 0.21), sitter.halfWidth * (0.09 + 0.4 * broad),
             sitter.halfLength * 0.085, 3.1);
   for (const double side : {-1.0, 1.0}) {
@@ -48,37 +48,56 @@ void PressNose(Relief& head, Sitter& sitter) {
   }
 }
 
-/// Sockets, brow, cheeks, chin; and a fold beside a mouth that laughs.
+void PressSocket(Relief& head, Sitter& sitter, double side) {
+  const FacePlan& plan = sitter.plan;
+  const double w = sitter.halfWidth * plan.eyeSize;
+  const double h = sitter.halfLength * plan.eyeSize;
+  const double lift = side < 0 ? sitter.mood.liftLeft : sitter.mood.liftRight;
+  head.Bump(sitter.At(side * plan.eyeX, plan.eyeY), w * 0.27, h * 0.15, -3);
+  head.Bump(sitter.At(side * plan.eyeX, plan.eyeY), w * 0.17, h * 0.1, 1.5);  // the ball under the lids
+  QPainterPath brow(sitter.At(side * (plan.eyeX - 0.28), plan.eyeY - 0.17 + 0.14 * sitter.mood.frown));
+  brow.quadTo(sitter.At(side * plan.eyeX, plan.eyeY - 0.27 - 0.1 * lift),
+              sitter.At(side * (plan.eyeX + 0.3), plan.eyeY - 0.13));
+  const bool flesh = sitter.spec.kind != Kind::Insect;
+  head.Line(brow, 3.4, flesh ? 1.2 + 0.7 * sitter.spec.jaw : 0.6, 1.2);
+}
+
+/// Cheekbone, the hollow below it, and the folds that a mouth draws.
+void PressCheek(Relief& head, Sitter& sitter, double side) {
+  const double w = sitter.halfWidth;
+  const double h = sitter.halfLength;
+  const double smile = std::max(0.0, sitter.mood.bend);
+  head.Bump(sitter.At(side * 0.6, 0.2 - 0.5 * smile), w * 0.26, h * 0.13, 1.7 + 5 * smile);
+  head.Bump(sitter.At(side * 0.66, 0.56), w * 0.2, h * 0.18, -2 * (1 - 4 * smile));
+  if (!HasNose(sitter.spec)) return;
+  const double y = sitter.plan.mouthY;
+  QPainterPath fold(sitter.At(side * 0.24, y - 0.26, 0.06));
+  fold.quadTo(sitter.At(side * 0.44, y - 0.14), sitter.At(side * (0.44 + 0.4 * smile), y + 0.06));
+  head.Line(fold, 1.2, smile > 0.05 ? -1.1 : -0.8 * sitter.spec.jaw, 0.6);
+  QPainterPath bag(sitter.At(side * (sitter.plan.eyeX - 0.2), sitter.plan.eyeY + 0.15));
+  bag.quadTo(sitter.At(side * sitter.plan.eyeX, sitter.plan.eyeY + 0.23),
+             sitter.At(side * (sitter.plan.eyeX + 0.2), sitter.plan.eyeY + 0.13));
+  head.Line(bag, 1, -0.7, 0.5);
+}
+
 void PressPlanes(Relief& head, Sitter& sitter) {
   const double w = sitter.halfWidth;
   const double h = sitter.halfLength;
-  const FacePlan& plan = sitter.plan;
-  const bool flesh = sitter.spec.kind != Kind::Insect;
   for (const double side : {-1.0, 1.0}) {
-    const double lift = side < 0 ? sitter.mood.liftLeft : sitter.mood.liftRight;
-    head.Bump(sitter.At(side * plan.eyeX, plan.eyeY), w * 0.24 * plan.eyeSize, h * 0.13 * plan.eyeSize, -2.3);
-    QPainterPath brow(sitter.At(side * (plan.eyeX - 0.26), plan.eyeY - 0.17 + 0.14 * sitter.mood.frown));
-    brow.quadTo(sitter.At(side * plan.eyeX, plan.eyeY - 0.26 - 0.1 * lift),
-                sitter.At(side * (plan.eyeX + 0.26), plan.eyeY - 0.15));
-    head.Line(brow, 3.4, flesh ? 1.4 : 0.6, 1.2);
-    if (!flesh) continue;
-    const double smile = std::max(0.0, sitter.mood.bend);
-    head.Bump(sitter.At(side * 0.56, 0.24 - 0.5 * smile), w * 0.24, h * 0.15, 1.3 + 9 * smile);
-    if (smile < 0.06 || !HasNose(sitter.spec)) continue;
-    QPainterPath fold(sitter.At(side * 0.25, plan.mouthY - 0.25, 0.06));
-    fold.quadTo(sitter.At(side * 0.46, plan.mouthY - 0.16), sitter.At(side * 0.5, plan.mouthY + 0.04));
-    head.Line(fold, 1.1, -0.9, 0.6);
+    PressSocket(head, sitter, side);
+    if (sitter.spec.kind != Kind::Insect) PressCheek(head, sitter, side);
   }
   if (sitter.mood.frown > 0.2) {
     QPainterPath creases;
     for (const double side : {-1.0, 1.0}) {
-      creases.moveTo(sitter.At(side * 0.07, plan.eyeY - 0.3));
-      creases.lineTo(sitter.At(side * 0.09, plan.eyeY - 0.12));
+      creases.moveTo(sitter.At(side * 0.07, sitter.plan.eyeY - 0.3));
+      creases.lineTo(sitter.At(side * 0.09, sitter.plan.eyeY - 0.12));
     }
     head.Line(creases, 1, -1.1, 0.4);
   }
-  head.Bump(sitter.At(0, 0.88), w * 0.24, h * 0.1, 1.5);
-  head.Bump(sitter.At(-0.1, -0.55), w * 0.5, h * 0.22, 1.2);
+  head.Bump(sitter.At(0, 0.88), w * 0.22, h * 0.1, 2);
+  for (const double side : {-1.0, 1.0}) head.Bump(sitter.At(side * 0.32, -0.55), w * 0.34, h * 0.2, 1);
+  head.Bump(sitter.At(0, sitter.plan.mouthY - 0.15, 0.12), w * 0.05, h * 0.06, -0.9);  // under the nose
 }
 
 void TintFlesh(Relief& head, Sitter& sitter) {
@@ -135,7 +154,7 @@ void Texture(Relief& head, Sitter& sitter) {
       head.Roughen(seed, 1.6, 0.35);
       break;
     case Kind::Human:
-      head.Roughen(seed, 0.9, 0.06);
+      head.Roughen(seed, 0.9, 0.11);
       break;
     default:
       head.Roughen(seed, 2.2, 0.12);

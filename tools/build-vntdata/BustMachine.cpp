@@ -123,11 +123,14 @@ void PaintDisplay(QPainter& painter, Sitter& sitter) {
 
 /// The lamp under its shade, and the arm that holds it.
 void PaintBulb(QPainter& painter, Sitter& sitter) {
-  const QPointF at = sitter.At(0, 0.44, 0.04);
+  const QPointF at = sitter.At(0, 0.42, 0.04);
+  QPainterPath ring;
+  ring.addEllipse(at, sitter.halfWidth * 0.86, sitter.halfLength * 0.34);
+  Model(painter, sitter, ring, Mix(sitter.skin, Qt::black, 0.4), Stuff::Metal, 3);
   QPainterPath bulb;
-  bulb.addEllipse(at, sitter.halfWidth * 0.8, sitter.halfLength * 0.26);
+  bulb.addEllipse(at, sitter.halfWidth * 0.7, sitter.halfLength * 0.27);
   painter.fillPath(bulb, QColor(20, 22, 26));
-  Spot(painter, at, sitter.halfWidth * 1.9, sitter.eye, 0.55);
+  Spot(painter, at, sitter.halfWidth * 1.9, sitter.eye, 0.4);
   painter.save();
   painter.setClipPath(bulb);
   Spot(painter, at, sitter.halfWidth * 0.8, sitter.eye, 1);
@@ -135,7 +138,10 @@ void PaintBulb(QPainter& painter, Sitter& sitter) {
   painter.restore();
   QPainterPath lid(sitter.At(-0.74, 0.4, 0.04));
   lid.quadTo(sitter.At(0, 0.12, 0.04), sitter.At(0.74, 0.4, 0.04));
-  painter.strokePath(lid, QPen(Mix(sitter.skin, Qt::black, 0.75), 2.2, Qt::SolidLine, Qt::RoundCap));
+  lid.lineTo(sitter.At(0.8, 0.3, 0.04));
+  lid.quadTo(sitter.At(0, 0.0, 0.04), sitter.At(-0.8, 0.3, 0.04));
+  lid.closeSubpath();
+  Model(painter, sitter, lid, Mix(sitter.skin, Qt::black, 0.2), Stuff::Metal, 3);
 }
 
 /// What a turret looks through, and the short tube under it.

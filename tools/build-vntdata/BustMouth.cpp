@@ -29,6 +29,17 @@ QPainterPath Arc(QPointF from, QPointF through, QPointF to) {
   return path;
 }
 
+/// The lower lip of an open mouth: round, not pointed.
+QPainterPath Bowed(const Lips& lips) {
+  const auto low = [&](QPointF corner, double share) {
+    return QPointF(corner.x() + (lips.under.x() - corner.x()) * share,
+                   corner.y() + (lips.under.y() - corner.y()) * 1.33);
+  };
+  QPainterPath path(lips.left);
+  path.cubicTo(low(lips.left, 0.24), low(lips.right, 0.24), lips.right);
+  return path;
+}
+
 bool HasLips(Mouth mouth) {
   return mouth == Mouth::Lips || mouth == Mouth::Fangs || mouth == Mouth::Tusks || mouth == Mouth::Wide;
 }
@@ -36,7 +47,7 @@ bool HasLips(Mouth mouth) {
 void PaintOpenMouth(QPainter& painter, Sitter& sitter, const Lips& lips) {
   const QPainterPath upper = Arc(lips.left, lips.middle, lips.right);
   QPainterPath hole = upper;
-  hole.quadTo(lips.under * 2 - (lips.left + lips.right) / 2, lips.left);
+  hole.connectPath(Bowed(lips).toReversed());
   painter.save();
   painter.setClipPath(hole);
   painter.fillPath(hole, QColor(44, 10, 16));
@@ -68,24 +79,27 @@ void PaintFangs(QPainter& painter, Sitter& sitter, const Lips& lips) {
   }
 }
 
+/// A hooked beak, seen from the side to which the head is turned.
 void PaintBeak(QPainter& painter, Sitter& sitter) {
   const double y = sitter.plan.eyeY;
-  const QPointF tip = sitter.At(0, y + 0.92, 0.62);
-  QPainterPath lower(sitter.At(-0.24, y + 0.56, 0.1));
-  lower.quadTo(sitter.At(0, y + 1.02, 0.3), tip + QPointF(-sitter.spec.turn * 5, -1));
-  lower.quadTo(sitter.At(0.2, y + 0.7, 0.2), sitter.At(0.24, y + 0.5, 0.1));
+  const double s = sitter.spec.turn < 0 ? -1 : 1;
+  const QPointF tip = sitter.At(0, y + 0.66, 1.0);
+  QPainterPath lower(sitter.At(-s * 0.2, y + 0.42));
+  lower.cubicTo(sitter.At(0, y + 0.74, 0.1), sitter.At(0, y + 0.74, 0.6), sitter.At(0, y + 0.62, 0.86));
+  lower.lineTo(sitter.At(0, y + 0.36, 0.3));
   lower.closeSubpath();
-  Model(painter, sitter, lower, Mix(sitter.hair, Qt::black, 0.4), Stuff::Bone);
-  QPainterPath upper(sitter.At(-0.34, y + 0.42));
-  upper.cubicTo(sitter.At(-0.36, y + 0.05), sitter.At(0.36, y + 0.05), sitter.At(0.34, y + 0.42));
-  upper.cubicTo(sitter.At(0.34, y + 0.62, 0.3), sitter.At(0.2, y + 0.74, 0.6), tip);
-  upper.cubicTo(sitter.At(-0.12, y + 0.72, 0.5), sitter.At(-0.3, y + 0.66, 0.2), sitter.At(-0.34, y + 0.42));
-  Relief beak(painter, upper, 7);
-  QPainterPath gape(sitter.At(-0.34, y + 0.44));
-  gape.quadTo(sitter.At(0, y + 0.66, 0.4), sitter.At(0.33, y + 0.4));
-  beak.Line(gape, 0.9, -1, 0.3);
-  for (const double x : {-0.12, 0.12}) beak.Bump(sitter.At(x, y + 0.3, 0.14), 1.2, 0.7, -2);
-  beak.Pigment([&](QPainter& map) { Spot(map, tip, 12, Mix(sitter.hair, Qt::black, 0.7), 0.7); });
+  Model(painter, sitter, lower, Mix(sitter.hair, Qt::black, 0.35), Stuff::Bone);
+  QPainterPath upper(sitter.At(-s * 0.34, y + 0.36));
+  upper.cubicTo(sitter.At(-s * 0.3, y + 0.02), sitter.At(s * 0.1, y - 0.1),
+                sitter.At(s * 0.14, y - 0.02, 0.12));
+  upper.cubicTo(sitter.At(s * 0.1, y + 0.04, 0.7), sitter.At(0, y + 0.2, 1.06), tip);
+  upper.cubicTo(sitter.At(0, y + 0.44, 0.8), sitter.At(0, y + 0.6, 0.3), sitter.At(-s * 0.34, y + 0.36));
+  Relief beak(painter, upper, 8);
+  beak.Bump(sitter.At(0, y + 0.2, 0.28), 1.6, 0.9, -2.4);
+  beak.Pigment([&](QPainter& map) {
+    Spot(map, tip, 14, Mix(sitter.hair, Qt::black, 0.7), 0.8);
+    Spot(map, sitter.At(0, y + 0.1, 0.1), 10, Mix(sitter.hair, Qt::white, 0.4), 0.5);
+  });
   beak.Cast(painter, 2.4, 0.5);
   beak.Paint(painter, sitter.Of(sitter.hair, Stuff::Bone));
 }
@@ -169,15 +183,17 @@ void PressMouth(Relief& head, Sitter& sitter) {
   const bool human = sitter.spec.kind == Kind::Human;
   const double full = human ? 1 : 0.55;
   const QPainterPath line = Arc(lips.left, lips.middle, lips.right);
-  const QPainterPath below = Arc(lips.left, lips.under + QPointF(0, 1.6), lips.right);
+  const QPainterPath below = sitter.mood.gape > 0 ? Bowed(lips).translated(0, 1.1)
+                                                  : Arc(lips.left, lips.under + QPointF(0, 1.6), lips.right);
   const QColor lip = Mix(sitter.skin, human ? QColor(150, 44, 52) : Mix(sitter.hair, Qt::black, 0.3), 0.42);
   head.Pigment([&](QPainter& map) {
-    QPainterPath both = Arc(lips.left, lips.middle - QPointF(0, 1.7), lips.right);
-    both.connectPath(Arc(lips.right, lips.under + QPointF(0, 2.8), lips.left));
+    QPainterPath both = Arc(lips.left, lips.middle - QPointF(0, 2.1), lips.right);
+    both.connectPath(sitter.mood.gape > 0 ? Bowed(lips).translated(0, 2.2).toReversed()
+                                          : Arc(lips.right, lips.under + QPointF(0, 3.5), lips.left));
     map.fillPath(both, Faint(lip, human ? 0.75 : 0.4));
   });
-  head.Line(line.translated(0, -1.2), 1.6, 0.8 * full, 0.5);
-  head.Line(below, 2.2, 1.5 * full, 0.6);
+  head.Line(line.translated(0, -1.4), 2, 1.1 * full, 0.5);
+  head.Line(below, 2.8, 1.7 * full, 0.6);
   head.Bump(lips.under + QPointF(0, 5.4), sitter.halfWidth * 0.22, 1.6, -1.3);
   head.Line(line, 0.9, -2.2, 0.3);
   for (const QPointF& corner : {lips.left, lips.right}) head.Bump(corner, 1.5, 1.3, -1.5);

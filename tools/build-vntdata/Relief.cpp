@@ -92,6 +92,7 @@ Relief::Relief(const QPainter& painter, const QPainterPath& path, double round)
   mask_ = height_;
   height_ = Inflate(mask_, std::max(0.5, round * scale_));
   for (float& value : height_.values) value = std::sqrt(3 * value);
+  Soften(height_, 1);  // the border follows cells; it shall not show
   pigment_ = QImage(area.size(), QImage::Format_ARGB32_Premultiplied);
   pigment_.fill(Qt::transparent);
 }

@@ -60,11 +60,11 @@ Lamp LampOn(const Vector& normal, double open, const Surface& surface) {
   const double lit = std::max(0.0, face);
   const double sky = 0.5 - 0.5 * normal.y;
   Lamp lamp{};
-  lamp.body = (1.08 * lit + 0.05 + 0.10 * sky) * open;
+  lamp.body = (1.18 * lit + 0.03 + 0.07 * sky) * open;
   if (surface.metal > 0) lamp.body += surface.metal * (Mirrored(normal) * open - 0.55 * lamp.body);
   lamp.shine = surface.gloss * std::pow(std::max(0.0, normal.Dot(kHalfway)), surface.sharp) * open;
   const double edge = std::max(0.0, normal.Dot(kBehind));
-  lamp.behind = surface.rim * edge * edge * (1 - normal.z) * 1.5;
+  lamp.behind = surface.rim * edge * edge * (1 - normal.z) * 2.6;
   lamp.turn = std::max(0.0, 1 - std::abs(face - 0.12) / 0.3);
   return lamp;
 }
