@@ -1,9 +1,8 @@
 // The built-in portraits: a bust in a dim room, lit from the upper left, on a square of 112 by 112.
 #pragma once
 
-#include <QPainterPath>
-
 #include "Brush.h"
+#include "BustPaths.h"
 #include "BustSpec.h"
 #include "Relief.h"
 
@@ -74,15 +73,6 @@ struct Sitter {
   [[nodiscard]] QPainterPath HeadPath() const;
   [[nodiscard]] Surface Of(QColor colour, Stuff stuff) const;
 };
-
-/// A closed curve through points.
-[[nodiscard]] QPainterPath SmoothThrough(const QPolygonF& points);
-/// The same shape with a border of tufts.
-[[nodiscard]] QPainterPath Ragged(const QPainterPath& path, Chance& chance, double length);
-/// A leaf from a root to a tip.
-[[nodiscard]] QPainterPath Petal(QPointF root, QPointF tip, double breadth);
-/// A limb along a line that gets thinner from `from` to `to`.
-[[nodiscard]] QPainterPath Tapered(const QPainterPath& line, double from, double to);
 
 /// Fills a shape as a solid thing that casts a shadow on what is already painted.
 void Model(QPainter& painter, const Sitter& sitter, const QPainterPath& path, QColor colour,

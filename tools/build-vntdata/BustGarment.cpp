@@ -49,6 +49,11 @@ void Lapels(QPainter& painter, const Sitter& sitter, QColor colour, double sprea
     lapel.lineTo(throat + QPointF(0, 14));
     lapel.closeSubpath();
     Model(painter, sitter, lapel, colour, Stuff::Cloth, 2.5);
+    QPainterPath stitches(throat + QPointF(side * (neck + 5), -4));
+    stitches.quadTo(throat + QPointF(side * (neck + 7), 2), throat + QPointF(side * (spread - 3), 11.4));
+    painter.strokePath(stitches, QPen(Faint(Mix(colour, Qt::white, 0.45), 0.55), 0.5, Qt::DashLine));
+    const QPointF pin = throat + QPointF(side * (spread - 10), 4);
+    if (side > 0) Model(painter, sitter, Polygon(pin, 1.9, 4), sitter.eye.lighter(130), Stuff::Glass, 1);
   }
 }
 

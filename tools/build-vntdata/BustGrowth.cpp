@@ -215,7 +215,7 @@ void PaintBehind(QPainter& painter, Sitter& sitter) {
     case Growth::Spines:
       return Fan(painter, sitter, 13, 98, 1.6, 2.6);
     case Growth::Plumes:
-      return Fan(painter, sitter, 7, 50, 1.8, 5.5);
+      return Fan(painter, sitter, 7, 52, 1.66, 5.5);
     case Growth::Mane:
       return Mane(painter, sitter);
     case Growth::Tendrils:

@@ -137,6 +137,23 @@ void PaintEars(QPainter& painter, Sitter& sitter) {
   }
 }
 
+/// Hair by hair, away from the nose.
+void PressFur(Relief& head, Sitter& sitter) {
+  const QPointF from = sitter.At(0, 0.25, 0.2);
+  QPainterPath hairs;
+  for (int i = 0; i < 900; ++i) {
+    const QPointF root = sitter.Out(sitter.chance.Between(-1.2, 1.2), sitter.chance.Between(-1, 1));
+    const QPointF away = root - from;
+    const double length = std::max(1.0, std::hypot(away.x(), away.y()));
+    hairs.moveTo(root);
+    hairs.lineTo(root + away / length * 2.6 + QPointF(sitter.chance.Between(-0.6, 0.6), 0.8));
+  }
+  head.Line(hairs, 0.5, 0.9, 0.2);
+  head.Pigment([&](QPainter& map) {
+    map.strokePath(hairs, QPen(Faint(Mix(sitter.skin, Qt::white, 0.35), 0.22), 0.4));
+  });
+}
+
 void Texture(Relief& head, Sitter& sitter) {
   const auto seed = static_cast<std::uint64_t>(sitter.spec.number) + 500;
   switch (sitter.spec.kind) {
@@ -148,7 +165,8 @@ void Texture(Relief& head, Sitter& sitter) {
       head.Roughen(seed, 2.4, 0.2);
       break;
     case Kind::Furred:
-      head.Roughen(seed, 0.9, 0.5);
+      head.Roughen(seed, 2.2, 0.3);
+      PressFur(head, sitter);
       break;
     case Kind::Reptile:
       head.Roughen(seed, 1.6, 0.35);
