@@ -183,7 +183,7 @@ void PaintEyes(QPainter& painter, Sitter& sitter) {
   const Shape shape = sitter.spec.shape;
   if (sitter.spec.growth == Growth::Stalks) return;  // they sit on the stalks
   if (sitter.spec.eyes == Eyes::One)
-    return PaintBallEye(painter, sitter, EyeOf(sitter, -0.001, 0, plan.eyeY, plan.eyeSize * 1.7));
+    return PaintBallEye(painter, sitter, EyeOf(sitter, -1, 0, plan.eyeY, plan.eyeSize * 1.7));
   for (const double side : {-1.0, 1.0}) {
     const EyeAt eye = EyeOf(sitter, side, plan.eyeX, plan.eyeY, plan.eyeSize);
     if (sitter.spec.eyes == Eyes::Facets) {

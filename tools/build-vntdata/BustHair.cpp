@@ -156,7 +156,7 @@ void PaintHairBehind(QPainter& painter, Sitter& sitter) {
   if (style == Hair::Wild) PaintLocks(painter, sitter, WildMane(sitter), sitter.Out(0, -0.3), 130, 8);
   if (style == Hair::Bun) {
     QPainterPath bun;
-    bun.addEllipse(sitter.Out(0.12 - 0.4 * sitter.spec.turn, -1.3), sitter.halfWidth * 0.5,
+    bun.addEllipse(sitter.Out(0.12 - 0.4 * sitter.spec.turn, -1.22), sitter.halfWidth * 0.5,
                    sitter.halfLength * 0.36);
     PaintLocks(painter, sitter, bun, sitter.Out(0, -1.1), 40, 8);
   }

@@ -73,7 +73,7 @@ void PressCheek(Relief& head, Sitter& sitter, double side) {
   const double y = sitter.plan.mouthY;
   QPainterPath fold(sitter.At(side * 0.24, y - 0.26, 0.06));
   fold.quadTo(sitter.At(side * 0.44, y - 0.14), sitter.At(side * (0.44 + 0.4 * smile), y + 0.06));
-  head.Line(fold, 1.2, smile > 0.05 ? -1.1 : -0.8 * sitter.spec.jaw, 0.6);
+  head.Line(fold, 1.2, smile > 0.05 ? -0.7 : -0.8 * sitter.spec.jaw, 0.6);
   QPainterPath bag(sitter.At(side * (sitter.plan.eyeX - 0.2), sitter.plan.eyeY + 0.15));
   bag.quadTo(sitter.At(side * sitter.plan.eyeX, sitter.plan.eyeY + 0.23),
              sitter.At(side * (sitter.plan.eyeX + 0.2), sitter.plan.eyeY + 0.13));

@@ -16,7 +16,7 @@ struct Lips {
 
 Lips LipsOf(const Sitter& sitter) {
   const bool wide = sitter.spec.mouth == Mouth::Wide;
-  const double half = (wide ? 0.66 : 0.31 + 0.1 * sitter.spec.jaw) + 0.35 * std::max(0.0, sitter.mood.bend);
+  const double half = (wide ? 0.66 : 0.31 + 0.1 * sitter.spec.jaw) + 0.22 * std::max(0.0, sitter.mood.bend);
   const double y = sitter.plan.mouthY;
   const Expression& mood = sitter.mood;
   return {sitter.At(-half, y - mood.bend, 0.04), sitter.At(half, y - mood.bend - mood.skew, 0.04),

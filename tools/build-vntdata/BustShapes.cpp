@@ -203,7 +203,7 @@ struct BuildRow {
   Frame frame;
 };
 constexpr BuildRow kBuilds[] = {
-    {Build::Usual, {{56, 50}, 0.52, 44, 86, 14, 0}}, {Build::Slim, {{57, 47}, 0.38, 33, 87, 20, 0}},
+    {Build::Usual, {{56, 50}, 0.52, 44, 86, 14, 0}}, {Build::Slim, {{57, 49}, 0.38, 33, 87, 20, 0}},
     {Build::Broad, {{56, 55}, 0.78, 58, 80, 8, 0}},  {Build::Hunched, {{49, 62}, 0.66, 56, 72, 16, -8}},
     {Build::Tall, {{57, 44}, 0.4, 40, 92, 18, 0}},   {Build::Stout, {{56, 55}, 0.92, 52, 84, 20, 0}},
     {Build::Low, {{55, 66}, 0.5, 40, 100, 12, 0}},   {Build::Leaning, {{62, 51}, 0.54, 46, 86, 12, 10}},

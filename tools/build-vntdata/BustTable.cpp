@@ -105,7 +105,7 @@ constexpr BustSpec kBusts[] = {
     {36, Kind::Human, Shape::Heart, Build::Tall, Place::Window, 0xff784c30, 0xff344c7c, 0xff241810, 0xff24587c, 0xff3c2818,
      0.94, 1.02, 0.32, -6, -0.55, -0.40, Hair::Long, Gear::Circlet, Growth::None,
      Eyes::Plain, Mood::Proud, Mouth::Lips, Garment::Gown, Mark::None},
-    {37, Kind::Furred, Shape::Cat, Build::Broad, Place::Bar, 0xff604838, 0xff6c2c20, 0xff302018, 0xff804c34, 0xfff0d040,
+    {37, Kind::Furred, Shape::Cat, Build::Broad, Place::Bar, 0xff604838, 0xff6c2c20, 0xff8c4c24, 0xff804c34, 0xfff0d040,
      1.08, 0.94, 0.80, 4, -0.40, 0.40, Hair::None, Gear::None, Growth::Mane,
      Eyes::Plain, Mood::Sneer, Mouth::Muzzle, Garment::Straps, Mark::None},
     {38, Kind::Avian, Shape::Bird, Build::Usual, Place::Haze, 0xff3c4c60, 0xff343028, 0xff80a0c0, 0xff304858, 0xfff0f0f0,

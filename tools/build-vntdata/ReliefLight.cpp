@@ -55,7 +55,8 @@ struct Lamp {
   double turn;  // 1 where light gives way to shade
 };
 
-Lamp LampOn(const Vector& normal, double open, const Surface& surface) {
+/// `border` is 1 where the shape ends: only there does the light from behind get round it.
+Lamp LampOn(const Vector& normal, double open, double border, const Surface& surface) {
   const double face = (normal.Dot(kKey) + surface.wrap) / (1 + surface.wrap);
   const double lit = std::max(0.0, face);
   const double sky = 0.5 - 0.5 * normal.y;
@@ -64,7 +65,7 @@ Lamp LampOn(const Vector& normal, double open, const Surface& surface) {
   if (surface.metal > 0) lamp.body += surface.metal * (Mirrored(normal) * open - 0.55 * lamp.body);
   lamp.shine = surface.gloss * std::pow(std::max(0.0, normal.Dot(kHalfway)), surface.sharp) * open;
   const double edge = std::max(0.0, normal.Dot(kBehind));
-  lamp.behind = surface.rim * edge * edge * (1 - normal.z) * 2.6;
+  lamp.behind = surface.rim * border * edge * edge * (1 - normal.z) * 2.6;
   lamp.turn = std::max(0.0, 1 - std::abs(face - 0.12) / 0.3);
   return lamp;
 }
@@ -80,11 +81,22 @@ Field Openness(const Field& height, double scale) {
   return open;
 }
 
+/// One at the shape's border, none further in than the light from behind reaches.
+Field Border(const Field& mask, double scale) {
+  constexpr double kReach = 1.7;  // layout pixels
+  Field border = mask;
+  Soften(border, static_cast<int>(std::lround(kReach * scale)));
+  for (float& value : border.values) value = std::clamp((1 - value) * 2.4F, 0.0F, 1.0F);
+  return border;
+}
+
 }  // namespace
 
 void Relief::Paint(QPainter& painter, const Surface& surface) const {
   if (Empty()) return;
   const Field open = Openness(height_, scale_);
+  const Field border = Border(mask_, scale_);
+  const QImage stains = pigment_.convertToFormat(QImage::Format_ARGB32);
   const Light room = Linear(Mix(surface.room, Qt::white, 0.35));
   QImage image(mask_.width, mask_.height, QImage::Format_ARGB32);
   for (int y = 0; y < mask_.height; ++y) {
@@ -92,10 +104,9 @@ void Relief::Paint(QPainter& painter, const Surface& surface) const {
     for (int x = 0; x < mask_.width; ++x) {
       line[x] = 0;
       if (mask_.At(x, y) <= 0) continue;
-      const QColor stain = pigment_.pixelColor(x, y);
-      const Light own =
-          Linear(Mix(surface.colour, QColor(stain.red(), stain.green(), stain.blue()), stain.alphaF()));
-      const Lamp lamp = LampOn(NormalAt(height_, x, y), open.At(x, y), surface);
+      const QRgb stain = reinterpret_cast<const QRgb*>(stains.constScanLine(y))[x];
+      const Light own = Linear(Mix(surface.colour, QColor::fromRgb(stain), qAlpha(stain) / 255.0));
+      const Lamp lamp = LampOn(NormalAt(height_, x, y), open.At(x, y), border.At(x, y), surface);
       const double warmth = surface.metal > 0 ? 0 : 0.1 * lamp.turn;  // blood in the half shade
       const auto channel = [&](int i) {
         const double tint = i == 0 ? 1 + warmth * 1.6 : 1 - warmth * 0.4;
