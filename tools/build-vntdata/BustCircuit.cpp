@@ -148,10 +148,28 @@ void PaintHeavyweight(QPainter& painter, Sitter& sitter) {
   painter.strokePath(ember, QPen(Faint(QColor(255, 190, 90), 0.6), 0.7));
 }
 
+/// White fur with black tips over the shoulders, open where the chain hangs.
+void PaintMantle(QPainter& painter, Sitter& sitter) {
+  for (const double side : {1.0, -1.0}) {
+    QPainterPath fall(QPointF(56 + side * 26, 84));
+    fall.cubicTo(QPointF(56 + side * 40, 90), QPointF(56 + side * 36, 104), QPointF(56 + side * 33, 124));
+    Relief fur(painter, Ragged(Tapered(fall, 9, 13), sitter.chance, 3), 6);
+    fur.Roughen(static_cast<std::uint64_t>(20 + side), 1.3, 0.7);
+    fur.Pigment([&](QPainter& map) {
+      for (int i = 0; i < 5; ++i) {
+        const QPointF spot = fall.pointAtPercent(0.15 + 0.18 * i) + QPointF(i % 2 == 0 ? 4 : -4, 0);
+        map.fillPath(Petal(spot, spot + QPointF(0, 5), 1.6), QColor(24, 22, 28));
+      }
+    });
+    fur.Cast(painter, 3, 0.5);
+    fur.Paint(painter, sitter.Of(QColor(236, 232, 224), Stuff::Hair));
+  }
+}
+
 /// Points of gold above the circlet, and a short silver beard.
 void PaintChampion(QPainter& painter, Sitter& sitter) {
   for (const double x : {-0.66, -0.34, 0.34, 0.66}) {
-    const QPointF root = sitter.At(x, -0.5 - 0.12 * (1 - std::abs(x)), 0.02);
+    const QPointF root = sitter.At(x, -0.42 - 0.12 * (1 - std::abs(x)), 0.02);
     Model(painter, sitter, Petal(root, root + QPointF(x * 5, -10 + 5 * std::abs(x)), 2.6), kGold,
           Stuff::Metal, 1.6);
   }
@@ -264,11 +282,13 @@ void PaintBodyProps(QPainter& painter, Sitter& sitter) {
   round.cubicTo(QPointF(34, 112), QPointF(78, 112), QPointF(86, 88));
   if (sitter.spec.number == kHeavyweight) PaintChain(painter, sitter, round, 4.4);
   if (sitter.spec.number == kChampion) {
+    PaintMantle(painter, sitter);
     PaintChain(painter, sitter, round, 2.4);
     QPainterPath medal;
     medal.addEllipse(QPointF(56, 107), 7, 7);
     Relief disc(painter, medal, 1.6);
     disc.Area(Emblem({56, 107}, 5), 1.1, 0.25);
+    disc.Pigment([&](QPainter& map) { map.fillPath(Emblem({56, 107}, 5), QColor(120, 70, 20)); });
     disc.Cast(painter, 2, 0.5);
     disc.Paint(painter, sitter.Of(kGold, Stuff::Metal));
   }

@@ -42,7 +42,7 @@ void PressNose(Relief& head, Sitter& sitter) {
     head.Bump(hole, 1.1, 0.6, -1.5);
     head.Pigment([&](QPainter& map) {
       map.setPen(Qt::NoPen);
-      map.setBrush(Faint(Mix(sitter.skin, QColor(30, 6, 6), 0.85), 0.7));
+      map.setBrush(Faint(Mix(sitter.skin, QColor(30, 6, 6), 0.8), 0.55));
       map.drawEllipse(hole, 1.15, 0.65);
     });
   }
@@ -97,7 +97,7 @@ void PressPlanes(Relief& head, Sitter& sitter) {
   }
   head.Bump(sitter.At(0, 0.88), w * 0.22, h * 0.1, 2);
   for (const double side : {-1.0, 1.0}) head.Bump(sitter.At(side * 0.32, -0.55), w * 0.34, h * 0.2, 1);
-  head.Bump(sitter.At(0, sitter.plan.mouthY - 0.15, 0.12), w * 0.05, h * 0.06, -0.9);  // under the nose
+  head.Bump(sitter.At(0, sitter.plan.mouthY - 0.15, 0.12), w * 0.05, h * 0.06, -0.5);  // under the nose
 }
 
 void TintFlesh(Relief& head, Sitter& sitter) {

@@ -61,7 +61,7 @@ Lamp LampOn(const Vector& normal, double open, double border, const Surface& sur
   const double lit = std::max(0.0, face);
   const double sky = 0.5 - 0.5 * normal.y;
   Lamp lamp{};
-  lamp.body = (1.18 * lit + 0.03 + 0.07 * sky) * open;
+  lamp.body = (1.27 * lit + 0.03 + 0.07 * sky) * open;
   if (surface.metal > 0) lamp.body += surface.metal * (Mirrored(normal) * open - 0.55 * lamp.body);
   lamp.shine = surface.gloss * std::pow(std::max(0.0, normal.Dot(kHalfway)), surface.sharp) * open;
   const double edge = std::max(0.0, normal.Dot(kBehind));
