@@ -2,66 +2,11 @@
 
 #include <cmath>
 
+#include "BustProps.h"
 #include "Lettering.h"
 
 namespace kv::datafile {
 namespace {
-
-constexpr QColor kGold(222, 174, 80);
-constexpr QColor kPaper(236, 228, 206);
-
-/// What stands on a small card: a bar, a cross, a split lozenge or a star.
-void PaintSign(QPainter& map, QPointF at, int sign, QColor colour) {
-  const QPen pen(colour, 1.5, Qt::SolidLine, Qt::FlatCap);
-  map.setPen(pen);
-  if (sign < 2) map.drawLine(at - QPointF(2.6, 0), at + QPointF(2.6, 0));
-  if (sign == 0) map.drawLine(at - QPointF(0, 2.6), at + QPointF(0, 2.6));
-  if (sign == 2) {
-    map.strokePath(Polygon(at, 3, 4), QPen(colour, 0.8));
-    QPainterPath half(at + QPointF(-3, 0));
-    half.lineTo(at + QPointF(0, -3));
-    half.lineTo(at + QPointF(3, 0));
-    map.fillPath(half, colour);
-  }
-  if (sign == 3) map.fillPath(Emblem(at, 3), colour);
-}
-
-void PaintCard(QPainter& painter, Sitter& sitter, QPointF at, double angle, int sign) {
-  constexpr QColor kSigns[] = {{40, 96, 190}, {184, 44, 40}, {46, 128, 66}, {170, 120, 20}};
-  painter.save();
-  painter.translate(at);
-  painter.rotate(angle);
-  Relief card(painter, Cornered(QRectF(-6, -8.5, 12, 17), 1.6, true), 0.8);
-  card.Pigment([&](QPainter& map) {
-    map.fillRect(QRectF(-4.8, -7.3, 9.6, 9.6), Faint(kSigns[sign], 0.16));
-    PaintSign(map, {0, -2.6}, sign, kSigns[sign]);
-  });
-  card.Cast(painter, 2, 0.5);
-  card.Paint(painter, sitter.Of(kPaper, Stuff::Bone));
-  painter.restore();
-}
-
-void PaintGem(QPainter& painter, Sitter& sitter, QPointF at, double radius, QColor colour) {
-  Model(painter, sitter, Polygon(at, radius * 1.5, 4), kGold, Stuff::Metal, 1.2);
-  Model(painter, sitter, Polygon(at, radius, 4), colour, Stuff::Glass, radius);
-  Spot(painter, at - QPointF(radius, radius) * 0.3, radius * 0.6, Qt::white, 0.9);
-}
-
-void PaintRing(QPainter& painter, Sitter& sitter, QPointF at, double across, double down, double thick) {
-  QPainterPath ring;
-  ring.addEllipse(at, across, down);
-  ring.addEllipse(at, across - thick, down - thick);
-  Model(painter, sitter, ring, kGold, Stuff::Metal, 1.2);
-}
-
-void PaintChain(QPainter& painter, Sitter& sitter, const QPainterPath& line, double link) {
-  const int links = static_cast<int>(line.length() / (link * 1.5));
-  for (int i = 0; i <= links; ++i) {
-    const double share = static_cast<double>(i) / links;
-    PaintRing(painter, sitter, line.pointAtPercent(share), link, link * (i % 2 == 0 ? 0.8 : 0.5),
-              link * 0.36);
-  }
-}
 
 /// A chip that was just thrown, and still turns.
 void PaintToken(QPainter& painter, Sitter& sitter) {
@@ -90,7 +35,7 @@ void PaintToken(QPainter& painter, Sitter& sitter) {
 
 /// A card stuck in the band for luck, a plaster over the nose and a tooth that is gone.
 void PaintAmateur(QPainter& painter, Sitter& sitter) {
-  PaintCard(painter, sitter, sitter.At(0.62, -0.95), 24, 0);
+  PaintCard(painter, sitter, sitter.At(0.62, -0.95), 24, CardSign::Plus);
   QPainterPath line(sitter.At(-0.2, 0.1, 0.12));
   line.lineTo(sitter.At(0.16, 0.17, 0.14));
   Relief plaster(painter, Tapered(line, 2.2, 2.2), 0.8);
@@ -270,7 +215,8 @@ void PaintHeadProps(QPainter& painter, Sitter& sitter) {
 void PaintBodyProps(QPainter& painter, Sitter& sitter) {
   if (sitter.spec.number == kLuckyAmateur) PaintToken(painter, sitter);
   if (sitter.spec.number == kAllRounder) {  // one of each kind, ready in the breast pocket
-    for (int i = 0; i < 4; ++i) PaintCard(painter, sitter, {70.0 + i * 6.5, 98.0 + i * 0.6}, -20 + i * 15, i);
+    for (int i = 0; i < 4; ++i)
+      PaintCard(painter, sitter, {70.0 + i * 6.5, 98.0 + i * 0.6}, -20 + i * 15, static_cast<CardSign>(i));
     QPainterPath pocket(QPointF(65, 101));
     pocket.lineTo(QPointF(93, 104));
     pocket.lineTo(QPointF(92, 120));

@@ -1,12 +1,11 @@
 // What is worn on the head.
 #include <cmath>
 
-#include "Bust.h"
+#include "BustProps.h"
 
 namespace kv::datafile {
 namespace {
 
-constexpr QColor kGold(214, 166, 74);
 constexpr QColor kLeather(74, 50, 34);
 
 QPainterPath HoodShape(const Sitter& sitter) {

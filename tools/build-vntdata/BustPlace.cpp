@@ -47,8 +47,8 @@ void NeonBars(QPainter& painter, Sitter& sitter) {
     QPainterPath bar(QPointF(x, sitter.chance.Between(-8, 20)));
     bar.lineTo(x + sitter.chance.Between(-3, 3), sitter.chance.Between(56, 92));
     const QColor colour = Mix(sitter.back, i == 1 ? sitter.eye : sitter.hair, 0.35);
-    painter.strokePath(bar, QPen(Faint(colour, 0.10), 15, Qt::SolidLine, Qt::RoundCap));
-    painter.strokePath(bar, QPen(Faint(colour, 0.16), 8, Qt::SolidLine, Qt::RoundCap));
+    for (int halo = 1; halo <= 14; ++halo)
+      painter.strokePath(bar, QPen(Faint(colour, 0.028), halo * 1.6, Qt::SolidLine, Qt::RoundCap));
     painter.strokePath(bar, QPen(Faint(Mix(colour, Qt::white, 0.45), 0.7), 1.7, Qt::SolidLine, Qt::RoundCap));
   }
 }
