@@ -12,6 +12,7 @@ namespace {
 
 constexpr int kMostCharacters = 400;  // of a line
 constexpr int kTabWidth = 8;          // in characters
+constexpr std::string_view kLineBreak = "\r\n";
 
 }  // namespace
 
@@ -39,7 +40,14 @@ ctlChat::ctlChat(QWidget* parent, Layout& layout, MatchNetwork& network)
 }
 
 void ctlChat::ShowLog(const std::string& log) {
-  txtNetwork_->setPlainText(QString::fromStdString(log));
+  const bool grown = !shown_.empty() && log.starts_with(shown_ + std::string(kLineBreak));
+  if (grown) {
+    // A peer that talks without end must not have the whole log laid out anew for every line.
+    txtNetwork_->appendPlainText(QString::fromStdString(log.substr(shown_.size() + kLineBreak.size())));
+  } else {
+    txtNetwork_->setPlainText(QString::fromStdString(log));
+  }
+  shown_ = log;
   txtNetwork_->verticalScrollBar()->setValue(txtNetwork_->verticalScrollBar()->maximum());
 }
 

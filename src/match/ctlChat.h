@@ -32,6 +32,7 @@ class ctlChat final : public QWidget {
 
   MatchNetwork& network_;
   const PropertyBag look_;
+  std::string shown_;           // the log as it stands in txtNetwork
   QPlainTextEdit* txtNetwork_;  // children
   QLineEdit* txtSend_;
 };

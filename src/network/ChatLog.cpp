@@ -7,7 +7,7 @@
 namespace kv {
 namespace {
 
-constexpr std::size_t kMostText = 65536;  // bytes
+constexpr std::size_t kMostText = 16384;  // bytes
 constexpr std::string_view kLineBreak = "\r\n";
 
 }  // namespace

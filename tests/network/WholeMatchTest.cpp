@@ -31,14 +31,16 @@ struct Account {
   int credits;
 };
 
-int MatchCount() {
-  const char* count = std::getenv("KV_NETWORK_MATCHES");
-  return count == nullptr ? 20 : std::atoi(count);
+int Setting(const char* name, int otherwise) {
+  const char* text = std::getenv(name);
+  return text == nullptr ? otherwise : std::atoi(text);
 }
 
-/// Streams cut anywhere, every piece late by chance, "[Turn]" repeated by chance, in both modes.
+/// Streams cut anywhere, every piece late by chance, "[Turn]" repeated by chance, in both modes. How many
+/// matches, and from which seed on: KV_NETWORK_MATCHES and KV_NETWORK_SEED.
 TEST(WholeMatch, EndsAlikeOnBothSidesHoweverTheStreamIsCut) {
-  for (int round = 0, played = 0; played < MatchCount(); ++round) {
+  const int matches = Setting("KV_NETWORK_MATCHES", 20);
+  for (int round = Setting("KV_NETWORK_SEED", 0), played = 0; played < matches; ++round) {
     const auto seed = static_cast<std::uint64_t>(round) * 10 + 1;
     SCOPED_TRACE("seed " + std::to_string(seed));
     SeededRandom chance(seed + 5);
