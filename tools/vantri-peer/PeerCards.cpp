@@ -9,7 +9,7 @@ namespace {
 
 // Milliseconds.
 constexpr int kNetWaitInterval = 100;
-constexpr int kActInterval = 100;
+constexpr int kActInterval = 50;
 
 }  // namespace
 

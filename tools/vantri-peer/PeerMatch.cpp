@@ -7,7 +7,7 @@ namespace {
 constexpr int kGameInterval = 50;
 constexpr int kAutoDialogsInterval = 800;
 constexpr int kNetWaitInterval = 50;
-constexpr int kReadingInterval = 200;
+constexpr int kReadingInterval = 50;
 
 }  // namespace
 

@@ -83,6 +83,8 @@ const std::array kRows = {
         [](PeerOptions& o, const std::string&) { return o.once = true; }},
     Row{"--chat", "", "writes the chat to standard error",
         [](PeerOptions& o, const std::string&) { return o.chat = true; }},
+    Row{"--trace", "", "writes each message and its time to standard error",
+        [](PeerOptions& o, const std::string&) { return o.trace = true; }},
     Row{"--version", "TEXT", "greets as this version: 1.2.4",
         [](PeerOptions& o, const std::string& word) {
           o.version = word;

@@ -26,6 +26,7 @@ struct PeerOptions {
   int matches = 0;          // 0: until somebody leaves
   bool once = false;
   bool chat = false;
+  bool trace = false;
   std::string version{kProgramVersion};
   const Misplay* misplay = nullptr;
   int hurry = 1;                           // how many times as fast as the clock

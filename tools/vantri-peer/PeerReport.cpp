@@ -5,6 +5,9 @@
 #include <cstdio>
 #include <string_view>
 
+#include "network/Framing.h"
+#include "platform/Text.h"
+
 namespace kv {
 namespace {
 
@@ -22,6 +25,16 @@ void PeerReport::Message(const std::string& text, const std::string&, DialogIcon
 
 void PeerReport::Note(const std::string& text) {
   std::fprintf(stderr, "vantri-peer: %s\n", text.c_str());
+}
+
+void PeerReport::Trace(bool sent, std::string_view bytes) const {
+  const double seconds = scheduler_.timeGetTime() / 1000.0;
+  while (!bytes.empty()) {
+    const std::size_t end = std::min(bytes.find(kSeparatorByte), bytes.size());
+    const std::string text = FromWindows1252(bytes.substr(0, end));
+    std::fprintf(stderr, "%9.2f %s %s\n", seconds, sent ? ">" : "<", text.c_str());
+    bytes.remove_prefix(std::min(end + 1, bytes.size()));
+  }
 }
 
 void PeerReport::Chat(const std::string& log) {

@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "match/MatchPartners.h"
 #include "match/clsGame.h"
@@ -28,6 +29,8 @@ class PeerReport final : public Dialogs {
     return {};
   }
   void Note(const std::string& text);
+  /// What went over the line, in bytes of the wire: one line for each message.
+  void Trace(bool sent, std::string_view bytes) const;
   /// The whole chat log as it stands: what is new in it is looked at. A message that this side refused
   /// counts.
   void Chat(const std::string& log);

@@ -1,6 +1,8 @@
-// A socket in front of another one, which greets as whatever version it is told to. All else passes through.
+// A socket in front of another one, which greets as whatever version it is told to. All else passes through,
+// and can be listened to.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <utility>
 
@@ -24,6 +26,9 @@ class PeerSocket final : public TcpSocket {
   PeerSocket(const PeerSocket&) = delete;
   PeerSocket& operator=(const PeerSocket&) = delete;
 
+  /// Told of all that goes out and comes in, as bytes of the wire; may be empty.
+  std::function<void(bool sent, std::string_view bytes)> Tap;
+
   void setRemoteHost(const std::string& host) override { inner_.setRemoteHost(host); }
   void setRemotePort(int port) override { inner_.setRemotePort(port); }
   void setLocalPort(int port) override { inner_.setLocalPort(port); }
@@ -35,13 +40,16 @@ class PeerSocket final : public TcpSocket {
   void Bind(int localPort, const std::string& localIP) override { inner_.Bind(localPort, localIP); }
   void SendData(std::string_view bytes) override {
     constexpr std::string_view kVersion = "[Vers]";
-    if (bytes.starts_with(kVersion)) {
-      inner_.SendData(std::string(kVersion) + version_ + bytes.back());
-    } else {
-      inner_.SendData(bytes);
-    }
+    std::string told(bytes);
+    if (bytes.starts_with(kVersion)) told = std::string(kVersion) + version_ + bytes.back();
+    if (Tap) Tap(true, told);
+    inner_.SendData(told);
   }
-  [[nodiscard]] std::string GetData() override { return inner_.GetData(); }
+  [[nodiscard]] std::string GetData() override {
+    std::string bytes = inner_.GetData();
+    if (Tap) Tap(false, bytes);
+    return bytes;
+  }
   void Close() override { inner_.Close(); }
   [[nodiscard]] Status State() const override { return inner_.State(); }
   [[nodiscard]] std::string LocalIP() const override { return inner_.LocalIP(); }

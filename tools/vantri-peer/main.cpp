@@ -91,6 +91,7 @@ int Run(const kv::PeerOptions& options) {
   kv::PeerReport report(scheduler, player, options.chat);
   kv::QtTcpSocket line;
   kv::PeerSocket socket(line, options.version);
+  if (options.trace) socket.Tap = [&](bool sent, std::string_view bytes) { report.Trace(sent, bytes); };
   kv::PeerProgram program(
       {options, scheduler, random, socket, player, report, [](int code) { QCoreApplication::exit(code); }});
 
