@@ -46,6 +46,9 @@ bool MayBePort(QAbstractSocket::SocketError error) {
 
 QtTcpSocket::QtTcpSocket() {
   server_.setMaxPendingConnections(1);
+  tmrPosted_.setSingleShot(true);
+  tmrPosted_.setInterval(0);
+  QObject::connect(&tmrPosted_, &QTimer::timeout, &server_, [this] { RaisePosted(); });
   QObject::connect(&server_, &QTcpServer::newConnection, &server_, [this] {
     if (request_ != nullptr) return;
     request_ = server_.nextPendingConnection();
@@ -128,12 +131,14 @@ void QtTcpSocket::Failed(QAbstractSocket::SocketError error) {
 }
 
 void QtTcpSocket::Post(std::function<void()> event) {
-  QMetaObject::invokeMethod(
-      &server_,
-      [this, use = uses_, event = std::move(event)] {
-        if (use == uses_) event();
-      },
-      Qt::QueuedConnection);
+  posted_.push_back({uses_, std::move(event)});
+  tmrPosted_.start();
+}
+
+void QtTcpSocket::RaisePosted() {
+  for (const Posted& posted : std::exchange(posted_, {})) {
+    if (posted.use == uses_) posted.event();
+  }
 }
 
 void QtTcpSocket::Fail(QAbstractSocket::SocketError error, const QString& description) {
