@@ -24,6 +24,7 @@ class CountedDialogs final : public Dialogs {
     const Count open(open_);
     return dialogs_.AskText(prompt, title, preset);
   }
+  void setInterfaceStyle(const std::string& style) override { dialogs_.setInterfaceStyle(style); }
   /// How many boxes are open, one over the other.
   [[nodiscard]] int open() const { return open_; }
 

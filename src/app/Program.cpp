@@ -89,6 +89,7 @@ template <typename Make>
 void Program::Show(Make make) {
   CloseCurrent();
   globals_.look.interfaceStyle = player_ == nullptr ? "Slate" : player_->Interface_Opt;
+  dialogs_.setInterfaceStyle(globals_.look.interfaceStyle);
   screen_ = make();
   screen_->Open(centre_);
 }

@@ -9,6 +9,7 @@
 #include "app/SingleInstance.h"
 #include "app/StartCheck.h"
 #include "platform/Folders.h"
+#include "platform/Memory.h"
 #include "platform/QtDialogs.h"
 #include "platform/QtFontSystem.h"
 #include "platform/QtScheduler.h"
@@ -30,6 +31,7 @@ void OpenAddress(const std::string& address) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  kv::ReturnLargeBlocks();
   // Everything that the player owns is found in the working folder from here on.
   const std::string programFolder = kv::ProgramFolder();
   std::error_code error;  // a folder that cannot be made is told when the player is saved

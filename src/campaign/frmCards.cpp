@@ -225,6 +225,13 @@ bool frmCards::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
+void frmCards::focusInEvent(QFocusEvent* event) {
+  Screen::focusInEvent(event);
+  // A click beside the stake's panel, one too many on the way in mostly, must not lead the digits astray.
+  const bool clicked = event->reason() == Qt::MouseFocusReason;
+  if (clicked && ctlWager_->isVisible()) ctlWager_->gettxtWager().setFocus();
+}
+
 void frmCards::keyPressEvent(QKeyEvent* event) {
   const int key = event->key();
   ctlButton* button = nullptr;

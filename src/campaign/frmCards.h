@@ -50,6 +50,7 @@ class frmCards final : public Screen, public WagerView {
   void Shown() override;
   void Closing() override;
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 

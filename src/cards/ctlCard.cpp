@@ -20,6 +20,7 @@ struct ctlCard::StyleLayout {
   bool captionBold;
   QColor captionColour;
   bool captionOpaque;
+  QColor plate;  // under the count, and under an opaque caption
   QPoint count;
   int countFont;  // points
 };
@@ -29,7 +30,6 @@ namespace {
 constexpr int kDimLevel = 105;
 constexpr int kFacePictures = 200;
 constexpr int kEmberStep = 20;
-constexpr QColor kCaptionPlate{0, 12, 24};
 constexpr const char* kLabelFont = "BankGothic Lt BT";
 
 /// A caption's text as it is shown: a doubled ampersand stands for one.
@@ -47,8 +47,8 @@ QImage Scaled(const Picture& picture, QSize size) {
 
 const ctlCard::StyleLayout* ctlCard::LayoutOf(const QString& style) {
   static const StyleLayout kLayouts[] = {
-      {"Slate", {48, 64}, {8, 19, 33, 16}, 11, false, {0, 169, 251}, true, {22, 52}, 10},
-      {"Ember", {83, 102}, {20, 32, 43, 21}, 14, true, {180, 180, 160}, false, {52, 84}, 12},
+      {"Slate", {48, 64}, {8, 19, 33, 16}, 11, false, {0, 169, 251}, true, {0, 12, 24}, {22, 52}, 10},
+      {"Ember", {83, 102}, {20, 32, 43, 21}, 14, true, {180, 180, 160}, false, {24, 15, 8}, {52, 84}, 12},
   };
   for (const StyleLayout& layout : kLayouts) {
     if (style == QLatin1String(layout.style)) return &layout;
@@ -201,7 +201,7 @@ void ctlCard::DrawLabels(QPainter& painter) const {
   painter.setPen(layout_->captionColour);
   const QRect caption = CaptionRect();
   if (!caption.isEmpty()) {
-    if (layout_->captionOpaque) painter.fillRect(caption, kCaptionPlate);
+    if (layout_->captionOpaque) painter.fillRect(caption, layout_->plate);
     painter.setFont(FontOf(QLatin1String(kLabelFont), layout_->captionFont, layout_->captionBold));
     painter.drawText(caption, Qt::AlignCenter | Qt::TextDontClip, Shown(caption_));
   }
@@ -215,7 +215,7 @@ void ctlCard::DrawCount(QPainter& painter) const {
   const QRect text = painter.boundingRect(area, kFlags, countLabel_);
   painter.save();
   painter.setPen(Qt::NoPen);
-  painter.setBrush(kCaptionPlate);
+  painter.setBrush(layout_->plate);
   painter.drawRoundedRect(QRectF(text.adjusted(-3, 0, 3, 0)).intersected(rect()), 3, 3);
   painter.restore();
   painter.drawText(area, kFlags, countLabel_);

@@ -19,6 +19,8 @@ class Dialogs {
   [[nodiscard]] virtual std::optional<std::string> AskText(const std::string& prompt,
                                                            const std::string& title,
                                                            const std::string& preset) = 0;
+  /// The look of the boxes that follow: "Slate" or "Ember".
+  virtual void setInterfaceStyle(const std::string& /*style*/) {}
 };
 
 }  // namespace kv

@@ -23,7 +23,21 @@ class Picture {
   friend bool operator==(const Picture&, const Picture&) = default;
 
  private:
+  friend class PictureMemory;
   std::shared_ptr<const QImage> image_;
+};
+
+/// Remembers a picture without keeping it: it is gone with the last Picture that shows it.
+class PictureMemory {
+ public:
+  PictureMemory() = default;
+  explicit PictureMemory(const Picture& picture) : image_(picture.image_) {}
+
+  /// The picture, or an empty one when nothing holds it any more.
+  [[nodiscard]] Picture recall() const { return Picture(image_.lock()); }
+
+ private:
+  std::weak_ptr<const QImage> image_;
 };
 
 }  // namespace kv

@@ -5,46 +5,29 @@
 #include <QMessageBox>
 #include <QPointer>
 
+#include "platform/QtBoxFrame.h"
+
 namespace kv {
 namespace {
 
-// Dark and quiet in both interface styles, so that a box belongs to the screen it lies over.
-constexpr const char* kLook =
-    "QDialog { background: #0a121b; }"
-    "QLabel { color: #e6ebf0; font-family: 'BankGothic Md BT'; font-size: 14px; }"
-    "QLineEdit { background: #03080e; color: #ffffff; border: 1px solid #4a6274; padding: 4px; }"
-    "QPushButton { background: #122433; color: #cfe6f5; border: 1px solid #4a6274; padding: 6px 20px;"
-    "  font-family: 'BankGothic Md BT'; font-size: 13px; min-width: 56px; }"
-    "QPushButton:hover { background: #1a3448; color: #ffffff; }"
-    "QPushButton:focus { border: 1px solid #00a9fb; color: #ffffff; }";
-
-QMessageBox::Icon IconOf(DialogIcon icon) {
-  switch (icon) {
-    case DialogIcon::Information:
-      return QMessageBox::Information;
-    case DialogIcon::Exclamation:
-      return QMessageBox::Warning;
-    case DialogIcon::Critical:
-      return QMessageBox::Critical;
-    case DialogIcon::Question:
-      return QMessageBox::Question;
-    case DialogIcon::None:
-      break;
-  }
-  return QMessageBox::NoIcon;
-}
+struct BoxContent {
+  const std::string& text;
+  const std::string& title;
+  DialogIcon icon;
+};
 
 // On the heap and watched: the window over which it opens may be destroyed while it is open, and takes the
 // box with it.
-int Run(const std::string& text, const std::string& title, DialogIcon icon,
-        QMessageBox::StandardButtons buttons, QMessageBox::StandardButton escape) {
+int Run(const BoxContent& content, const std::string& interfaceStyle, QMessageBox::StandardButtons buttons,
+        QMessageBox::StandardButton escape) {
   const QPointer<QMessageBox> box =
-      new QMessageBox(IconOf(icon), QString::fromStdString(title), QString::fromStdString(text), buttons,
-                      QApplication::activeWindow());
-  box->setStyleSheet(QString::fromLatin1(kLook));
+      new QMessageBox(QMessageBox::NoIcon, QString::fromStdString(content.title),
+                      QString::fromStdString(content.text), buttons, QApplication::activeWindow());
+  box->setIconPixmap(BoxIcon(content.icon, interfaceStyle, box->devicePixelRatioF()));
   box->setTextFormat(Qt::PlainText);
   box->setEscapeButton(escape);
   box->setDefaultButton(escape);  // a hasty Enter must not give anything up
+  FrameBox(*box, interfaceStyle);
   const int answer = box->exec();
   delete box;
   return answer;
@@ -54,22 +37,23 @@ int Run(const std::string& text, const std::string& title, DialogIcon icon,
 
 void QtDialogs::Message(const std::string& text, const std::string& title, DialogIcon icon) {
   const QtScheduler::Nested nested(scheduler_);
-  Run(text, title, icon, QMessageBox::Ok, QMessageBox::Ok);
+  Run({text, title, icon}, interfaceStyle_, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 bool QtDialogs::AskYesNo(const std::string& text, const std::string& title, DialogIcon icon) {
   const QtScheduler::Nested nested(scheduler_);
-  return Run(text, title, icon, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+  return Run({text, title, icon}, interfaceStyle_, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) ==
+         QMessageBox::Yes;
 }
 
 std::optional<std::string> QtDialogs::AskText(const std::string& prompt, const std::string& title,
                                               const std::string& preset) {
   const QtScheduler::Nested nested(scheduler_);
   const QPointer<QInputDialog> box = new QInputDialog(QApplication::activeWindow());
-  box->setStyleSheet(QString::fromLatin1(kLook));
   box->setWindowTitle(QString::fromStdString(title));
   box->setLabelText(QString::fromStdString(prompt));
   box->setTextValue(QString::fromStdString(preset));
+  FrameBox(*box, interfaceStyle_);
   const bool accepted = box->exec() == QDialog::Accepted && box;
   std::optional<std::string> text;
   if (accepted) text = box->textValue().toStdString();

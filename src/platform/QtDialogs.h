@@ -1,4 +1,4 @@
-// The boxes in which the program asks and tells, as the desktop's own message boxes. They open over the
+// The boxes in which the program asks and tells, in the look of the screens. They open over the
 // program's active window and keep its screens from being destroyed while they wait.
 #pragma once
 
@@ -16,9 +16,11 @@ class QtDialogs final : public Dialogs {
   [[nodiscard]] bool AskYesNo(const std::string& text, const std::string& title, DialogIcon icon) override;
   [[nodiscard]] std::optional<std::string> AskText(const std::string& prompt, const std::string& title,
                                                    const std::string& preset) override;
+  void setInterfaceStyle(const std::string& style) override { interfaceStyle_ = style; }
 
  private:
   QtScheduler& scheduler_;
+  std::string interfaceStyle_ = "Slate";
 };
 
 }  // namespace kv

@@ -77,11 +77,12 @@ void QtTcpSocket::Connect() {
 
 void QtTcpSocket::Dial(int localPort) {
   socket_ = new QTcpSocket(&server_);
-  Watch();
-  // The port to connect from is a wish: on the host's own machine it is taken.
+  // The port to connect from is a wish: on the host's own machine it is taken. A refusal must not count as a
+  // failed connection, so nobody listens to the socket yet.
   const auto reuse = QAbstractSocket::ShareAddress | QAbstractSocket::ReuseAddressHint;
   dialledFromPort_ = localPort != 0 && socket_->bind(ListenAddress(), static_cast<quint16>(localPort), reuse);
   if (!dialledFromPort_ && !localIP_.empty()) static_cast<void>(socket_->bind(ListenAddress(), 0));
+  Watch();
   socket_->connectToHost(QString::fromStdString(remoteHost_), static_cast<quint16>(remotePort_),
                          QIODevice::ReadWrite, QAbstractSocket::IPv4Protocol);
 }

@@ -42,9 +42,10 @@ Picture Highlight() {
   painter.setPen(Qt::NoPen);
   const QRectF card(QPointF(0, 0), kEmberCard);
   QRadialGradient light(card.center(), card.height() * 0.62);
-  light.setColorAt(0, QColor(255, 226, 150, 60));
-  light.setColorAt(0.55, QColor(255, 222, 140, 96));
-  light.setColorAt(1, QColor(255, 240, 200, 235));
+  light.setColorAt(0, QColor(255, 226, 150, 16));
+  light.setColorAt(0.5, QColor(255, 222, 140, 44));
+  light.setColorAt(0.8, QColor(255, 226, 150, 150));
+  light.setColorAt(1, QColor(255, 244, 214, 255));
   painter.setBrush(light);
   painter.drawRoundedRect(card, kEmberCorner, kEmberCorner);
   painter.end();

@@ -59,14 +59,14 @@ class PictureFile {
     const QByteArray format = reader_.format();
     if (std::ranges::none_of(formats, [&](const char* known) { return format == known; })) return false;
     const QSize stored = reader_.size();
-    if (!WithinSide(stored)) return false;
     const QSize reduced = reducedSize(stored);
     const bool smaller = reduced.width() < stored.width();
     if (format == "jpeg") {
-      if (!Affordable(ScansOf(bytes_), stored)) return false;
+      if (!WithinSide(stored, kMaxReducedSide) || !Affordable(ScansOf(bytes_), stored)) return false;
+      if (!smaller) return MayBeWhole(stored);
       // JPEG reduces while it decodes, so the large image never exists.
-      if (smaller) reader_.setScaledSize(reduced);
-      return smaller || MayBeWhole(stored);
+      reader_.setScaledSize(reduced);
+      return PixelsOf(stored) <= kMaxReducedPixels;
     }
     return MayBeWhole(format == "gif" ? GifScreen(bytes_) : stored) && MayBeWhole(stored);
   }
@@ -79,11 +79,13 @@ class PictureFile {
   }
 
  private:
-  static bool WithinSide(QSize size) {
-    return !size.isEmpty() && std::max(size.width(), size.height()) <= kMaxPictureSide;
+  static bool WithinSide(QSize size, int most) {
+    return !size.isEmpty() && std::max(size.width(), size.height()) <= most;
   }
 
-  static bool MayBeWhole(QSize size) { return WithinSide(size) && PixelsOf(size) <= kMaxWholePixels; }
+  static bool MayBeWhole(QSize size) {
+    return WithinSide(size, kMaxPictureSide) && PixelsOf(size) <= kMaxWholePixels;
+  }
 
   std::span<const std::byte> bytes_;
   QByteArray raw_;

@@ -14,6 +14,9 @@ inline constexpr int kMaxPictureSide = 4096;  // stored pixels
 
 /// Stored pixels of a picture that has to be decoded whole: 32 bits each, so 16 MB.
 inline constexpr std::int64_t kMaxWholePixels = std::int64_t{4} << 20;
+/// A JPEG that is reduced while it is decoded, as a photo of one's own is: it costs time, but no memory.
+inline constexpr int kMaxReducedSide = 8192;
+inline constexpr std::int64_t kMaxReducedPixels = std::int64_t{32} << 20;
 /// Coefficients of a JPEG that comes in several scans (progressive, mostly) and so has to be held whole: one
 /// for each pixel and colour, 2 bytes each, so 48 MB for 8 million pixels.
 inline constexpr std::int64_t kMaxCoefficients = std::int64_t{24} << 20;

@@ -18,12 +18,20 @@ namespace {
 
 constexpr std::size_t kMaxDataFile = 64U << 20U;  // bytes; a larger file is none of ours
 
+constexpr int kLargestKept = 128;  // layout pixels wide: cards, portraits, lights
+
 /// Which group of types holds a number: the first, the second, or none.
 struct Band {
   int last;
   std::size_t group;
 };
 constexpr std::array kBands = {Band{110, 1}, Band{250, 0}, Band{399, 1}, Band{499, 0}};
+
+/// What fills a screen is decoded anew for the next one: each costs a megabyte or more, and the player comes
+/// through several on the way to a match.
+bool IsLarge(LayoutSize layout) {
+  return layout.width > kLargestKept;
+}
 
 int NumberOfText(std::string_view text) {
   int value = 0;
@@ -70,6 +78,7 @@ bool Pictures::OpenDataFile(const std::string& path) {
 
 void Pictures::LoadResourceTree(ResourceTree& tree, const std::string& title, const std::string& path) {
   decoded_.clear();
+  large_.clear();
   auto file = std::make_unique<DataFile>();
   file_ = file->Open(path) ? std::move(file) : nullptr;
   tree = ResourceTree{title, {}};
@@ -90,6 +99,12 @@ void Pictures::ExpandType(TypeNode& type) const {
 }
 
 Picture Pictures::getPic(int number, bool& ok) {
+  if (const LayoutSize layout = LayoutSizeOf(number); IsLarge(layout)) {
+    Picture picture = large_[number].recall();
+    if (picture.empty()) large_[number] = PictureMemory(picture = LoadReduced(number, layout));
+    ok = !picture.empty();
+    return picture;
+  }
   auto known = decoded_.find(number);
   if (known == decoded_.end()) {
     // Only what the file could hold is remembered: a caller's arithmetic must not grow the table for ever.

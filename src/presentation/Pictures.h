@@ -29,7 +29,8 @@ class Pictures {
   bool OpenDataFile(const std::string& path);
 
   /// The picture with that number; `ok` tells whether there is one. Its device pixel ratio relates it to its
-  /// layout size. Each picture is decoded once; asking again returns the same one.
+  /// layout size. Asking again returns the same one: a picture as large as a screen as long as anything shows
+  /// it, every other for good.
   [[nodiscard]] Picture getPic(int number, bool& ok);
   [[nodiscard]] Picture getPic(int number);
   /// The picture with that number reduced to `layout` pixels, freshly decoded and not kept; empty if there is
@@ -54,6 +55,7 @@ class Pictures {
   std::unique_ptr<DataFile> file_;
   ResourceTree tree_;
   std::unordered_map<int, Picture> decoded_;
+  std::unordered_map<int, PictureMemory> large_;
 };
 
 /// The type as the resource functions want it: a numeric one behind "#".

@@ -2,11 +2,43 @@
 
 #include <QCloseEvent>
 #include <QPainter>
+#include <algorithm>
 
 #include "platform/QtText.h"
 #include "presentation/RoundWindow.h"
 
 namespace kv {
+namespace {
+
+/// Keeps the light and the shadows of a picture and gives it another hue.
+void Tint(QImage& image, QColor tint, int strength) {
+  const double ratio = image.devicePixelRatio();
+  image.setDevicePixelRatio(1);
+  QPainter painter(&image);
+  painter.setCompositionMode(QPainter::CompositionMode_Overlay);
+  tint.setAlpha(strength);
+  painter.fillRect(image.rect(), tint);
+  painter.end();
+  image.setDevicePixelRatio(ratio);
+}
+
+/// Folds the cold half of the colours over onto the warm one: steel becomes bronze, blue light amber, and
+/// what is warm already stays. Greys take a little of the lamp's colour.
+void WarmUp(QImage& image) {
+  for (int y = 0; y < image.height(); ++y) {
+    auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
+    for (int x = 0; x < image.width(); ++x) {
+      const int red = qRed(line[x]);
+      const int blue = qBlue(line[x]);
+      const int high = std::max(red, blue);
+      const int low = std::min(red, blue) * 13 / 16;
+      const int green = std::min(qGreen(line[x]), (3 * high + low) / 4) * 15 / 16;
+      line[x] = qRgb(high, green, low);
+    }
+  }
+}
+
+}  // namespace
 
 Screen::Screen(const ScreenServices& services, std::string_view name, std::string_view style)
     : screenServices_(services), layout_(name, style), tmrShown_(services.scheduler.NewTimer(1, [this] {
@@ -30,18 +62,11 @@ Screen::~Screen() {
 Picture Screen::TintedPicture(int number) const {
   const Picture picture = services().getPic(number);
   const PropertyBag window = layout_.has(u"window") ? layout_.bag(u"window") : PropertyBag();
-  if (picture.empty() || !window.has(u"tint")) return picture;
+  const bool warm = window.flag(u"warm");
+  if (picture.empty() || (!warm && !window.has(u"tint"))) return picture;
   QImage image = picture.image()->convertToFormat(QImage::Format_RGB32);
-  const double ratio = image.devicePixelRatio();
-  image.setDevicePixelRatio(1);
-  QColor tint = window.colour(u"tint");
-  QPainter painter(&image);
-  // Keeps the light and the shadows of the picture and gives it another hue.
-  painter.setCompositionMode(QPainter::CompositionMode_Overlay);
-  tint.setAlpha(window.number(u"tint_strength", 255));
-  painter.fillRect(image.rect(), tint);
-  painter.end();
-  image.setDevicePixelRatio(ratio);
+  if (warm) WarmUp(image);
+  if (window.has(u"tint")) Tint(image, window.colour(u"tint"), window.number(u"tint_strength", 255));
   return Picture(std::make_shared<const QImage>(std::move(image)));
 }
 

@@ -1,9 +1,10 @@
 // What all screens have in common: a borderless window with a picture behind it, controls from a layout, and
 // an end that can come at any moment. It must never know what a particular screen is for.
 //
-// A layout's control "window" describes the window itself: "picture" (a number of the data file), "tint"
-// ([red, green, blue] laid over the picture) with "tint_strength" (0 to 255), and "corners" (their diameter
-// in layout pixels; kScreenCorners if not given).
+// A layout's control "window" describes the window itself: "picture" (a number of the data file), "warm"
+// (true: the picture's cold colours are turned into warm ones), "tint" ([red, green, blue] laid over the
+// picture) with "tint_strength" (0 to 255), and "corners" (their diameter in layout pixels; kScreenCorners if
+// not given).
 #pragma once
 
 #include <QPoint>

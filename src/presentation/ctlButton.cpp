@@ -56,9 +56,9 @@ void DrawDarkPane(QPainter& painter, const QRect& r, const QColor& color) {
 // A bright plate of the same hue, on which a dark state colour can be read.
 void DrawPlate(QPainter& painter, const QRect& r, const QColor& color) {
   QLinearGradient metal(r.topLeft(), r.bottomLeft());
-  metal.setColorAt(0, QColor::fromHsv(color.hue(), 100, 236));
-  metal.setColorAt(0.5, QColor::fromHsv(color.hue(), 140, 216));
-  metal.setColorAt(1, QColor::fromHsv(color.hue(), 150, 190));
+  metal.setColorAt(0, QColor::fromHsv(color.hue(), 96, 248));
+  metal.setColorAt(0.5, QColor::fromHsv(color.hue(), 126, 234));
+  metal.setColorAt(1, QColor::fromHsv(color.hue(), 136, 218));
   painter.fillRect(r, metal);
 }
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QRadioButton>
 #include <limits>
 
@@ -46,6 +47,19 @@ enum { kArcadeOpp, kArcadeAI, kSpeed, kInterface };
 
 constexpr QStringView kTurnSystemControls[kTurnSystems] = {u"optTurnSystem(0)", u"optTurnSystem(1)",
                                                            u"optTurnSystem(2)"};
+
+/// A list that tells every click, also one that is dragged from row to row before the button is let go.
+class OptionList final : public QListWidget {
+ public:
+  using QListWidget::QListWidget;
+  std::function<void()> Click;
+
+ protected:
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    QListWidget::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton) Click();
+  }
+};
 
 template <typename Box>
 Box* NewBox(QStringView control, QWidget& frame, Layout& layout) {
@@ -92,7 +106,8 @@ void frmOptionsFields::AddTurnSystems(QWidget& frame, Layout& layout) {
 
 void frmOptionsFields::AddList(int index, QWidget& frame, Layout& layout) {
   const ListField& field = kLists.at(static_cast<std::size_t>(index));
-  auto* list = new QListWidget(&frame);
+  auto* list = new OptionList(&frame);
+  list->Click = clicked_;
   lists_.at(static_cast<std::size_t>(index)) = list;
   for (const QStringView item : field.items) {
     if (!item.isEmpty()) list->addItem(item.toString());
@@ -103,7 +118,6 @@ void frmOptionsFields::AddList(int index, QWidget& frame, Layout& layout) {
   layout.Place(field.control, *list);
   const int rowHeight = (list->height() - 2 * list->frameWidth()) / list->count();
   for (int row = 0; row < list->count(); ++row) list->item(row)->setSizeHint(QSize(0, rowHeight));
-  QObject::connect(list, &QListWidget::itemClicked, &frame, [this] { clicked_(); });
   QObject::connect(list, &QListWidget::currentRowChanged, &frame, [this, list] {
     // The pointer's changes are told by the click.
     if (list->hasFocus() && QApplication::mouseButtons() == Qt::NoButton) clicked_();

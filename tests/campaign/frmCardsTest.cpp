@@ -109,7 +109,9 @@ TEST_P(CardsScreenTest, TheAmountBoxTakesWhatMayBeStakedAndNothingElse) {
 
 TEST_P(CardsScreenTest, CardsGoIntoTheDeckAndBackAndOnlyAFullOneContinues) {
   Open(kModeArcade);
-  Click(*screen->Bank({1, 1}));  // no stake yet: nothing happens
+  Click(*screen->Bank({1, 1}));  // no stake yet: nothing happens, and the amount is still what is typed
+  Key(Qt::Key_7);
+  EXPECT_EQ(screen->wager().gettxtWager().text(), QStringLiteral("7"));
   SetStake("10");
   EXPECT_EQ(stage.sound.Count("draw"), 0);
   const std::string before = screen->Bank({1, 1})->count();

@@ -116,6 +116,17 @@ TEST_F(QtTcpSocketTest, APeerThatNeverReadsDoesNotHoldAClosedConnection) {
   EXPECT_LT(read + deaf.readAll().size(), kSent) << "given up";
 }
 
+TEST_F(QtTcpSocketTest, ConnectsFromAnotherPortWhenItsOwnIsTheHosts) {
+  host.Bind(kPort, "");
+  guest.Bind(kPort, "");
+  guest.Error = [this](int number, const std::string&) {
+    errors.push_back(number);
+    guest.Close();  // as the link does
+  };
+  Connect();
+  EXPECT_TRUE(errors.empty());
+}
+
 TEST_F(QtTcpSocketTest, TakesOneConnectionAtATime) {
   Connect();
   QtTcpSocket third;

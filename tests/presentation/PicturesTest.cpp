@@ -100,6 +100,16 @@ TEST(Pictures, AskingAgainGivesTheSameImage) {
   EXPECT_TRUE(pictures.getPic(462).image()->hasAlphaChannel());
 }
 
+TEST(Pictures, OnlyThoseOfAScreenGoWithWhoeverShowedThem) {
+  Pictures pictures;
+  ASSERT_TRUE(pictures.OpenDataFile(DataFile()));
+  for (const int number : {101, 107, 400, 402, 201, 307, 462}) {
+    const PictureMemory seen(pictures.getPic(number));
+    EXPECT_EQ(seen.recall().empty(), LayoutSizeOf(number).width > 112) << number;
+    EXPECT_FALSE(pictures.getPic(number).empty()) << number;  // and is there again
+  }
+}
+
 TEST(Pictures, EachBandLooksInItsOwnGroup) {
   const Bytes gif = datafile::EncodeGif(Plain(8, 8));
   const Bytes jpg = datafile::EncodeJpeg(Plain(8, 8), 80);

@@ -118,6 +118,8 @@ TEST_F(PortraitsTest, HostileFilesFallBackToTheBuiltInPortrait) {
   const std::vector<Case> cases = {
       {"a.jpg", small, true},
       {"b.jpg", large, true},
+      {"photo.jpg", Jpeg(4800, 300), true},
+      {"beyond.jpg", Forged(small, '\xC0', 8000, 1), false},
       {"empty.jpg", "", false},
       {"text.bmp", "BM no picture", false},
       {"script.gif", "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>", false},

@@ -117,6 +117,16 @@ TEST(frmOptionsTest, ListsAndTurnSystemEditTheirFields) {
   stage.Find("lstSpeed").setFocus();
   stage.hand->Key(Qt::Key_Down);
   EXPECT_EQ(stage.sound.Count("check"), 7) << "by pointer and by keyboard";
+  auto& style = stage.Find<QListWidget>("lstInterface");
+  const QRect row = style.visualItemRect(style.item(0));
+  const QPoint top = style.viewport()->mapTo(stage.screen.get(), row.center());
+  stage.hand->Press(top);
+  stage.hand->MoveTo(top + QPoint(0, row.height()));
+  stage.hand->Release(top + QPoint(0, row.height()));
+  EXPECT_EQ(style.currentRow(), 1);
+  EXPECT_EQ(stage.sound.Count("check"), 8) << "one click, though dragged to another row";
+  stage.hand->Press(top);
+  stage.hand->Release(top);
   stage.Click("cmdOK");
   EXPECT_EQ(stage.player.Interface_Opt, "Slate");
   EXPECT_EQ(stage.player.GameSpeed_Opt, 1);

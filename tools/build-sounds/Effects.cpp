@@ -13,7 +13,7 @@ namespace {
 // the long bright ones are alike both to the ear's measure and to the plain mean of the samples.
 constexpr double kHighlight = -38;
 constexpr double kButtons = -24;
-constexpr double kLowButtons = kButtons - 1.3;
+constexpr double kLowButtons = kButtons - 1.5;
 constexpr double kBrightButtons = kButtons + 1.4;
 constexpr double kCards = -23.5;
 constexpr double kEvents = -20;
@@ -115,8 +115,13 @@ Stereo Buy() {
     sound.Add(Burst(0.015, 3000, 12000, 0.003, seed++), hit.at, hit.gain * 0.6, hit.pan);
     sound.Add(Thump(420, 260, 0.05, 0.012), hit.at, hit.gain * 0.4, hit.pan);
   }
-  Room(sound, 0.18, 0.6, 0.2);
-  sound.setSeconds(0.56);
+  // the till: its drawer slides home under the coins, and a bell says that it is done
+  sound.Add(Swish(0.16, 500, 1500, 0.9, 0.8, 69), 0.22, 0.5, -0.2);
+  sound.Add(Thump(170, 105, 0.12, 0.03), 0.37, 1.3, -0.1);
+  sound.Add(Burst(0.04, 900, 5200, 0.007, 68), 0.37, 0.7, -0.1);
+  sound.Add(Strike(Pitch(24), 0.6, kGlass, 0.001), 0.4, 0.5, 0.35);
+  Room(sound, 0.4, 0.8, 0.3);
+  sound.setSeconds(0.67);
   return sound;
 }
 
@@ -144,19 +149,23 @@ Stereo Bust() {
   sound.Add(Burst(0.2, 300, 5000, 0.025, 81), 0, 1.1);
   Horn(sound, -18, -30, 0.02, 0.8, 0.45, 1500);
   Horn(sound, -17, -29.3, 0.02, 0.8, 0.35, 1300);
-  Room(sound, 0.3, 1, 0.5);
+  Room(sound, 0.5, 1.1, 0.5);
   sound.setSeconds(1.1);
   return sound;
 }
 
 Stereo WinSet() {
   Stereo sound;
-  Chime(sound, 0, 0, 0.8, -0.3);
-  Chime(sound, 4, 0.12, 0.85, 0);
-  Chime(sound, 7, 0.24, 0.9, 0.3);
-  Chime(sound, 12, 0.36, 1, 0);
-  Room(sound, 0.35, 1.1, 0.6);
-  sound.setSeconds(1.35);
+  Chime(sound, 0, 0, 0.8, -0.6);
+  Chime(sound, 4, 0.12, 0.85, 0.6);
+  Chime(sound, 7, 0.24, 0.9, -0.3);
+  Chime(sound, 12, 0.36, 1, 0.1);
+  Drum(sound, Pitch(-36), 0.36, 0.5);
+  for (const double note : {-12.0, -5.0}) Horn(sound, note, note, 0.36, 0.7, 0.16, 1800);
+  constexpr std::array<double, 3> kLights = {19, 24, 28};
+  Sparkle(sound, kLights, 0.46, 0.09, 0.12);
+  Room(sound, 0.8, 1.2, 0.8);
+  sound.setSeconds(1.5);
   return sound;
 }
 
@@ -166,8 +175,9 @@ Stereo LoseSet() {
   DarkChime(sound, 3, 0.19, 0.95, 0);
   DarkChime(sound, 0, 0.38, 1, -0.3);
   DarkChime(sound, -5, 0.38, 0.5, 0.1);
-  Room(sound, 0.35, 1.2, 0.6);
-  sound.setSeconds(1.35);
+  Drum(sound, Pitch(-38), 0.38, 0.4);
+  Room(sound, 0.7, 1.3, 0.7);
+  sound.setSeconds(1.4);
   return sound;
 }
 
@@ -176,19 +186,18 @@ Stereo WinMatch() {
   constexpr std::array<double, 4> kRise = {0, 4, 7, 12};
   double at = 0;
   for (const double note : kRise) {
-    Chime(sound, note, at, 0.7, 0.2 - at);
+    Chime(sound, note, at, 0.7, at < 0.2 ? -0.5 : 0.5);
     Horn(sound, note - 12, note - 12, at, 0.3, 0.28, 2200);
+    Drum(sound, Pitch(-36), at, 0.22 + at * 0.4);
     at += 0.15;
   }
-  for (const double note : {-24.0, -12.0, -5.0, 0.0, 4.0}) Horn(sound, note, note, 0.6, 1.7, 0.2, 2600);
-  constexpr std::array<double, 8> kSparkle = {19, 24, 28, 24, 31, 28, 36, 31};
-  at = 0.75;
-  for (const double note : kSparkle) {
-    sound.Add(Strike(Pitch(note - 12), 1, kGlass, 0.002), at, 0.22, std::sin(at * 9) * 0.7);
-    at += 0.11;
-  }
-  Room(sound, 0.4, 1.4, 0.9);
-  sound.setSeconds(2.8);
+  Cymbal(sound, 0.1, 1.5, 0.35, 0.16, 501);
+  Drum(sound, Pitch(-36), 0.6, 0.9);
+  for (const double note : {-24.0, -12.0, -5.0, 0.0, 4.0, 7.0}) Horn(sound, note, note, 0.6, 1.7, 0.2, 2800);
+  constexpr std::array<double, 10> kLights = {19, 24, 28, 24, 31, 28, 36, 31, 40, 36};
+  Sparkle(sound, kLights, 0.75, 0.1, 0.2);
+  Room(sound, 0.8, 1.5, 1.0);
+  sound.setSeconds(2.9);
   return sound;
 }
 
@@ -200,7 +209,9 @@ Stereo LoseMatch() {
   DarkChime(sound, 0, 0.84, 1, -0.3);
   for (const double note : {-24.0, -17.0}) Horn(sound, note, note, 0, 0.9, 0.22, 900);
   for (const double note : {-26.0, -19.0, -9.0}) Horn(sound, note, note - 2, 0.84, 1.2, 0.24, 800);
-  Room(sound, 0.4, 1.5, 0.9);
+  Drum(sound, Pitch(-38), 0.84, 0.7);
+  Drum(sound, Pitch(-40), 1.24, 0.45);
+  Room(sound, 0.7, 1.6, 0.9);
   sound.setSeconds(2.3);
   return sound;
 }
@@ -212,39 +223,42 @@ Stereo Tie() {
     Chime(sound, note, 0, 0.8, -0.8);
     Chime(sound, note, 0.22, 0.8, 0.8);
   }
-  Room(sound, 0.3, 1, 0.5);
-  sound.setSeconds(1.05);
+  Room(sound, 0.6, 1.1, 0.7);
+  sound.setSeconds(1.2);
   return sound;
 }
 
 Stereo Propose() {
   Stereo sound;
-  Chime(sound, 2, 0, 0.8, -0.25);
-  Chime(sound, 9, 0.16, 0.9, 0.25);
+  Chime(sound, 2, 0, 0.8, -0.5);
+  Chime(sound, 9, 0.16, 0.9, 0.5);
   Wave lift = Glide(Pitch(9), Pitch(11), 0.3);
   Swell(lift, 0.4);
   sound.Add(lift, 0.2, 0.25);
-  Room(sound, 0.3, 0.9, 0.4);
-  sound.setSeconds(0.85);
+  Room(sound, 0.6, 1.1, 0.5);
+  sound.setSeconds(0.95);
   return sound;
 }
 
 Stereo LevelUp() {
   Stereo sound;
   constexpr std::array<double, 8> kRun = {-12, -8, -5, 0, 4, 7, 12, 16};
+  Wave riser = Swish(0.66, 500, 6500, 0.9, 0.92, 111);
+  sound.Add(riser, 0, 0.22, 0);
   double at = 0;
   for (const double note : kRun) {
-    Chime(sound, note, at, 0.55, std::sin(at * 12) * 0.5);
+    Chime(sound, note, at, 0.55, std::sin(at * 12) * 0.8);
     at += 0.075;
   }
-  for (const double note : {-12.0, -5.0, 0.0, 4.0, 11.0}) Horn(sound, note, note, at, 1.1, 0.16, 3000);
-  for (const double note : {7.0, 12.0, 19.0}) Chime(sound, note, at, 0.5, note / 24);
-  for (int i = 0; i < 6; ++i) {
-    const double note = 24 + (i % 2 == 0 ? 0 : 7);
-    sound.Add(Strike(Pitch(note), 0.6, kGlass, 0.002), at + 0.1 + i * 0.09, 0.13 - i * 0.015, i % 2 - 0.5);
-  }
-  Room(sound, 0.4, 1.2, 0.7);
-  sound.setSeconds(2.1);
+  Drum(sound, Pitch(-36), at, 0.8);
+  Cymbal(sound, at, 1.2, 0.04, 0.18, 511);
+  for (const double note : {-24.0, -12.0, -5.0, 0.0, 4.0, 11.0}) Horn(sound, note, note, at, 1.2, 0.17, 3200);
+  for (const double note : {7.0, 12.0, 19.0}) Chime(sound, note, at, 0.5, note / 19 - 0.6);
+  Chime(sound, 24, at + 0.22, 0.45, 0.4);  // one step more than one expects
+  constexpr std::array<double, 8> kLights = {24, 31, 28, 36, 31, 40, 36, 43};
+  Sparkle(sound, kLights, at + 0.3, 0.085, 0.16);
+  Room(sound, 0.85, 1.4, 1.0);
+  sound.setSeconds(2.45);
   return sound;
 }
 

@@ -63,4 +63,32 @@ void Horn(Stereo& sound, double from, double to, double at, double seconds, doub
   }
 }
 
+void Drum(Stereo& sound, double pitch, double at, double gain) {
+  constexpr std::array<Partial, 4> kSkin = {
+      {{1.5, 0.5, 0.2}, {1.99, 0.35, 0.14}, {2.44, 0.2, 0.09}, {3.2, 0.1, 0.05}}};
+  sound.Add(Thump(pitch * 1.25, pitch, 0.9, 0.28), at, gain);
+  sound.Add(Strike(pitch, 0.7, kSkin, 0.002), at, gain * 0.7);
+  sound.Add(Burst(0.06, 200, 2600, 0.012, 901), at, gain * 0.6);
+}
+
+void Cymbal(Stereo& sound, double at, double seconds, double peak, double gain, std::uint32_t seed) {
+  for (const double side : {-1.0, 1.0}) {
+    Wave noise = White(seconds, seed++);
+    HighPass(noise, 5200);
+    LowPass(noise, 12500);
+    Shape(noise, seconds * peak, seconds * (1 - peak) * 0.3);
+    sound.Add(noise, at, gain, side * 0.9);
+  }
+}
+
+void Sparkle(Stereo& sound, std::span<const double> notes, double at, double step, double gain) {
+  double side = -0.8;
+  for (const double note : notes) {
+    sound.Add(Strike(Pitch(note), 0.9, kGlass, 0.002), at, gain, side);
+    at += step;
+    gain *= 0.9;
+    side = -side;
+  }
+}
+
 }  // namespace kv::sound

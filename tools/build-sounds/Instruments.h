@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 
 #include "Synth.h"
 
@@ -47,5 +48,12 @@ void Chime(Stereo& sound, double halfTones, double at, double gain, double pan);
 void DarkChime(Stereo& sound, double halfTones, double at, double gain, double pan);
 /// A held note of two detuned brasses, one an ear, that may slide to another note.
 void Horn(Stereo& sound, double from, double to, double at, double seconds, double gain, double cutoff);
+
+/// A large drum: a tone that sags, its skin's overtones and the stick.
+void Drum(Stereo& sound, double pitch, double at, double gain);
+/// Metal brushed by a stick: noise on both ears, each its own, that swells to `peak` (0 to 1 of its length).
+void Cymbal(Stereo& sound, double at, double seconds, double peak, double gain, std::uint32_t seed);
+/// Small high bells, left and right in turn, that die away; notes in half tones above D5.
+void Sparkle(Stereo& sound, std::span<const double> notes, double at, double step, double gain);
 
 }  // namespace kv::sound

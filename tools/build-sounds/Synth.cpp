@@ -209,9 +209,10 @@ void Stereo::setSeconds(double seconds) {
 
 void Room(Stereo& sound, double amount, double size, double decay) {
   constexpr std::size_t kSpread = 23;  // samples by which the right ear's room differs
+  constexpr double kLopsided = 1.09;   // and it is that much larger, so that the tail surrounds the listener
   sound.setSeconds(Seconds(sound.left.size()) + decay);
   const Wave left = Echo(sound.left, size, decay, 0);
-  const Wave right = Echo(sound.right, size, decay, kSpread);
+  const Wave right = Echo(sound.right, size * kLopsided, decay, kSpread);
   for (std::size_t i = 0; i < left.size(); ++i) {
     sound.left[i] += amount * left[i];
     sound.right[i] += amount * right[i];

@@ -89,9 +89,9 @@ void Vignette(QPainter& painter, QRectF area, double opacity) {
 }
 
 void Glow(QPainter& painter, const QPainterPath& path, QColor colour, double width, double halo) {
-  for (double spread = halo; spread > 0.4; spread *= 0.6) {
+  for (double spread = halo; spread > 0.4; spread *= 0.82) {
     painter.strokePath(
-        path, QPen(Faint(colour, 0.11), width + spread * 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        path, QPen(Faint(colour, 0.05), width + spread * 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   }
   painter.strokePath(path,
                      QPen(Mix(colour, Qt::white, 0.35), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));

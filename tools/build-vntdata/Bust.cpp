@@ -1,44 +1,90 @@
 #include "Bust.h"
 
 #include <algorithm>
+#include <cmath>
+
+#include "BustCircuit.h"
 
 namespace kv::datafile {
 namespace {
 
-constexpr double kSide = 112;
-constexpr double kHalfWidth = 21;
-constexpr double kHalfLength = 27;
+constexpr double kHalfWidth = 25.2;
+constexpr double kHalfLength = 30.3;
 
-void PaintBackdrop(QPainter& painter, Sitter& sitter) {
-  const QRectF square(0, 0, kSide, kSide);
-  QLinearGradient wall(0, 0, kSide, kSide);
-  wall.setColorAt(0, Mix(sitter.back, Qt::black, 0.25));
-  wall.setColorAt(1, Mix(sitter.back, Qt::black, 0.85));
-  painter.fillRect(square, wall);
-  const int pattern = sitter.spec.number % 4;
-  painter.setBrush(Qt::NoBrush);
-  painter.setPen(QPen(Faint(Mix(sitter.back, Qt::white, 0.4), 0.14), 1.2));
-  for (int i = 0; i < 7; ++i) {  // the room behind, hardly seen
-    if (pattern == 0) painter.drawEllipse(QPointF(84, 26), 12.0 + i * 11, 12.0 + i * 11);
-    if (pattern == 1) painter.drawLine(QPointF(i * 26.0 - 30, 0), QPointF(i * 26.0 - 74, kSide));
-    if (pattern == 2) painter.drawRect(QRectF(6 + i * 16, -4, 8, 70 - (i * 37) % 40));
-    if (pattern == 3) painter.drawPath(Polygon({20.0 + (i % 3) * 36, 16.0 + (i / 3) * 32}, 19, 6));
+Surface Plain(Stuff stuff) {
+  switch (stuff) {
+    case Stuff::Skin:
+      return {.gloss = 0.15, .sharp = 12, .wrap = 0.3, .rim = 0.9};
+    case Stuff::Hide:
+      return {.gloss = 0.20, .sharp = 22, .wrap = 0.25, .rim = 0.85};
+    case Stuff::Hair:
+      return {.gloss = 0.16, .sharp = 20, .wrap = 0.3, .rim = 0.7};
+    case Stuff::Metal:
+      return {.gloss = 0.75, .sharp = 38, .wrap = 0.1, .metal = 0.62, .rim = 1};
+    case Stuff::Bone:
+      return {.gloss = 0.24, .sharp = 26, .wrap = 0.3, .rim = 0.8};
+    case Stuff::Glass:
+      return {.gloss = 1.1, .sharp = 60, .wrap = 0.1, .metal = 0.3, .rim = 1.2};
+    default:
+      return {.gloss = 0.05, .sharp = 8, .wrap = 0.2, .rim = 0.6};
   }
-  Spot(painter, {36, 40}, 62, Mix(sitter.back, Qt::white, 0.45), 0.5);
-  Grain(painter, square, static_cast<std::uint64_t>(sitter.spec.number) + 900, 0.035, 3);
 }
 
-void PaintLightAndShade(QPainter& painter) {
-  QRadialGradient corner(QPointF(46, 44), 82);
-  corner.setColorAt(0.55, Faint(Qt::black, 0));
-  corner.setColorAt(1, Faint(Qt::black, 0.55));
-  painter.fillRect(QRectF(0, 0, kSide, kSide), corner);
+void PaintVignette(QPainter& painter) {
+  QRadialGradient corner(QPointF(50, 48), 84);
+  corner.setColorAt(0.6, Faint(Qt::black, 0));
+  corner.setColorAt(1, Faint(Qt::black, 0.5));
+  painter.fillRect(QRectF(0, 0, kBustSide, kBustSide), corner);
+}
+
+void PaintHeadLayers(QPainter& painter, Sitter& sitter) {
+  if (sitter.spec.kind == Kind::Machine) {
+    PaintMachineHead(painter, sitter);
+  } else {
+    PaintHead(painter, sitter);
+    PaintEyes(painter, sitter);
+    PaintMouth(painter, sitter);
+    PaintBeard(painter, sitter);
+  }
+  PaintHair(painter, sitter);
+  PaintGrowth(painter, sitter);
+  PaintGear(painter, sitter);
+  PaintHeadProps(painter, sitter);
+}
+
+/// Everything of the sitter on a layer of its own, so that its shadows fall on nothing but itself.
+QImage PaintFigure(Sitter& sitter, double ratio) {
+  const int side = static_cast<int>(std::lround(kBustSide * ratio));
+  QImage layer(side, side, QImage::Format_ARGB32_Premultiplied);
+  layer.fill(Qt::transparent);
+  QPainter painter(&layer);
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+  painter.scale(ratio, ratio);
+  const QPointF hinge = sitter.head + QPointF(0, sitter.halfLength * 0.85);
+  const auto tilted = [&](void (*paint)(QPainter&, Sitter&)) {
+    painter.save();
+    painter.translate(hinge);
+    painter.rotate(sitter.spec.tilt);
+    painter.translate(-hinge);
+    paint(painter, sitter);
+    painter.restore();
+  };
+  tilted(PaintBehind);
+  PaintNeck(painter, sitter);
+  PaintGarment(painter, sitter);
+  PaintBodyProps(painter, sitter);
+  tilted(PaintHeadLayers);
+  return layer;
 }
 
 }  // namespace
 
 Sitter::Sitter(const BustSpec& row)
     : spec(row),
+      frame(FrameOf(row.build)),
+      plan(FacePlanOf(row.shape)),
+      mood(ExpressionOf(row.mood)),
+      head(frame.head - QPointF(row.turn * 2.5, 0)),
       halfWidth(kHalfWidth * row.width),
       halfLength(kHalfLength * row.length),
       chance(static_cast<std::uint64_t>(row.number) * 7919),
@@ -48,38 +94,32 @@ Sitter::Sitter(const BustSpec& row)
       back(QColor::fromRgb(row.back)),
       eye(QColor::fromRgb(row.eye)) {}
 
-/// The outline of the head: cheeks at the widest, then the jaw; some kinds have more skull or a hard outline.
-QPainterPath Sitter::HeadPath() const {
-  const double jaw = spec.jaw;
-  const bool skull = spec.kind == Kind::Smooth || spec.kind == Kind::Insect;
-  const double top = skull ? 1.12 : 1;
-  const double temple = skull ? 1.22 : 1;
-  if (spec.kind == Kind::Stone) {
-    QPainterPath path;
-    path.addPolygon(QPolygonF({At(-0.5, -1), At(0.42, -1.02), At(0.9, -0.68), At(1, 0.05), At(0.86, 0.55),
-                               At(0.3 + 0.4 * jaw, 1), At(-0.3 - 0.35 * jaw, 0.98), At(-0.9, 0.5),
-                               At(-1, -0.1), At(-0.92, -0.6)}));
-    path.closeSubpath();
-    return path;
-  }
-  QPainterPath path(At(0, -top));
-  path.cubicTo(At(0.7 * temple, -top), At(temple, -0.62), At(1, -0.06));
-  path.cubicTo(At(0.98, 0.4), At(0.5 + 0.4 * jaw, 0.74 + 0.1 * jaw), At(0.2 + 0.36 * jaw, 0.97));
-  path.quadTo(At(0, 1.05), At(-0.2 - 0.36 * jaw, 0.97));
-  path.cubicTo(At(-0.5 - 0.4 * jaw, 0.74 + 0.1 * jaw), At(-0.98, 0.4), At(-1, -0.06));
-  path.cubicTo(At(-temple, -0.62), At(-0.7 * temple, -top), At(0, -top));
-  path.closeSubpath();
-  return path;
+QPointF Sitter::At(double x, double y, double out) const {
+  const double bend = std::max(0.0, 1 - x * x);
+  const double fall = std::max(0.0, 1 - y * y);
+  return head + QPointF((x + spec.turn * (0.44 * bend + 0.9 * out)) * halfWidth,
+                        (y + spec.nod * (0.26 * fall + 0.6 * out)) * halfLength);
 }
 
-void Model(QPainter& painter, const QPainterPath& path, QColor colour, double contrast) {
+QPointF Sitter::Out(double x, double y) const {
+  const double forward = y > 0 ? 0.22 * std::min(y, 1.0) : 0.1 * std::max(y, -1.0);
+  const double broad = y > 0.2 && y < 1.2 ? 1 + (spec.jaw - 0.5) * 0.42 * (y - 0.2) : 1;
+  return head + QPointF((x * broad + spec.turn * forward) * halfWidth, y * halfLength);
+}
+
+Surface Sitter::Of(QColor colour, Stuff stuff) const {
+  Surface surface = Plain(stuff);
+  surface.colour = colour;
+  surface.room = back;
+  return surface;
+}
+
+void Model(QPainter& painter, const Sitter& sitter, const QPainterPath& path, QColor colour, Stuff stuff,
+           double round) {
   const QRectF area = path.boundingRect();
-  QLinearGradient body(area.topLeft(), area.bottomRight());
-  body.setColorAt(0, Mix(colour, Qt::white, 0.3 * contrast));
-  body.setColorAt(0.38, colour);
-  body.setColorAt(1, Mix(colour, Qt::black, 0.68 * contrast));
-  painter.fillPath(path, body);
-  painter.strokePath(path, QPen(Faint(Mix(colour, Qt::black, 0.8), 0.55), 0.7));
+  Relief relief(painter, path, round > 0 ? round : std::min(area.width(), area.height()) * 0.5);
+  relief.Cast(painter, std::min(3.0, 1 + std::min(area.width(), area.height()) * 0.06), 0.5);
+  relief.Paint(painter, sitter.Of(colour, stuff));
 }
 
 void PaintPortrait(QPainter& painter, int number) {
@@ -87,22 +127,10 @@ void PaintPortrait(QPainter& painter, int number) {
   const auto row = std::ranges::find(rows, number, &BustSpec::number);
   if (row == rows.end()) return;
   Sitter sitter(*row);
-  PaintBackdrop(painter, sitter);
-  PaintBehind(painter, sitter);
-  const bool machine = row->kind == Kind::Machine;
-  machine ? PaintMachineNeck(painter, sitter) : PaintNeck(painter, sitter);
-  PaintGarment(painter, sitter);
-  if (machine) {
-    PaintMachineHead(painter, sitter);
-  } else {
-    PaintHead(painter, sitter);
-    PaintMarks(painter, sitter);
-    PaintEyes(painter, sitter);
-    PaintMouth(painter, sitter);
-  }
-  PaintHair(painter, sitter);
-  PaintGear(painter, sitter);
-  PaintLightAndShade(painter);
+  PaintPlace(painter, sitter);
+  const double ratio = std::sqrt(std::abs(painter.deviceTransform().determinant()));
+  painter.drawImage(QRectF(0, 0, kBustSide, kBustSide), PaintFigure(sitter, ratio));
+  PaintVignette(painter);
 }
 
 }  // namespace kv::datafile

@@ -1,160 +1,214 @@
 // Shoulders and what they wear.
+#include <cmath>
+
 #include "Bust.h"
 
 namespace kv::datafile {
 namespace {
 
-/// Shoulders from neck to frame; `rise` lifts them, `broad` widens them.
-QPainterPath Shoulders(const Sitter& sitter, double broad, double rise) {
-  const double x = sitter.head.x() + 1;
-  const double reach = 44 * broad;
-  QPainterPath path(QPointF(x - reach - 8, 116));
-  path.cubicTo(QPointF(x - reach - 4, 100 - rise), QPointF(x - reach + 8, 93 - rise), QPointF(x - 14, 86));
-  path.quadTo(QPointF(x, 92), QPointF(x + 14, 86));
-  path.cubicTo(QPointF(x + reach - 8, 93 - rise), QPointF(x + reach + 4, 100 - rise),
-               QPointF(x + reach + 8, 116));
+constexpr double kFloor = 118;
+constexpr double kMiddle = 56;
+
+QPointF Shoulder(const Sitter& sitter, double side) {
+  const Frame& frame = sitter.frame;
+  return {kMiddle + side * frame.reach, frame.top + frame.slope + side * frame.lean * 0.5};
+}
+
+/// Where the collar stands: the root of the neck.
+QPointF Throat(const Sitter& sitter) {
+  return {kMiddle + sitter.spec.turn * 1.5, sitter.frame.top + 6};
+}
+
+QPainterPath Shoulders(const Sitter& sitter) {
+  const Frame& frame = sitter.frame;
+  const double neck = sitter.halfWidth * frame.neck * 0.9;
+  const QPointF left = Shoulder(sitter, -1);
+  const QPointF right = Shoulder(sitter, 1);
+  QPainterPath path(QPointF(left.x() - 6, kFloor + 10));
+  path.cubicTo(QPointF(left.x() - 4, left.y() + 6), QPointF(left.x() + 2, left.y() - 4),
+               QPointF(kMiddle - neck - 6, frame.top + 1));
+  path.quadTo(QPointF(kMiddle - neck, frame.top - 1), QPointF(kMiddle - neck + 3, frame.top - 3));
+  path.quadTo(QPointF(kMiddle, frame.top + 9), QPointF(kMiddle + neck - 3, frame.top - 3));
+  path.quadTo(QPointF(kMiddle + neck, frame.top - 1), QPointF(kMiddle + neck + 6, frame.top + 1));
+  path.cubicTo(QPointF(right.x() - 2, right.y() - 4), QPointF(right.x() + 4, right.y() + 6),
+               QPointF(right.x() + 6, kFloor + 10));
   path.closeSubpath();
   return path;
 }
 
 void Lapels(QPainter& painter, const Sitter& sitter, QColor colour, double spread) {
-  const double x = sitter.head.x() + 1;
-  for (const double side : {-1.0, 1.0}) {
-    QPainterPath lapel(QPointF(x + side * 17, 80));
-    lapel.lineTo(x + side * spread, 98);
-    lapel.lineTo(x + side * 7, 116);
-    lapel.lineTo(x, 116);
-    lapel.lineTo(x, 101);
+  const QPointF throat = Throat(sitter);
+  const double neck = sitter.halfWidth * sitter.frame.neck;
+  for (const double side : {1.0, -1.0}) {
+    QPainterPath lapel(throat + QPointF(side * (neck + 3), -11));
+    lapel.quadTo(throat + QPointF(side * (neck + 8), 0), throat + QPointF(side * spread, 12));
+    lapel.lineTo(throat + QPointF(side * (spread - 9), 15));
+    lapel.lineTo(throat + QPointF(side * (spread - 8), 20));
+    lapel.lineTo(throat + QPointF(side * 4, 42));
+    lapel.lineTo(throat + QPointF(-side, 42));
+    lapel.lineTo(throat + QPointF(0, 14));
     lapel.closeSubpath();
-    Model(painter, lapel, side < 0 ? colour : Mix(colour, Qt::black, 0.25));
+    Model(painter, sitter, lapel, colour, Stuff::Cloth, 2.5);
+    QPainterPath stitches(throat + QPointF(side * (neck + 5), -4));
+    stitches.quadTo(throat + QPointF(side * (neck + 7), 2), throat + QPointF(side * (spread - 3), 11.4));
+    painter.strokePath(stitches, QPen(Faint(Mix(colour, Qt::white, 0.45), 0.55), 0.5, Qt::DashLine));
+    const QPointF pin = throat + QPointF(side * (spread - 10), 4);
+    if (side > 0) Model(painter, sitter, Polygon(pin, 1.9, 4), sitter.eye.lighter(130), Stuff::Glass, 1);
   }
 }
 
 void HighCollar(QPainter& painter, const Sitter& sitter, QColor colour, double height) {
-  const double x = sitter.head.x() + 1;
-  for (const double side : {-1.0, 1.0}) {
-    QPainterPath half(QPointF(x, 105));
-    half.lineTo(x + side * 19, 92);
-    half.lineTo(x + side * 21, 86 - height);
-    half.quadTo(QPointF(x + side * 12, 92 - height * 0.3), QPointF(x, 97));
+  const QPointF throat = Throat(sitter);
+  const double neck = sitter.halfWidth * sitter.frame.neck;
+  for (const double side : {1.0, -1.0}) {
+    QPainterPath half(throat + QPointF(0, 15));
+    half.quadTo(throat + QPointF(side * neck, 12), throat + QPointF(side * (neck + 8), 3));
+    half.quadTo(throat + QPointF(side * (neck + 7), -height * 0.5),
+                throat + QPointF(side * (neck + 9), -6 - height));
+    half.quadTo(throat + QPointF(side * neck * 0.8, 1 - height * 0.2), throat + QPointF(0, 6));
     half.closeSubpath();
-    Model(painter, half, side < 0 ? Mix(colour, Qt::white, 0.1) : Mix(colour, Qt::black, 0.3));
+    Model(painter, sitter, half, colour, Stuff::Cloth, 3);
   }
 }
 
-void Armour(QPainter& painter, const Sitter& sitter) {
-  const double x = sitter.head.x() + 1;
-  const QColor metal = Mix(sitter.cloth, QColor(150, 156, 164), 0.4);
-  for (const double side : {-1.0, 1.0}) {
+void Armour(QPainter& painter, Sitter& sitter) {
+  const QColor metal = Mix(sitter.cloth, QColor(156, 162, 170), 0.45);
+  for (const double side : {1.0, -1.0}) {
+    const QPointF at = Shoulder(sitter, side);
     for (int i = 2; i >= 0; --i) {
       QPainterPath plate;
-      plate.addEllipse(QPointF(x + side * (35 + i * 4), 103 + i * 7), 18, 11);
-      Model(painter, plate, side < 0 ? metal : Mix(metal, Qt::black, 0.3));
+      plate.addEllipse(at + QPointF(-side * (9 - i * 3), 2 + i * 8), 19, 12);
+      Relief relief(painter, plate, 5);
+      relief.Bump(at + QPointF(-side * (9 - i * 3), -4 + i * 8), 1.3, 1.3, 2);
+      relief.Roughen(static_cast<std::uint64_t>(sitter.spec.number), 1.5, 0.12);
+      relief.Cast(painter, 3, 0.55);
+      relief.Paint(painter, sitter.Of(metal, Stuff::Metal));
     }
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(Mix(sitter.hair, Qt::white, 0.3));
-    painter.drawEllipse(QPointF(x + side * 30, 99), 1.8, 1.8);
   }
-  HighCollar(painter, sitter, metal, 4);
+  HighCollar(painter, sitter, Mix(metal, Qt::black, 0.2), 3);
 }
 
 void Furs(QPainter& painter, Sitter& sitter) {
-  const double x = sitter.head.x() + 1;
-  for (int i = 0; i < 90; ++i) {
-    const double along = sitter.chance.Between(-1, 1);
-    const QPointF root(x + along * 40, 86 + along * along * 14 + sitter.chance.Between(-3, 5));
-    painter.setPen(
-        QPen(Mix(sitter.hair, i % 3 == 0 ? Qt::white : Qt::black, sitter.chance.Between(0.05, 0.45)), 2,
-             Qt::SolidLine, Qt::RoundCap));
-    painter.drawLine(root, root + QPointF(along * 7, sitter.chance.Between(4, 9)));
+  const QPointF throat = Throat(sitter);
+  for (int ring = 0; ring < 3; ++ring) {
+    QPainterPath roll;
+    roll.addEllipse(throat + QPointF(0, 4 + ring * 6), sitter.frame.reach * (0.86 - ring * 0.12), 11);
+    Relief fur(painter, Ragged(roll, sitter.chance, 6), 7);
+    fur.Roughen(static_cast<std::uint64_t>(sitter.spec.number + ring), 1.2, 0.8);
+    fur.Cast(painter, 3, 0.5);
+    fur.Paint(painter, sitter.Of(Mix(sitter.hair, sitter.cloth, 0.15 + 0.15 * ring), Stuff::Hair));
   }
 }
 
 void Cables(QPainter& painter, Sitter& sitter) {
-  const double x = sitter.head.x() + 1;
-  for (int i = -3; i <= 3; ++i) {
-    QPainterPath cable(QPointF(x + i * 4, 74));
-    cable.cubicTo(QPointF(x + i * 5, 92), QPointF(x + i * 9, 90), QPointF(x + i * 12, 114));
-    painter.strokePath(cable, QPen(QColor(14, 14, 16), 4));
-    painter.strokePath(cable, QPen(i % 2 == 0 ? sitter.hair : Mix(sitter.cloth, Qt::white, 0.25), 2.4));
-    painter.strokePath(cable.translated(-0.6, 0), QPen(Faint(Qt::white, 0.35), 0.6));
+  const double x = kMiddle;
+  for (int i = -4; i <= 4; ++i) {
+    QPainterPath cable(QPointF(x + i * 4.4, sitter.head.y() + sitter.halfLength * 0.7));
+    cable.cubicTo(QPointF(x + i * 4.6, 94), QPointF(x + i * 10, 88), QPointF(x + i * 13, 116));
+    Model(painter, sitter, Tapered(cable, 2.3, 2.3),
+          i % 2 == 0 ? sitter.hair : Mix(sitter.cloth, Qt::white, 0.2), Stuff::Hide, 3);
   }
 }
 
-void Scarf(QPainter& painter, const Sitter& sitter) {
-  const double x = sitter.head.x() + 1;
+void Scarf(QPainter& painter, Sitter& sitter) {
+  const QPointF throat = Throat(sitter);
   const QColor colour = Mix(sitter.cloth, sitter.eye, 0.35);
+  const double neck = sitter.halfWidth * sitter.frame.neck;
   for (int i = 2; i >= 0; --i) {
     QPainterPath fold;
-    fold.addEllipse(QPointF(x + i * 2 - 2, 84 + i * 5), 22 + i * 4, 7);
-    Model(painter, fold, Mix(colour, Qt::black, i * 0.12));
+    fold.addEllipse(throat + QPointF(i * 2 - 2, i * 6 - 5), neck + 9 + i * 5, 8);
+    Relief wool(painter, fold, 5);
+    QPainterPath creases;
+    for (int k = -3; k <= 3; ++k) {
+      creases.moveTo(throat + QPointF(k * 9 - 3, i * 6 - 12));
+      creases.quadTo(throat + QPointF(k * 8, i * 6 - 4), throat + QPointF(k * 9 + 4, i * 6 + 3));
+    }
+    wool.Line(creases, 1.2, -1, 0.7);
+    wool.Roughen(static_cast<std::uint64_t>(i), 0.8, 0.25);
+    wool.Cast(painter, 2.4, 0.5);
+    wool.Paint(painter, sitter.Of(Mix(colour, Qt::white, i == 1 ? 0.14 : 0.0), Stuff::Cloth));
   }
 }
 
-void Straps(QPainter& painter, const Sitter& sitter) {
-  const double x = sitter.head.x() + 1;
+void Straps(QPainter& painter, Sitter& sitter) {
+  const QPointF throat = Throat(sitter);
+  for (const double side : {1.0, -1.0}) {
+    QPainterPath line(throat + QPointF(side * 30, -2));
+    line.quadTo(throat + QPointF(side * 20, 12), throat + QPointF(side * 2, 38));
+    Model(painter, sitter, Tapered(line, 4.4, 4.4), Mix(sitter.hair, QColor(70, 44, 26), 0.6), Stuff::Hide,
+          2);
+  }
+  const QRectF buckle(throat.x() - 26, throat.y() + 6, 9, 9);
+  QPainterPath frame;
+  frame.addRoundedRect(buckle, 2, 2);
+  frame.addRect(buckle.adjusted(2.4, 2.4, -2.4, -2.4));
+  Model(painter, sitter, frame, QColor(216, 182, 104), Stuff::Metal, 1.5);
+}
+
+void Uniform(QPainter& painter, Sitter& sitter) {
+  const QPointF throat = Throat(sitter);
+  const QColor gold(226, 190, 104);
+  HighCollar(painter, sitter, Mix(sitter.cloth, Qt::black, 0.2), 3);
+  QPainterPath seam(throat + QPointF(0, 14));
+  seam.lineTo(throat + QPointF(0, 40));
+  painter.strokePath(seam, QPen(Faint(gold, 0.8), 1.1));
+  for (int i = 0; i < 3; ++i)
+    Model(painter, sitter, Polygon(throat + QPointF(-30 + i * 6.5, 17), 2.8, 4), gold, Stuff::Metal, 1.5);
   for (const double side : {-1.0, 1.0}) {
-    QPainterPath strap(QPointF(x + side * 24, 90));
-    strap.lineTo(x + side * 32, 93);
-    strap.lineTo(x + side * 6, 116);
-    strap.lineTo(x - side * 4, 116);
-    strap.closeSubpath();
-    Model(painter, strap, Mix(sitter.hair, QColor(70, 44, 26), 0.6));
+    QPainterPath board(Shoulder(sitter, side) + QPointF(-side * 7, -2));
+    board.lineTo(throat + QPointF(side * 23, -1));
+    Model(painter, sitter, Tapered(board, 4.2, 2.6), Mix(sitter.cloth, gold, 0.4), Stuff::Cloth, 2);
   }
-  painter.setPen(QPen(QColor(210, 180, 110), 1.4));
-  painter.setBrush(Qt::NoBrush);
-  painter.drawRect(QRectF(x - 22, 98, 7, 6));
 }
 
-void Uniform(QPainter& painter, const Sitter& sitter) {
-  const double x = sitter.head.x() + 1;
-  HighCollar(painter, sitter, Mix(sitter.cloth, Qt::black, 0.15), 3);
-  painter.setPen(QPen(Mix(sitter.hair, QColor(230, 200, 120), 0.7), 1.4));
-  painter.drawLine(QPointF(x, 102), QPointF(x, 114));
-  for (int i = 0; i < 3; ++i) painter.fillPath(Polygon({x - 26 + i * 5.0, 103}, 2, 4), QColor(228, 196, 110));
-  painter.drawLine(QPointF(x - 46, 101), QPointF(x - 34, 94));
+void PaintBody(QPainter& painter, Sitter& sitter) {
+  const bool bare = sitter.spec.garment == Garment::Straps;
+  const bool metal = sitter.spec.kind == Kind::Machine && sitter.spec.garment != Garment::Jacket;
+  Relief body(painter, Shoulders(sitter), bare ? 16 : 10);
+  const QPointF throat = Throat(sitter);
+  if (bare) {
+    body.Bump(throat + QPointF(-20, 24), 16, 9, 4);
+    body.Bump(throat + QPointF(20, 24), 16, 9, 4);
+  }
+  QPainterPath folds;
+  for (const double side : {-1.0, 1.0}) {
+    folds.moveTo(Shoulder(sitter, side) + QPointF(-side * 5, 2));
+    folds.quadTo(throat + QPointF(side * 24, 14), throat + QPointF(side * 20, 40));
+    folds.moveTo(Shoulder(sitter, side) + QPointF(side * 1, 9));
+    folds.quadTo(throat + QPointF(side * 32, 22), throat + QPointF(side * 30, 44));
+  }
+  body.Line(folds, metal ? 0.9 : 2.2, bare ? -0.5 : -1.5, metal ? 0.3 : 1.1);
+  body.Roughen(static_cast<std::uint64_t>(sitter.spec.number) + 40, 0.8, metal || bare ? 0.08 : 0.22);
+  const QColor colour = bare ? Mix(sitter.skin, Qt::black, 0.1) : sitter.cloth;
+  body.Paint(painter, sitter.Of(colour, metal ? Stuff::Metal : bare ? Stuff::Skin : Stuff::Cloth));
 }
 
 }  // namespace
 
 void PaintGarment(QPainter& painter, Sitter& sitter) {
   const BustSpec& spec = sitter.spec;
-  const bool big = spec.kind == Kind::Stone || spec.garment == Garment::Armour;
-  const QPainterPath body = Shoulders(sitter, big ? 1.12 : 0.86 + 0.16 * spec.jaw, big ? 5 : 0);
-  painter.fillPath(body.translated(1, -1.5), Faint(Qt::black, 0.4));
-  Model(painter, body, spec.garment == Garment::Straps ? Mix(sitter.skin, sitter.cloth, 0.4) : sitter.cloth,
-        0.9);
+  PaintBody(painter, sitter);
   switch (spec.garment) {
     case Garment::Collar:
-      HighCollar(painter, sitter, sitter.cloth, 7);
-      break;
+      return HighCollar(painter, sitter, Mix(sitter.cloth, Qt::white, 0.08), 5);
     case Garment::Robe:
-      Lapels(painter, sitter, Mix(sitter.cloth, sitter.hair, 0.25), 22);
-      break;
+      return Lapels(painter, sitter, Mix(sitter.cloth, sitter.hair, 0.25), 24);
     case Garment::Armour:
-      Armour(painter, sitter);
-      break;
+      return Armour(painter, sitter);
     case Garment::Jacket:
-      Lapels(painter, sitter, Mix(sitter.cloth, Qt::black, 0.3), 27);
-      break;
+      return Lapels(painter, sitter, Mix(sitter.cloth, Qt::black, 0.25), 30);
     case Garment::Scarf:
-      Scarf(painter, sitter);
-      break;
+      return Scarf(painter, sitter);
     case Garment::Fur:
-      Furs(painter, sitter);
-      break;
+      return Furs(painter, sitter);
     case Garment::Cables:
-      Cables(painter, sitter);
-      break;
+      return Cables(painter, sitter);
     case Garment::Gown:
-      HighCollar(painter, sitter, Mix(sitter.cloth, sitter.eye, 0.25), 18);
-      break;
+      return HighCollar(painter, sitter, Mix(sitter.cloth, sitter.eye, 0.25), 17);
     case Garment::Uniform:
-      Uniform(painter, sitter);
-      break;
+      return Uniform(painter, sitter);
     case Garment::Straps:
-      Straps(painter, sitter);
-      break;
+      return Straps(painter, sitter);
   }
 }
 

@@ -1,225 +1,221 @@
-// What is worn on the head, and what grows on it.
+// What is worn on the head.
 #include <cmath>
 
-#include "Bust.h"
+#include "BustProps.h"
 
 namespace kv::datafile {
-
-void PaintBehindHair(QPainter& painter, Sitter& sitter);
-
 namespace {
 
-QPainterPath Petal(QPointF root, QPointF tip, double breadth) {
-  const QPointF way = tip - root;
-  const QPointF across = QPointF(-way.y(), way.x()) * breadth / std::hypot(way.x(), way.y());
-  QPainterPath path(root);
-  path.quadTo(root + way * 0.45 + across, tip);
-  path.quadTo(root + way * 0.45 - across, root);
-  return path;
+constexpr QColor kLeather(74, 50, 34);
+
+QPainterPath HoodShape(const Sitter& sitter) {
+  QPainterPath hood(sitter.Out(-0.1, -1.6));
+  hood.cubicTo(sitter.Out(1.4, -1.4), sitter.Out(1.5, 0.2), sitter.Out(1.75, 2.6));
+  hood.lineTo(sitter.Out(-1.75, 2.6));
+  hood.cubicTo(sitter.Out(-1.5, 0.2), sitter.Out(-1.6, -1.3), sitter.Out(-0.1, -1.6));
+  return hood;
 }
 
-/// A fan of petals over the head; `spread` is half its angle in degrees.
-void Fan(QPainter& painter, Sitter& sitter, int count, double spread, double reach, double breadth) {
-  for (int i = 0; i < count; ++i) {
-    const double angle = (count == 1 ? 0 : -spread + 2 * spread * i / (count - 1)) * 3.14159265 / 180;
-    const QPointF root = sitter.At(std::sin(angle) * 0.75, -std::cos(angle) * 0.7);
-    const QPointF tip = sitter.At(std::sin(angle) * reach, -std::cos(angle) * reach * (i % 2 == 0 ? 1 : 0.9));
-    Model(painter, Petal(root, tip, breadth), Mix(sitter.hair, Qt::black, i % 2 == 0 ? 0.0 : 0.2));
-    painter.setPen(QPen(Faint(Qt::black, 0.3), 0.7));
-    painter.drawLine(root, root + (tip - root) * 0.8);
-  }
-}
-
-void Horns(QPainter& painter, Sitter& sitter) {
+void Hood(QPainter& painter, Sitter& sitter) {
+  QPainterPath opening(sitter.At(-0.02, -0.98));
+  opening.cubicTo(sitter.At(0.95, -0.92), sitter.Out(1.08, 0.3), sitter.Out(0.5, 2.8));
+  opening.lineTo(sitter.Out(-0.5, 2.8));
+  opening.cubicTo(sitter.Out(-1.08, 0.3), sitter.At(-0.95, -0.92), sitter.At(-0.02, -0.98));
+  Relief cloth(painter, HoodShape(sitter).subtracted(opening), 7);
+  QPainterPath folds;
   for (const double side : {-1.0, 1.0}) {
-    QPainterPath horn(sitter.At(side * 0.55, -0.85));
-    horn.cubicTo(sitter.At(side * 1.1, -1.0), sitter.At(side * 1.45, -0.8), sitter.At(side * 1.42, -0.2));
-    horn.cubicTo(sitter.At(side * 1.25, -0.52), sitter.At(side * 1.05, -0.6), sitter.At(side * 0.86, -0.5));
-    horn.closeSubpath();
-    Model(painter, horn, Mix(sitter.hair, QColor(220, 204, 170), 0.5));
-    painter.setPen(QPen(Faint(Qt::black, 0.25), 0.8));
-    for (int i = 0; i < 4; ++i)
-      painter.drawLine(sitter.At(side * (0.8 + 0.14 * i), -0.93 + i * 0.05),
-                       sitter.At(side * (0.84 + 0.12 * i), -0.58 + i * 0.03));
+    folds.moveTo(sitter.Out(side * 0.3, -1.4));
+    folds.cubicTo(sitter.Out(side * 1.2, -0.9), sitter.Out(side * 1.2, 0.2), sitter.Out(side * 1.4, 1.6));
+    folds.moveTo(sitter.Out(side * 0.9, -0.9));
+    folds.quadTo(sitter.Out(side * 1.14, 0.3), sitter.Out(side * 1.06, 1.5));
   }
-}
-
-void EarsOf(QPainter& painter, Sitter& sitter) {
-  const bool furred = sitter.spec.kind == Kind::Furred;
-  for (const double side : {-1.0, 1.0}) {
-    const QPointF root = furred ? sitter.At(side * 0.66, -0.62) : sitter.At(side * 0.9, 0.1);
-    const QPointF tip = furred ? sitter.At(side * 1.0, -1.62) : sitter.At(side * 1.75, -0.72);
-    Model(painter, Petal(root, tip, furred ? 11 : 6.5),
-          side < 0 ? sitter.skin : Mix(sitter.skin, Qt::black, 0.3));
-    painter.fillPath(Petal(root + (tip - root) * 0.15, root + (tip - root) * 0.82, furred ? 6 : 2.8),
-                     Mix(sitter.skin, QColor(150, 60, 60), 0.5));
-  }
-}
-
-void Fins(QPainter& painter, Sitter& sitter) {
-  for (const double side : {-1.0, 1.0}) {
-    for (int i = 0; i < 4; ++i) {
-      const QPointF root = sitter.At(side * 0.9, -0.3 + i * 0.2);
-      const QPointF tip = sitter.At(side * (1.7 - i * 0.12), -0.75 + i * 0.38);
-      Model(painter, Petal(root, tip, 5), Mix(sitter.hair, sitter.skin, i * 0.2));
-    }
-  }
-}
-
-void Antennae(QPainter& painter, Sitter& sitter) {
-  for (const double side : {-1.0, 1.0}) {
-    QPainterPath stem(sitter.At(side * 0.34, -0.9));
-    stem.cubicTo(sitter.At(side * 0.45, -1.35), sitter.At(side * 0.8, -1.5), sitter.At(side * 1.05, -1.46));
-    painter.strokePath(stem, QPen(Mix(sitter.skin, Qt::black, 0.55), 3, Qt::SolidLine, Qt::RoundCap));
-    painter.strokePath(stem.translated(-0.5, -0.5),
-                       QPen(Mix(sitter.hair, Qt::white, 0.15), 1.2, Qt::SolidLine, Qt::RoundCap));
-    QPainterPath knob;
-    knob.addEllipse(sitter.At(side * 1.07, -1.46), 3, 3);
-    Model(painter, knob, sitter.spec.kind == Kind::Machine ? sitter.eye : sitter.hair);
-  }
-}
-
-void Hood(QPainter& painter, Sitter& sitter, bool behind) {
-  QPainterPath hood(sitter.At(0, -1.5));
-  hood.cubicTo(sitter.At(1.5, -1.35), sitter.At(1.6, 0.3), sitter.At(1.7, 1.7));
-  hood.lineTo(sitter.At(-1.7, 1.7));
-  hood.cubicTo(sitter.At(-1.6, 0.3), sitter.At(-1.5, -1.35), sitter.At(0, -1.5));
-  QPainterPath opening(sitter.At(-0.05, -1.02));
-  opening.cubicTo(sitter.At(0.95, -0.95), sitter.At(1.1, 0.1), sitter.At(0.8, 1.3));
-  opening.lineTo(sitter.At(-0.9, 1.3));
-  opening.cubicTo(sitter.At(-1.2, 0.1), sitter.At(-1.05, -0.95), sitter.At(-0.05, -1.02));
-  if (behind) return Model(painter, hood, Mix(sitter.cloth, Qt::black, 0.5));
-  Model(painter, hood.subtracted(opening), Mix(sitter.cloth, Qt::white, 0.06));
+  cloth.Line(folds, 1.6, -1.5, 0.8);
+  cloth.Roughen(static_cast<std::uint64_t>(sitter.spec.number), 0.8, 0.18);
   painter.save();
   painter.setClipPath(opening);
-  painter.strokePath(opening, QPen(Faint(Qt::black, 0.5), 9));
+  for (int i = 1; i <= 18; ++i) {  // the face lies in its shadow
+    painter.strokePath(opening.translated(1, 1.5), QPen(Faint(QColor(6, 3, 8), 0.06), i * 1.5));
+  }
   painter.restore();
+  cloth.Paint(painter, sitter.Of(sitter.cloth, Stuff::Cloth));
 }
 
 void CapAndBrim(QPainter& painter, Sitter& sitter, bool brim) {
-  QPainterPath crown(sitter.At(-1.08, -0.5));
-  crown.cubicTo(sitter.At(-1.06, -1.5), sitter.At(1.06, -1.5), sitter.At(1.08, -0.5));
-  crown.quadTo(sitter.At(0, -0.72), sitter.At(-1.08, -0.5));
+  QPainterPath crown(sitter.Out(-1.1, -0.42));
+  crown.cubicTo(sitter.Out(-1.14, -1.0), sitter.Out(-0.8, brim ? -1.66 : -1.44), sitter.Out(-0.1, -1.44));
+  crown.cubicTo(sitter.Out(0.8, brim ? -1.66 : -1.44), sitter.Out(1.14, -1.0), sitter.Out(1.1, -0.42));
+  crown.quadTo(sitter.At(0, -0.62), sitter.Out(-1.1, -0.42));
   const QColor colour = Mix(sitter.cloth, sitter.hair, brim ? 0.5 : 0.15);
-  Model(painter, crown, colour);
-  QPainterPath rim(brim ? sitter.At(-1.75, -0.42) : sitter.At(-1.3, -0.42));
-  rim.quadTo(sitter.At(-0.2, -0.86), brim ? sitter.At(1.75, -0.42) : sitter.At(0.95, -0.52));
-  rim.quadTo(sitter.At(0, brim ? -0.3 : -0.5), brim ? sitter.At(-1.75, -0.42) : sitter.At(-1.3, -0.42));
-  Model(painter, rim, Mix(colour, Qt::black, 0.3));
-  painter.fillPath(Polygon(sitter.At(-0.1, -0.9), 3.4, brim ? 4 : 5), QColor(228, 190, 90));
+  Relief felt(painter, crown, 14);
+  QPainterPath seams(sitter.Out(0, -1.5));
+  seams.lineTo(sitter.At(0, -0.5));
+  for (const double side : {-1.0, 1.0}) {
+    seams.moveTo(sitter.Out(side * 0.2, -1.42));
+    seams.quadTo(sitter.Out(side * 0.8, -1.1), sitter.At(side * 0.78, -0.46));
+  }
+  felt.Line(seams, 1, brim ? 0 : -1, 0.4);
+  felt.Roughen(7, 0.8, 0.16);
+  felt.Cast(painter, 3, 0.5);
+  felt.Paint(painter, sitter.Of(colour, Stuff::Cloth));
+  QPainterPath rim(brim ? sitter.Out(-1.8, -0.5) : sitter.At(-0.98, -0.48));
+  if (brim) {
+    rim.cubicTo(sitter.Out(-1.0, -0.8), sitter.Out(1.0, -0.8), sitter.Out(1.8, -0.42));
+    rim.cubicTo(sitter.Out(1.0, -0.1), sitter.Out(-1.0, -0.14), sitter.Out(-1.8, -0.5));
+  } else {  // a peak to where the face looks
+    rim.quadTo(sitter.At(0, -0.74), sitter.At(0.98, -0.48));
+    rim.cubicTo(sitter.At(0.9, -0.2, 0.4), sitter.At(-0.4, -0.2, 0.4), sitter.At(-0.98, -0.48));
+  }
+  Relief peak(painter, rim, 3);
+  peak.Cast(painter, 4, 0.6);
+  peak.Paint(painter, sitter.Of(Mix(colour, Qt::black, 0.25), Stuff::Cloth));
+  if (!brim) return Model(painter, sitter, Polygon(sitter.At(0, -0.84), 3.8, 5), kGold, Stuff::Metal, 2);
+  QPainterPath band(sitter.Out(-1.1, -0.56));
+  band.quadTo(sitter.Out(0, -0.84), sitter.Out(1.1, -0.56));
+  Model(painter, sitter, Tapered(band, 2, 2), Mix(sitter.eye, kLeather, 0.6), Stuff::Cloth, 2);
 }
 
 void Goggles(QPainter& painter, Sitter& sitter) {
-  painter.setPen(QPen(Mix(sitter.cloth, Qt::black, 0.5), 4));
-  painter.drawLine(sitter.At(-1.02, -0.52), sitter.At(1.02, -0.52));
-  for (const double x : {-0.46, 0.4}) {
+  QPainterPath strap(sitter.Out(-1.08, -0.4));
+  strap.quadTo(sitter.At(0, -0.62), sitter.Out(1.08, -0.4));
+  Model(painter, sitter, Tapered(strap, 2.4, 2.4), kLeather, Stuff::Cloth, 2);
+  for (const double x : {0.42, -0.42}) {
+    const double away = std::max(0.0, (x > 0 ? 1 : -1) * sitter.spec.turn);
     QPainterPath rim;
-    rim.addEllipse(sitter.At(x, -0.56), 7.6, 6.4);
-    Model(painter, rim, QColor(150, 116, 70));
+    rim.addEllipse(sitter.At(x, -0.6, 0.03), 9.4 * (1 - 0.25 * away), 8.2);
+    Model(painter, sitter, rim, QColor(176, 132, 78), Stuff::Metal, 4);
     QPainterPath glass;
-    glass.addEllipse(sitter.At(x, -0.56), 5.4, 4.4);
-    Model(painter, glass, Mix(sitter.eye, QColor(40, 70, 90), 0.5));
-    Spot(painter, sitter.At(x - 0.1, -0.63), 2.4, Qt::white, 0.8);
+    glass.addEllipse(sitter.At(x, -0.6, 0.04), 6.8 * (1 - 0.25 * away), 5.8);
+    Model(painter, sitter, glass, Mix(sitter.eye, QColor(30, 70, 96), 0.6), Stuff::Glass, 6);
+    Spot(painter, sitter.At(x - 0.1, -0.68, 0.04), 2.6, Qt::white, 0.85);
   }
 }
 
 void Visor(QPainter& painter, Sitter& sitter) {
-  QPainterPath band(sitter.At(-1.06, -0.24));
-  band.quadTo(sitter.At(0, -0.38), sitter.At(1.06, -0.24));
-  band.lineTo(sitter.At(1.0, 0.1));
-  band.quadTo(sitter.At(0, 0.2), sitter.At(-1.0, 0.1));
+  QPainterPath band(sitter.Out(-1.08, -0.28));
+  band.quadTo(sitter.At(0, -0.36, 0.1), sitter.Out(1.08, -0.28));
+  band.lineTo(sitter.Out(1.02, 0.04));
+  band.quadTo(sitter.At(0.3, 0.3, 0.1), sitter.At(0, 0.1, 0.12));
+  band.quadTo(sitter.At(-0.3, 0.3, 0.1), sitter.Out(-1.02, 0.04));
   band.closeSubpath();
-  Model(painter, band, Mix(sitter.eye, Qt::black, 0.3));
-  QPainterPath shine(sitter.At(-0.85, -0.2));
-  shine.lineTo(sitter.At(-0.3, -0.27));
-  shine.lineTo(sitter.At(-0.55, 0.08));
-  shine.lineTo(sitter.At(-0.9, 0.05));
+  Model(painter, sitter, band, Mix(sitter.eye, Qt::black, 0.35), Stuff::Glass, 8);
+  QPainterPath shine(sitter.At(-0.8, -0.2));
+  shine.lineTo(sitter.At(-0.36, -0.25));
+  shine.lineTo(sitter.At(-0.6, 0.12));
+  shine.lineTo(sitter.At(-0.84, 0.06));
   painter.fillPath(shine, Faint(Qt::white, 0.4));
-  painter.strokePath(band, QPen(QColor(190, 198, 208), 1));
+  QPainterPath light(sitter.At(0.1, -0.12, 0.1));
+  light.lineTo(sitter.At(0.7, -0.12, 0.02));
+  Glow(painter, light, sitter.eye.lighter(150), 0.9, 4);
 }
 
 void Helmet(QPainter& painter, Sitter& sitter) {
-  QPainterPath shell(sitter.At(-1.16, 0.5));
-  shell.cubicTo(sitter.At(-1.3, -1.5), sitter.At(1.3, -1.5), sitter.At(1.16, 0.5));
-  shell.lineTo(sitter.At(0.86, 0.42));
-  shell.quadTo(sitter.At(0.94, -0.44), sitter.At(0, -0.46));
-  shell.quadTo(sitter.At(-0.94, -0.44), sitter.At(-0.86, 0.42));
+  QPainterPath shell(sitter.Out(-1.2, 0.62));
+  shell.cubicTo(sitter.Out(-1.5, -1.9), sitter.Out(1.5, -1.9), sitter.Out(1.2, 0.62));
+  shell.lineTo(sitter.At(0.82, 0.5));
+  shell.quadTo(sitter.At(0.9, -0.38), sitter.At(0.1, -0.36));
+  shell.lineTo(sitter.At(0, -0.1, 0.06));
+  shell.lineTo(sitter.At(-0.1, -0.36));
+  shell.quadTo(sitter.At(-0.9, -0.38), sitter.At(-0.82, 0.5));
   shell.closeSubpath();
-  Model(painter, shell, Mix(sitter.cloth, QColor(140, 150, 160), 0.45));
-  QPainterPath ridge(sitter.At(0, -1.06));
-  ridge.lineTo(sitter.At(0, -0.5));
-  Glow(painter, ridge, sitter.back.lighter(160), 1.6, 3);
+  Relief metal(painter, shell, 9);
+  QPainterPath ridge(sitter.Out(0, -1.4));
+  ridge.lineTo(sitter.At(0, -0.3, 0.06));
+  metal.Line(ridge, 4, 2.4, 0.7);
+  QPainterPath seam(sitter.Out(-1.2, -0.2));
+  seam.quadTo(sitter.At(0, -0.66), sitter.Out(1.2, -0.2));
+  metal.Line(seam, 1.1, -1.6, 0.3);
+  metal.Roughen(3, 1.6, 0.1);
+  metal.Cast(painter, 3, 0.6);
+  metal.Paint(painter, sitter.Of(Mix(sitter.cloth, QColor(150, 160, 168), 0.5), Stuff::Metal));
 }
 
 void Circlet(QPainter& painter, Sitter& sitter) {
-  QPainterPath ring(sitter.At(-1.0, -0.46));
-  ring.quadTo(sitter.At(0, -0.72), sitter.At(1.0, -0.46));
-  painter.strokePath(ring, QPen(QColor(110, 80, 26), 3.4));
-  painter.strokePath(ring.translated(-0.3, -0.5), QPen(QColor(246, 214, 124), 1.8));
-  Model(painter, Polygon(sitter.At(0, -0.62), 4.6, 4), sitter.eye.lighter(120));
-  Spot(painter, sitter.At(-0.05, -0.66), 2, Qt::white, 0.9);
+  QPainterPath ring(sitter.Out(-1.02, -0.42));
+  ring.quadTo(sitter.At(0, -0.6), sitter.Out(1.02, -0.42));
+  Model(painter, sitter, Tapered(ring, 1.7, 1.7), kGold, Stuff::Metal, 2);
+  QPainterPath point = Polygon(sitter.At(0, -0.64, 0.03), 6.4, 4);
+  Model(painter, sitter, point, kGold, Stuff::Metal, 2);
+  Model(painter, sitter, Polygon(sitter.At(0, -0.64, 0.03), 4.2, 4), sitter.eye.lighter(120), Stuff::Glass,
+        3);
+  Spot(painter, sitter.At(-0.06, -0.7, 0.03), 1.8, Qt::white, 0.9);
 }
 
 void BandAndWrap(QPainter& painter, Sitter& sitter, bool wrap) {
   for (int i = wrap ? 4 : 0; i >= 0; --i) {
-    QPainterPath fold(sitter.At(-1.06, -0.42 - i * 0.13));
-    fold.quadTo(sitter.At(0, -0.78 - i * 0.16), sitter.At(1.06, -0.42 - i * 0.13));
-    fold.quadTo(sitter.At(1.14, -0.68 - i * 0.14), sitter.At(0.98, -0.72 - i * 0.12));
-    fold.quadTo(sitter.At(0, -1.1 - i * 0.14), sitter.At(-0.98, -0.72 - i * 0.12));
-    fold.closeSubpath();
-    Model(painter, fold, i % 2 == 0 ? sitter.cloth : Mix(sitter.cloth, Qt::white, 0.15));
+    const double bulge = wrap ? 0.16 * std::sin((i + 1) * 0.62) : 0.02;
+    QPainterPath fold(sitter.Out(-1.04 - bulge, -0.36 - i * 0.19));
+    fold.quadTo(sitter.At(i % 2 == 0 ? 0.3 : -0.3, -0.6 - i * 0.19),
+                sitter.Out(1.04 + bulge, -0.36 - i * 0.19));
+    fold.cubicTo(sitter.Out(1.2 + bulge, -0.76 - i * 0.19), sitter.Out(0.6, -0.98 - i * 0.17),
+                 sitter.Out(0, -0.98 - i * 0.17));
+    fold.cubicTo(sitter.Out(-0.6, -0.98 - i * 0.17), sitter.Out(-1.2 - bulge, -0.76 - i * 0.19),
+                 sitter.Out(-1.04 - bulge, -0.36 - i * 0.19));
+    Model(painter, sitter, fold, i % 2 == 0 ? sitter.cloth : Mix(sitter.cloth, Qt::white, 0.15), Stuff::Cloth,
+          5);
   }
-  if (wrap) painter.fillPath(Polygon(sitter.At(0, -0.8), 4, 6), Mix(sitter.back, Qt::white, 0.5));
+  if (wrap)
+    Model(painter, sitter, Polygon(sitter.At(0, -0.72, 0.1), 4.6, 6), sitter.back.lighter(150), Stuff::Glass,
+          4);
 }
 
 void Pods(QPainter& painter, Sitter& sitter) {
   for (const double side : {-1.0, 1.0}) {
+    if (side * sitter.spec.turn > 0.5) continue;
+    const QPointF at = sitter.Out(side * (1.1 - 0.25 * std::max(0.0, -side * sitter.spec.turn)), -0.04);
     QPainterPath pod;
-    pod.addRoundedRect(QRectF(sitter.At(side * 1.14, -0.05) - QPointF(5, 9), QSizeF(10, 18)), 4, 4);
-    Model(painter, pod, Mix(sitter.hair, Qt::black, 0.2));
+    pod.addRoundedRect(QRectF(at - QPointF(6.4, 11), QSizeF(12.8, 22)), 6, 6);
+    Model(painter, sitter, pod, Mix(sitter.hair, Qt::black, 0.15), Stuff::Metal, 5);
+    Spot(painter, at, 6, sitter.eye, 0.6);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(Mix(sitter.eye, Qt::white, 0.3));
-    painter.drawEllipse(sitter.At(side * 1.14, -0.05), 1.8, 1.8);
+    painter.setBrush(Mix(sitter.eye, Qt::white, 0.4));
+    painter.drawEllipse(at, 2.3, 2.3);
   }
 }
 
+/// A bowl of glass with its own air, for those who cannot breathe ours.
+void Bowl(QPainter& painter, Sitter& sitter) {
+  QPainterPath bowl;
+  bowl.addEllipse(sitter.head + QPointF(0, 2), sitter.halfLength * 1.32, sitter.halfLength * 1.34);
+  QRadialGradient glass(sitter.head + QPointF(4, 6), sitter.halfLength * 1.34);
+  glass.setColorAt(0.6, Faint(sitter.back.lighter(140), 0.03));
+  glass.setColorAt(1, Faint(Mix(sitter.back, Qt::white, 0.5), 0.42));
+  painter.fillPath(bowl, glass);
+  painter.strokePath(bowl, QPen(Faint(Mix(sitter.back, Qt::white, 0.65), 0.8), 1));
+  QPainterPath shine(sitter.Out(-1.12, -0.5));
+  shine.quadTo(sitter.Out(-0.95, -1.05), sitter.Out(-0.4, -1.22));
+  painter.fillPath(Tapered(shine, 2.6, 0.8), Faint(Qt::white, 0.6));
+  QPainterPath ring;
+  ring.addRoundedRect(QRectF(sitter.head.x() - 30, sitter.head.y() + sitter.halfLength * 1.14, 60, 10), 4, 4);
+  Model(painter, sitter, ring, Mix(sitter.cloth, QColor(170, 176, 180), 0.6), Stuff::Metal, 4);
+}
+
 void Patch(QPainter& painter, Sitter& sitter) {
-  painter.setPen(QPen(QColor(20, 16, 16), 1.8));
-  painter.drawLine(sitter.At(-0.9, -0.5), sitter.At(0.95, 0.12));
+  QPainterPath cord(sitter.Out(-0.92, -0.62));
+  cord.quadTo(sitter.At(0, -0.36), sitter.Out(1.0, 0.14));
+  painter.strokePath(cord, QPen(QColor(24, 18, 18), 1.6));
   QPainterPath patch;
-  patch.addEllipse(sitter.At(0.38, -0.06), 7, 6);
-  Model(painter, patch, QColor(36, 30, 32));
+  patch.addEllipse(sitter.At(sitter.plan.eyeX, sitter.plan.eyeY + 0.02), 7.6, 7);
+  Model(painter, sitter, patch, QColor(46, 36, 38), Stuff::Hide, 4);
 }
 
 void Monocle(QPainter& painter, Sitter& sitter) {
-  painter.setBrush(Faint(QColor(160, 220, 255), 0.16));
-  painter.setPen(QPen(QColor(236, 200, 110), 1.3));
-  painter.drawEllipse(sitter.At(0.37, -0.07), 7, 6.6);
-  painter.drawLine(sitter.At(0.7, 0.02), sitter.At(0.98, 0.9));
+  const QPointF at = sitter.At(sitter.plan.eyeX, sitter.plan.eyeY + 0.01, 0.02);
+  Spot(painter, at - QPointF(3, 3), 4, Qt::white, 0.3);
+  painter.setBrush(Faint(QColor(150, 215, 255), 0.14));
+  painter.setPen(QPen(kGold.darker(150), 2.2));
+  painter.drawEllipse(at, 8, 7.6);
+  painter.setPen(QPen(kGold.lighter(140), 0.9));
+  painter.drawEllipse(at - QPointF(0.3, 0.4), 8, 7.6);
+  QPainterPath chain(at + QPointF(6.5, 4.5));
+  chain.quadTo(at + QPointF(12, 22), at + QPointF(8, 40));
+  painter.strokePath(chain, QPen(kGold.lighter(120), 0.9, Qt::DotLine));
 }
 
 }  // namespace
 
-void PaintBehind(QPainter& painter, Sitter& sitter) {
-  PaintBehindHair(painter, sitter);
-  switch (sitter.spec.gear) {
-    case Gear::Hood:
-      return Hood(painter, sitter, true);
-    case Gear::Ears:
-      return EarsOf(painter, sitter);
-    case Gear::Fins:
-      return Fins(painter, sitter);
-    case Gear::Crest:
-      return Fan(painter, sitter, 5, 34, 1.5, 5);
-    case Gear::Fronds:
-      return Fan(painter, sitter, 9, 100, 1.62, 6);
-    case Gear::Spines:
-      return Fan(painter, sitter, 11, 95, 1.45, 2);
-    case Gear::Plumes:
-      return Fan(painter, sitter, 7, 60, 1.62, 5);
-    default:
-      return;
-  }
+void PaintGearBehind(QPainter& painter, Sitter& sitter) {
+  if (sitter.spec.gear == Gear::Hood)
+    Model(painter, sitter, HoodShape(sitter), Mix(sitter.cloth, Qt::black, 0.7), Stuff::Cloth, 8);
 }
 
 void PaintGear(QPainter& painter, Sitter& sitter) {
@@ -227,29 +223,25 @@ void PaintGear(QPainter& painter, Sitter& sitter) {
   if (sitter.spec.mark == Mark::Monocle) Monocle(painter, sitter);
   switch (sitter.spec.gear) {
     case Gear::Cap:
-      return CapAndBrim(painter, sitter, false);
     case Gear::Brim:
-      return CapAndBrim(painter, sitter, true);
+      return CapAndBrim(painter, sitter, sitter.spec.gear == Gear::Brim);
     case Gear::Hood:
-      return Hood(painter, sitter, false);
+      return Hood(painter, sitter);
     case Gear::Visor:
       return Visor(painter, sitter);
     case Gear::Goggles:
       return Goggles(painter, sitter);
     case Gear::Band:
-      return BandAndWrap(painter, sitter, false);
     case Gear::Wrap:
-      return BandAndWrap(painter, sitter, true);
+      return BandAndWrap(painter, sitter, sitter.spec.gear == Gear::Wrap);
     case Gear::Helmet:
       return Helmet(painter, sitter);
-    case Gear::Antennae:
-      return Antennae(painter, sitter);
-    case Gear::Horns:
-      return Horns(painter, sitter);
     case Gear::Circlet:
       return Circlet(painter, sitter);
     case Gear::Pods:
       return Pods(painter, sitter);
+    case Gear::Bowl:
+      return Bowl(painter, sitter);
     default:
       return;
   }

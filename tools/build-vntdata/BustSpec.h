@@ -7,30 +7,68 @@
 namespace kv::datafile {
 
 enum class Kind { Human, Smooth, Reptile, Aquatic, Insect, Furred, Stone, Leaf, Avian, Machine };
-enum class Hair { None, Short, Long, Mohawk, Bun, Braids, Curly, Slick, Receding, Bob };
-enum class Gear {
+/// The outline of the head. From Box on they are made of metal.
+enum class Shape {
+  Egg,
+  Round,
+  Square,
+  Heart,
+  Dome,
+  Block,
+  Hammer,
+  Wedge,
+  Bulb,
+  Frog,
+  Cone,
+  Cat,
+  Bird,
+  Box,
+  Tank,
+  Lamp,
+  Screen,
+  Bucket,
+  Orb
+};
+enum class Build { Usual, Slim, Broad, Hunched, Tall, Stout, Low, Leaning };
+enum class Place { Bar, Window, Neon, Haze, Lamps, Screens };
+enum class Mood {
+  Calm,
+  Smile,
+  Grin,
+  Smirk,
+  Scowl,
+  Wink,
+  Laugh,
+  Sleepy,
+  Surprised,
+  Suspicious,
+  Sad,
+  Sneer,
+  Proud
+};
+enum class Hair { None, Short, Long, Mohawk, Bun, Braids, Curly, Slick, Receding, Bob, Wild };
+/// What is worn on the head.
+enum class Gear { None, Cap, Hood, Visor, Goggles, Band, Helmet, Circlet, Wrap, Brim, Pods, Bowl };
+/// What grows on the head, or is bolted to it.
+enum class Growth {
   None,
-  Cap,
-  Hood,
-  Visor,
-  Goggles,
-  Band,
-  Helmet,
   Antennae,
   Horns,
+  RamHorns,
+  Antlers,
   Crest,
   Fins,
   Ears,
+  LongEars,
   Fronds,
   Spines,
   Plumes,
-  Circlet,
-  Wrap,
-  Brim,
-  Pods
+  Mane,
+  Stalks,
+  Tendrils
 };
-enum class Eyes { Plain, Narrow, Slit, Facets, Glow, Four, One, Wide, Tired, Lens };
-enum class Mouth { Smile, Frown, Flat, Smirk, Fangs, Grille, Beak, Mandibles, Muzzle, Open };
+enum class Eyes { Plain, Slit, Dark, Facets, Glow, Four, One, Lens };
+enum class Mouth { Lips, Fangs, Tusks, Wide, Beak, Mandibles, Muzzle, Feelers, Grille };
 enum class Garment { Collar, Robe, Armour, Jacket, Scarf, Fur, Cables, Gown, Uniform, Straps };
 enum class Mark {
   None,
@@ -44,23 +82,33 @@ enum class Mark {
   Wrinkles,
   Patch,
   Plates,
-  Monocle
+  Monocle,
+  Spots,
+  Stubble
 };
 
 struct BustSpec {
   int number;
   Kind kind;
+  Shape shape;
+  Build build;
+  Place place;
   QRgb skin;
   QRgb cloth;
   QRgb hair;  // or trim, crest, fur
-  QRgb back;  // the light behind
+  QRgb back;  // the light of the room
   QRgb eye;
   double width;   // of the head, 1 is usual
   double length;  // of the head
   double jaw;     // 0 pointed to 1 square
+  double tilt;    // degrees, clockwise
+  double turn;    // -1 looks to the left, 1 to the right
+  double nod;     // -1 looks up, 1 down
   Hair hairStyle;
   Gear gear;
+  Growth growth;
   Eyes eyes;
+  Mood mood;
   Mouth mouth;
   Garment garment;
   Mark mark;

@@ -14,7 +14,7 @@
 namespace kv::datafile {
 namespace {
 
-constexpr int kBackgroundQuality = 92;
+constexpr int kBackgroundQuality = 85;
 constexpr int kPortraitQuality = 93;
 
 bool InGifGroup(int number) {

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kPaletteColours = 255;  // one of the 256 is left for the clear pixels
 constexpr int kOpaque = 128;          // alpha from which a pixel is drawn; GIF knows no half-way
-constexpr float kDither = 0.8F;
+constexpr float kDither = 0.5F;
 
 struct Indexed {
   std::vector<std::uint8_t> pixels;

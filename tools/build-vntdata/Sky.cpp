@@ -4,6 +4,26 @@
 
 namespace kv::datafile {
 
+namespace {
+
+constexpr double kTownReach = 440;  // how far along the horizon towns lie, in layout pixels
+
+/// The lights of towns on the night side of a world's horizon.
+void Towns(QPainter& painter, QPointF centre, double radius, double reach, std::uint64_t seed) {
+  Chance chance(seed);
+  painter.setPen(Qt::NoPen);
+  for (int i = 0; i < 420; ++i) {
+    const double turn = chance.Between(-reach, reach * 0.8) + 0.02 * std::floor(chance.Unit() * 4);
+    const double depth = radius * (1 - std::pow(chance.Unit(), 2) * 0.04) - 4;
+    const QPointF at = centre + QPointF(std::sin(turn), -std::cos(turn)) * depth;
+    painter.setBrush(Faint(Mix(kAmber, Qt::white, chance.Unit() * 0.5), chance.Between(0.15, 0.8)));
+    const double size = chance.Between(0.3, 0.9);
+    painter.drawEllipse(at, size * 1.6, size * 0.7);
+  }
+}
+
+}  // namespace
+
 void Stars(QPainter& painter, QRectF area, std::uint64_t seed, int count) {
   Chance chance(seed);
   painter.setPen(Qt::NoPen);
@@ -122,6 +142,23 @@ void Station(QPainter& painter, QPointF centre, double size, const Style& style)
   }
   for (int i = 0; i < 5; ++i) painter.drawEllipse(QPointF(-0.04, -0.15 + 0.07 * i), 0.012, 0.012);
   painter.restore();
+}
+
+void Horizon(QPainter& painter, QPointF centre, double radius, std::uint64_t seed) {
+  for (int i = 12; i >= 1; --i) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Faint(kSlate.accent, 0.028));
+    painter.drawEllipse(centre, radius + i * 3.2, radius + i * 3.2);
+  }
+  QPainterPath ball;
+  ball.addEllipse(centre, radius, radius);
+  QRadialGradient body(centre, radius);
+  body.setColorAt(0.8, QColor(4, 8, 15));
+  body.setColorAt(0.97, QColor(10, 24, 40));
+  body.setColorAt(1, QColor(60, 140, 190));
+  painter.fillPath(ball, body);
+  Towns(painter, centre, radius, kTownReach / radius, seed);
+  painter.strokePath(ball, QPen(Faint(QColor(170, 226, 255), 0.8), 1.2));
 }
 
 }  // namespace kv::datafile

@@ -12,6 +12,9 @@ void Nebula(QPainter& painter, QRectF area, std::uint64_t seed, QColor first, QC
 void World(QPainter& painter, QPointF centre, double radius, QColor lit, QColor shade, std::uint64_t seed);
 /// A ring around a world: the half behind it, or the half before it.
 void Ring(QPainter& painter, QPointF centre, double radius, double tilt, QColor colour, bool front);
+/// A world so near that only its upper edge is seen, with its air lit from behind and towns on its night
+/// side.
+void Horizon(QPainter& painter, QPointF centre, double radius, std::uint64_t seed);
 /// A spindle with a wheel, seen from the side: the station with the tables.
 void Station(QPainter& painter, QPointF centre, double size, const Style& style);
 

@@ -1,44 +1,23 @@
 #include "StartPictures.h"
 
 #include "Brush.h"
-#include "Lettering.h"
 #include "Sky.h"
+#include "Title.h"
 
 namespace kv::datafile {
 namespace {
 
 constexpr QPointF kTitleAt(20, 36);
-constexpr QSizeF kTitleSize(440, 90);
 constexpr QPointF kLineAt(20, 130);
 constexpr QSizeF kLineSize(440, 12);
 
 void PaintScene(QPainter& painter) {
   const QRectF scene(0, 0, 480, 320);
-  painter.fillRect(scene, Downward(scene, kNight, {16, 28, 48}));
-  Stars(painter, QRectF(0, 0, 480, 320), 4001, 150);
-  World(painter, {240, 560}, 340, {70, 110, 150}, {20, 34, 56}, 4002);
-  Station(painter, {240, 210}, 54, kEmber);
-}
-
-void PaintTitle(QPainter& painter, bool lit) {
-  for (const bool second : {false, true}) {
-    const double height = second ? 32 : 26;
-    QPainterPath path = LetteringPath(second ? QStringLiteral("VANTRI") : QStringLiteral("KELM"), height,
-                                      second ? 0.55 : 0.9);
-    const QPointF middle(kTitleSize.width() / 2, second ? 66 : 20);
-    path.translate(middle - path.boundingRect().center());
-    painter.strokePath(path.translated(1, 1.5),
-                       QPen(Faint(Qt::black, 0.8), height / 5, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
-    const QColor colour = second ? kSlate.accent : kAmber;
-    if (lit) {
-      Glow(painter, path, colour, height / 9, 9);
-      painter.strokePath(
-          path, QPen(Mix(colour, Qt::white, 0.55), height / 9, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
-    } else {
-      painter.strokePath(
-          path, QPen(Mix(colour, Qt::black, 0.45), height / 8, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
-    }
-  }
+  painter.fillRect(scene, Downward(scene, kNight, {14, 28, 52}));
+  Nebula(painter, {0, -60, 480, 260}, 4003, {0, 100, 190}, {120, 60, 90});
+  Stars(painter, {0, 0, 480, 160}, 4001, 170);
+  Spot(painter, {240, 150}, 210, kSlate.accent, 0.22);
+  Horizon(painter, {240, 984}, 860, 4002);
 }
 
 void PaintLine(QPainter& painter, bool lit) {

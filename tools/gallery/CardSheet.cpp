@@ -1,6 +1,7 @@
 #include "CardSheet.h"
 
 #include <QLabel>
+#include <QPalette>
 #include <array>
 
 #include "cards/ctlCard.h"
@@ -22,6 +23,9 @@ constexpr const char* kTitles[] = {"plain", "disabled", "pulsing", "with its cou
 }  // namespace
 
 CardSheet::CardSheet(const frmGlobals& globals) : globals_(globals) {
+  // As dark as the wells that cards lie in.
+  setPalette(QPalette(QColor(230, 230, 230), QColor(14, 15, 18)));
+  setAutoFillBackground(true);
   for (int row = 0; row < kRows; ++row) AddRow(kTitles[row], row);
   setFixedSize(childrenRect().size() + QSize(2 * kGap, 2 * kGap));
 }

@@ -1,7 +1,12 @@
 #include "Gallery.h"
 
 #include <QPixmap>
+#include <algorithm>
 #include <filesystem>
+#include <iomanip>
+#include <sstream>
+
+#include "Contrast.h"
 
 namespace kv {
 namespace {
@@ -20,6 +25,14 @@ void Gallery::Save(QWidget& screen, const std::string& name) {
   QCoreApplication::processEvents();
   const std::string file = style_ + "-" + name + "@" + std::to_string(scale_) + ".png";
   if (!screen.grab().save(QString::fromStdString(folder_ + "/" + file))) failed_.push_back(file);
+  if (!measures_) return;
+  for (const auto& [control, ratio] : MeasureContrast(screen)) {
+    leastContrast_ = std::min(leastContrast_, ratio);
+    if (ratio >= kLeastContrast) continue;
+    std::ostringstream line;
+    line << file << ' ' << control.toStdString() << ' ' << std::fixed << std::setprecision(2) << ratio;
+    faintTexts_.push_back(line.str());
+  }
 }
 
 void FillSamplePlayer(clsPlayer& player) {

@@ -20,6 +20,11 @@ class Gallery {
   [[nodiscard]] std::vector<std::string> Render();
 
   void Save(QWidget& screen, const std::string& name);
+  /// From now on also measures how well the texts of each screen can be read.
+  void MeasureTexts() { measures_ = true; }
+  /// One line for each text that cannot be read well enough, and the least contrast of all.
+  [[nodiscard]] const std::vector<std::string>& faintTexts() const { return faintTexts_; }
+  [[nodiscard]] double leastContrast() const { return leastContrast_; }
   [[nodiscard]] const std::string& style() const { return style_; }
   [[nodiscard]] int scale() const { return scale_; }
 
@@ -28,6 +33,9 @@ class Gallery {
   const std::string style_;
   const int scale_;
   std::vector<std::string> failed_;
+  bool measures_ = false;
+  std::vector<std::string> faintTexts_;
+  double leastContrast_ = 21;
 };
 
 /// Each renders one group of screens.

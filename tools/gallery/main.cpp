@@ -1,7 +1,10 @@
-// vantri-gallery FOLDER: renders every screen in both styles, at scale 1 and 2. The data file and the fonts
+// vantri-gallery FOLDER [--contrast]: renders every screen in both styles, at scale 1 and 2, and fails if a
+// text of theirs has a contrast of less than 4.5 to 1 where that is asked for. The data file and the fonts
 // are those beside this tool.
 #include <QApplication>
 #include <QProcess>
+#include <algorithm>
+#include <cstring>
 #include <filesystem>
 #include <iostream>
 
@@ -15,7 +18,7 @@ namespace {
 constexpr const char* kScale = "QT_SCALE_FACTOR";
 
 /// The scale belongs to a whole process: one for each.
-int RenderInProcesses(const QString& folder) {
+int RenderInProcesses(const QStringList& arguments) {
   int result = 0;
   for (const char* scale : {"1", "2"}) {
     QProcess process;
@@ -23,9 +26,27 @@ int RenderInProcesses(const QString& folder) {
     environment.insert(QString::fromLatin1(kScale), QString::fromLatin1(scale));
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::ForwardedChannels);
-    process.start(QCoreApplication::applicationFilePath(), {folder});
+    process.start(QCoreApplication::applicationFilePath(), arguments);
     if (!process.waitForFinished(-1) || process.exitStatus() != QProcess::NormalExit) return 1;
     result = std::max(result, process.exitCode());
+  }
+  return result;
+}
+
+int RenderStyle(kv::Gallery gallery, bool contrast) {
+  if (contrast) gallery.MeasureTexts();
+  int result = 0;
+  for (const std::string& file : gallery.Render()) {
+    std::cerr << "vantri-gallery: " << file << " could not be written\n";
+    result = 1;
+  }
+  for (const std::string& text : gallery.faintTexts()) {
+    std::cerr << "vantri-gallery: too faint: " << text << '\n';
+    result = 1;
+  }
+  if (contrast) {
+    std::cout << gallery.style() << " @" << gallery.scale() << ": least contrast " << gallery.leastContrast()
+              << '\n';
   }
   return result;
 }
@@ -33,8 +54,9 @@ int RenderInProcesses(const QString& folder) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 2) {
-    std::cerr << "usage: vantri-gallery FOLDER\n";
+  const bool contrast = argc == 3 && std::strcmp(argv[2], "--contrast") == 0;
+  if (argc != 2 && !contrast) {
+    std::cerr << "usage: vantri-gallery FOLDER [--contrast]\n";
     return 2;
   }
   qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -45,7 +67,7 @@ int main(int argc, char** argv) {
   const int scale = qEnvironmentVariableIntValue(kScale);
   const std::string folder = argv[1];
   std::filesystem::create_directories(folder);
-  if (scale < 1) return RenderInProcesses(QString::fromStdString(folder));
+  if (scale < 1) return RenderInProcesses(QCoreApplication::arguments().mid(1));
 
   kv::test::ScriptedDialogs dialogs;
   kv::QtFontSystem fonts;
@@ -54,10 +76,7 @@ int main(int argc, char** argv) {
   }
   int result = 0;
   for (const char* style : {"Slate", "Ember"}) {
-    for (const std::string& file : kv::Gallery(folder, style, scale).Render()) {
-      std::cerr << "vantri-gallery: " << file << " could not be written\n";
-      result = 1;
-    }
+    result = std::max(result, RenderStyle(kv::Gallery(folder, style, scale), contrast));
   }
   return result;
 }

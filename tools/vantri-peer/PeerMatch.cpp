@@ -1,0 +1,49 @@
+#include "vantri-peer/PeerMatch.h"
+
+namespace kv {
+namespace {
+
+// Milliseconds; all but the last are those of the match screen.
+constexpr int kGameInterval = 50;
+constexpr int kAutoDialogsInterval = 800;
+constexpr int kNetWaitInterval = 50;
+constexpr int kReadingInterval = 50;
+
+}  // namespace
+
+PeerMatch::PeerMatch(const PeerServices& services)
+    : PeerScreen(services),
+      engine_(services.game, MatchOptionsOf(services.player), *this, services.network, services.booking,
+              services.report, services.random),
+      tmrGame_(NewTimer(kGameInterval, [this] { engine_.GameTick(); })),
+      tmrAutoDialogs_(NewTimer(kAutoDialogsInterval, [this] { engine_.AutoDialogsTick(); })),
+      tmrNetWait_(NewTimer(kNetWaitInterval, [this] { engine_.NetWaitTick(); })),
+      tmrContinue_(NewTimer(kReadingInterval, [this] {
+        tmrContinue_->setEnabled(false);
+        engine_.Continue();
+      })) {
+  engine_.setPlayerStrategy(&services.strategy);
+}
+
+void PeerMatch::Closing() {
+  tmrContinue_->setEnabled(false);
+  engine_.Close();
+}
+
+void PeerMatch::BannerChanged() {
+  tmrContinue_->setEnabled(engine_.banner().visible && engine_.banner().buttonEnabled);
+}
+
+void PeerMatch::RunTimer(MatchTimer timer, bool run) {
+  Timer& which = timer == MatchTimer::Game          ? *tmrGame_
+                 : timer == MatchTimer::AutoDialogs ? *tmrAutoDialogs_
+                                                    : *tmrNetWait_;
+  which.setEnabled(run);
+}
+
+void PeerMatch::Leave() {
+  Close();
+  services().navigator.LeaveMatch();
+}
+
+}  // namespace kv
