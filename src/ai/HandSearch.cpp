@@ -36,7 +36,8 @@ Match MatchCard(const CardCode& card, std::span<const CardCode> table, int total
 }  // namespace
 
 bool IsEmptySlot(const CardCode& code) {
-  return code.empty() || code.text() == "00";
+  // Most questions are about cards, and their type answers.
+  return code.type() == CardType::Other && (code.empty() || code.text() == "00");
 }
 
 int CountHand(const clsDeckArray& hand) {
@@ -63,9 +64,8 @@ int TestInvert(std::span<const CardCode> table, int total, int a, int b) {
 int FindHandCard(clsDeckArray& hand, std::span<const CardCode> table, int total, int change) {
   for (int slot = 1; slot <= kHandSize; ++slot) {
     const CardCode& card = hand.Value(slot);
-    if (IsEmptySlot(card)) continue;
     const Match match = MatchCard(card, table, total, change);
-    if (!match.found) continue;
+    if (!match.found || IsEmptySlot(card)) continue;
     if (match.chosen != CardType::Other) hand.setValue(slot, CardCode(match.chosen, change));
     return slot;
   }

@@ -25,7 +25,8 @@ ctlWager::ctlWager(QWidget* parent, Layout& layout, ButtonContext& context, Wage
       context_(context),
       entry_(entry),
       look_(layout.bag(u"ctlWager")),
-      drgWTitlebar_(layout.rect(u"drgWTitlebar")) {
+      drgWTitlebar_(layout.rect(u"drgWTitlebar")),
+      highest_(layout.rect(u"ctlTitlebar").height()) {
   setMouseTracking(true);
   layout.Place(u"ctlWager", *this);
   layout.NewLabel(u"lblPrompt", this);
@@ -146,7 +147,7 @@ void ctlWager::mouseMoveEvent(QMouseEvent* event) {
   const QPoint corner = mapToParent(event->position().toPoint()) - *grip_;
   const QSize room = parentWidget()->size() - size();
   move(std::clamp(corner.x(), 0, std::max(0, room.width())),
-       std::clamp(corner.y(), 0, std::max(0, room.height())));
+       std::clamp(corner.y(), highest_, std::max(highest_, room.height())));
 }
 
 void ctlWager::mouseReleaseEvent(QMouseEvent*) {

@@ -49,6 +49,7 @@ class ctlWager final : public QWidget {
   WagerEntry& entry_;
   PropertyBag look_;
   QRect drgWTitlebar_;
+  int highest_;                   // the title bar of the screen stays free
   std::optional<QPoint> grip_;    // where the drag bar is held
   QLabel* lblCredits_ = nullptr;  // children
   QLabel* lblWagerInfo_ = nullptr;

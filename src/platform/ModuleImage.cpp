@@ -233,11 +233,15 @@ const Entry* ModuleImage::Find(const std::vector<Entry>& entries, std::string_vi
         entries, [&](const Entry& e) { return e.identity.name.empty() && e.identity.id == *id; });
     if (found != entries.end()) return &*found;
   }
-  const std::string lowered = LowerAscii(wanted);
-  if (lowered.empty()) return nullptr;
-  const auto found =
-      std::ranges::find_if(entries, [&](const Entry& e) { return LowerAscii(e.identity.name) == lowered; });
-  return found == entries.end() ? nullptr : &*found;
+  // "#10" is no integer here, so it may be the name "10" as well.
+  for (const std::string_view name : {wanted, wanted.substr(wanted.starts_with('#') ? 1 : 0)}) {
+    const std::string lowered = LowerAscii(name);
+    const auto found = std::ranges::find_if(entries, [&](const Entry& e) {
+      return !e.identity.name.empty() && LowerAscii(e.identity.name) == lowered;
+    });
+    if (found != entries.end()) return &*found;
+  }
+  return nullptr;
 }
 
 std::vector<std::string> ModuleImage::EnumTypes() const {

@@ -12,7 +12,7 @@ class WindowDrag {
  public:
   /// Left button down on a drag area of `window` (a top-level widget).
   void Press(QWidget& window, const QMouseEvent& event);
-  /// The pointer moved; does nothing unless the program itself moves the window.
+  /// The pointer moved: while the button is down the window goes with it.
   void Move(QWidget& window, const QMouseEvent& event);
   void Release() { moving_ = false; }
 

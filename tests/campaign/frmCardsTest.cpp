@@ -112,6 +112,8 @@ TEST_P(CardsScreenTest, CardsGoIntoTheDeckAndBackAndOnlyAFullOneContinues) {
   Click(*screen->Bank({1, 1}));  // no stake yet: nothing happens, and the amount is still what is typed
   Key(Qt::Key_7);
   EXPECT_EQ(screen->wager().gettxtWager().text(), QStringLiteral("7"));
+  test::ScreenHand(*screen).Drag(screen->wager(), {40, 12}, {-50, -50});
+  EXPECT_EQ(screen->wager().pos(), QPoint(0, screen->titlebar().height())) << "the title bar stays free";
   SetStake("10");
   EXPECT_EQ(stage.sound.Count("draw"), 0);
   const std::string before = screen->Bank({1, 1})->count();

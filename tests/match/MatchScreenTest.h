@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
+#include <vector>
 
 #include "support/MatchScreen.h"
 #include "support/ScreenHand.h"
@@ -12,11 +14,24 @@ namespace kv::test {
 
 class MatchScreenTest : public testing::TestWithParam<const char*> {
  protected:
-  MatchScreenSetup Setup() const { return {.style = GetParam()}; }
+  MatchScreenSetup Setup(std::vector<int> draws = {}) const {
+    return {.style = GetParam(), .draws = std::move(draws)};
+  }
+  /// A match of this style at the player's first turn, for as long as the test runs.
+  MatchScreen& Begin(std::vector<int> draws, std::vector<const char*> hand = {"ps3", "fp2", "s11", "s51"}) {
+    MatchScreenSetup setup = Setup(std::move(draws));
+    setup.hand = std::move(hand);
+    match_ = std::make_unique<MatchScreen>(setup);
+    match_->Begin();
+    return *match_;
+  }
   [[nodiscard]] int StyleIndex() const { return std::string(GetParam()) == "Ember" ? 1 : 0; }
   [[nodiscard]] const MatchGrid& grid() const {
     return kMatchGrids.at(static_cast<std::size_t>(StyleIndex()));
   }
+
+ private:
+  std::unique_ptr<MatchScreen> match_;
 };
 
 }  // namespace kv::test

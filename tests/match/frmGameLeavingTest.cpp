@@ -17,10 +17,7 @@ INSTANTIATE_TEST_SUITE_P(Styles, frmGameLeavingTest, testing::Values("Slate", "E
                          [](const auto& style) { return std::string(style.param); });
 
 TEST_P(frmGameLeavingTest, ForfeitAsksFirst) {
-  MatchScreenSetup setup = Setup();
-  setup.draws = {4};
-  MatchScreen match(setup);
-  match.Begin();
+  MatchScreen& match = Begin({4});
   ScreenHand hand(*match.screen);
   match.dialogs.answers = {false, true};
   hand.Click(match.screen->cmdForfeit());
@@ -46,10 +43,7 @@ TEST_P(frmGameLeavingTest, ForfeitAsksFirst) {
 }
 
 TEST_P(frmGameLeavingTest, LeavingTheProgramGivesUpTheMatchOnce) {
-  MatchScreenSetup setup = Setup();
-  setup.draws = {4};
-  MatchScreen match(setup);
-  match.Begin();
+  MatchScreen& match = Begin({4});
   match.dialogs.answers = {false, true};
   ScreenHand(*match.screen).Key(Qt::Key_Escape);  // asks like the title bar, and is answered no
   EXPECT_EQ(match.dialogs.boxes.size(), 1u);
@@ -60,8 +54,7 @@ TEST_P(frmGameLeavingTest, LeavingTheProgramGivesUpTheMatchOnce) {
 }
 
 TEST_P(frmGameLeavingTest, AutoConfirm) {
-  MatchScreenSetup setup = Setup();
-  setup.draws = {4, 10, 5, 9};
+  MatchScreenSetup setup = Setup({4, 10, 5, 9});
   setup.options = [](clsPlayer& player) { player.AutoDialogs_Opt = true; };
   MatchScreen match(setup);
   match.strategy.turns.assign(1, [](AiOperations& side) { side.AI_Stand(); });
@@ -83,9 +76,7 @@ TEST_P(frmGameLeavingTest, AutoConfirm) {
 /// Closes the screen at every few milliseconds of a match: in pauses, between turns, under the banner.
 TEST_P(frmGameLeavingTest, ClosesAtAnyMoment) {
   for (int moment = 0; moment < 2600; moment += 37) {
-    MatchScreenSetup setup = Setup();
-    setup.draws = {4, 10, 5, 9};
-    MatchScreen match(setup);
+    MatchScreen match(Setup({4, 10, 5, 9}));
     match.strategy.turns.assign(1, [](AiOperations& side) {
       side.AI_PlayCard(1);
       side.AI_Stand();

@@ -20,9 +20,7 @@ INSTANTIATE_TEST_SUITE_P(Styles, frmGameTest, testing::Values("Slate", "Ember"),
                          [](const auto& style) { return std::string(style.param); });
 
 TEST_P(frmGameTest, OpensAsItsLayoutSays) {
-  MatchScreenSetup setup = Setup();
-  setup.draws = {7};
-  MatchScreen match(setup);
+  MatchScreen match(Setup({7}));
   EXPECT_EQ(match.screen->size(), StyleIndex() == 0 ? QSize(786, 540) : QSize(1024, 690));
   EXPECT_FALSE(match.screen->cmdTurn().Enabled());
   match.Begin();
@@ -49,9 +47,7 @@ TEST_P(frmGameTest, NothingIsCutOffOrOutside) {
 }
 
 TEST_P(frmGameTest, AWholeSetWithTheMouse) {
-  MatchScreenSetup setup = Setup();
-  setup.draws = {9, 5, 8, 6, 7};
-  MatchScreen match(setup);
+  MatchScreen match(Setup({9, 5, 8, 6, 7}));
   match.strategy.turns.assign(3, [](AiOperations& side) { side.AI_EndTurn(); });
   match.strategy.turns.back() = [](AiOperations& side) { side.AI_Stand(); };
   match.Begin();
@@ -79,11 +75,7 @@ TEST_P(frmGameTest, AWholeSetWithTheMouse) {
 }
 
 TEST_P(frmGameTest, DragAndDrop) {
-  MatchScreenSetup setup = Setup();
-  setup.draws = {4};
-  setup.hand = {"ps1", "ps2", "ps3", "ps4"};
-  MatchScreen match(setup);
-  match.Begin();
+  MatchScreen& match = Begin({4}, {"ps1", "ps2", "ps3", "ps4"});
   ScreenHand hand(*match.screen);
   const ctlCard& card = match.screen->hand().ctlYourDeck(1);
   const QPoint home = card.pos();
@@ -111,10 +103,7 @@ TEST_P(frmGameTest, DragAndDrop) {
 }
 
 TEST_P(frmGameTest, EndingTheTurnInTheMiddleOfADrag) {
-  MatchScreenSetup setup = Setup();
-  setup.draws = {4, 5, 6};
-  MatchScreen match(setup);
-  match.Begin();
+  MatchScreen& match = Begin({4, 5, 6});
   ScreenHand hand(*match.screen);
   ctlCard& card = match.screen->hand().ctlYourDeck(1);
   const QPoint home = card.pos();
@@ -131,10 +120,7 @@ TEST_P(frmGameTest, EndingTheTurnInTheMiddleOfADrag) {
 }
 
 TEST_P(frmGameTest, ABoxInTheMiddleOfADragSendsTheCardHome) {
-  MatchScreenSetup setup = Setup();
-  setup.draws = {4};
-  MatchScreen match(setup);
-  match.Begin();
+  MatchScreen& match = Begin({4});
   ScreenHand hand(*match.screen);
   ctlCard& card = match.screen->hand().ctlYourDeck(1);
   const QPoint home = card.pos();
@@ -152,11 +138,7 @@ TEST_P(frmGameTest, ABoxInTheMiddleOfADragSendsTheCardHome) {
 }
 
 TEST_P(frmGameTest, FlipButtons) {
-  MatchScreenSetup setup = Setup();
-  setup.draws = {4};
-  setup.hand = {"ps3", "fp2", "s11", "s51"};
-  MatchScreen match(setup);
-  match.Begin();
+  MatchScreen& match = Begin({4}, {"ps3", "fp2", "s11", "s51"});
   ScreenHand hand(*match.screen);
   frmGameHand& cards = match.screen->hand();
   EXPECT_FALSE(cards.imgFlip(1).isVisible());
@@ -184,10 +166,7 @@ TEST_P(frmGameTest, FlipButtons) {
 }
 
 TEST_P(frmGameTest, KeysEndAndStandAndNothingElse) {
-  MatchScreenSetup setup = Setup();
-  setup.draws = {4, 5, 6};
-  MatchScreen match(setup);
-  match.Begin();
+  MatchScreen& match = Begin({4, 5, 6});
   ScreenHand hand(*match.screen);
   hand.Key(Qt::Key_X);
   hand.Key(Qt::Key_F5);
@@ -203,8 +182,7 @@ TEST_P(frmGameTest, KeysEndAndStandAndNothingElse) {
 }
 
 TEST_P(frmGameTest, EverythingByFocusWhenTheGameKeysAreOff) {
-  MatchScreenSetup setup = Setup();
-  setup.draws = {4};
+  MatchScreenSetup setup = Setup({4});
   setup.options = [](clsPlayer& player) { player.KeysEn = false; };
   MatchScreen match(setup);
   match.Begin();
@@ -239,10 +217,7 @@ TEST_P(frmGameTest, NoKeyDoesAnythingInANetworkMatch) {
 }
 
 TEST_P(frmGameTest, PortraitsAndLights) {
-  MatchScreenSetup setup = Setup();
-  setup.draws = {4};
-  MatchScreen match(setup);
-  match.Begin();
+  MatchScreen& match = Begin({4});
   ScreenHand hand(*match.screen);
   FadeTarget& yours = match.screen->side(Seat::Player).portrait();
   FadeTarget& theirs = match.screen->side(Seat::Opponent).portrait();
@@ -259,10 +234,7 @@ TEST_P(frmGameTest, PortraitsAndLights) {
 }
 
 TEST_P(frmGameTest, CardsPulseInOneStyleOnly) {
-  MatchScreenSetup setup = Setup();
-  setup.draws = {4};
-  MatchScreen match(setup);
-  match.Begin();
+  MatchScreen& match = Begin({4});
   ScreenHand hand(*match.screen);
   const ctlCard& card = match.screen->hand().ctlYourDeck(1);
   hand.MoveTo(hand.CentreOf(card));

@@ -95,6 +95,8 @@ TEST(ModuleImage, ReadsNumericTypesAndTextNames) {
   EXPECT_EQ(result.image->EnumNames("#10"), (std::vector<std::string>{"201", "400"}));
   EXPECT_EQ(result.image->EnumNames("10").size(), 2U);
   EXPECT_EQ(result.image->FindResource("10\xe2\x82\xac", "JPG").size(), 2U);
+  const Bytes digits = datafile::WriteModule({{"77", {{201, {1}}}}}, kSize).value();  // a name of digits
+  EXPECT_EQ(Read(digits).image->FindResource("201", "#77").size(), 1U);
 }
 
 TEST(ModuleImage, SurvivesEveryTruncation) {
