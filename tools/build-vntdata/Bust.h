@@ -12,7 +12,6 @@ inline constexpr double kBustSide = 112;
 
 /// Paints built-in portrait `number` (1 to 65); a number that nobody has paints nothing.
 void PaintPortrait(QPainter& painter, int number);
-
 /// Where the parts of a face lie, as shares of the head.
 struct FacePlan {
   double eyeX;

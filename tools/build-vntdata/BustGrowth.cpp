@@ -187,7 +187,7 @@ void Tendrils(QPainter& painter, Sitter& sitter) {
     QPainterPath line(sitter.Out(x * 0.8, -0.9 + x * x * 0.3));
     line.cubicTo(sitter.Out(x * 1.6, -1.3), sitter.Out(x * 1.9 + sway, 0),
                  sitter.Out(x * 1.5 + sway, 1.3 + sway));
-    Model(painter, sitter, Tapered(line, 4.6, 1.4), Mix(sitter.hair, sitter.skin, i % 2 == 0 ? 0.1 : 0.35),
+    Model(painter, sitter, Tapered(line, 4.6, 0.6), Mix(sitter.hair, sitter.skin, i % 2 == 0 ? 0.1 : 0.35),
           Stuff::Hide);
   }
 }

@@ -124,9 +124,9 @@ void PaintEars(QPainter& painter, Sitter& sitter) {
   if (spec.kind != Kind::Human || spec.growth == Growth::Ears || hidden) return;
   for (const double side : {-1.0, 1.0}) {
     if (side * spec.turn > 0.45) continue;  // behind the cheek
-    const double inward = std::max(0.0, -side * spec.turn) * 0.24;
+    const double inward = std::max(0.0, -side * spec.turn) * 0.08;
     QPainterPath ear;
-    ear.addEllipse(sitter.Out(side * (1.02 - inward), 0.06), sitter.halfWidth * (0.14 + 0.2 * inward),
+    ear.addEllipse(sitter.Out(side * (1.05 - inward), 0.06), sitter.halfWidth * (0.14 + 0.2 * inward),
                    sitter.halfLength * 0.19);
     Relief relief(painter, ear, 4);
     relief.Bump(ear.boundingRect().center(), 1.5, 3, -1.8);
