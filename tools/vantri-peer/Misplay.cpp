@@ -33,7 +33,9 @@ std::string Rubbish(Random& random, std::size_t size) {
 /// One move right behind the end of each own turn: later, the other side may have ended its turn as well.
 void OutOfTurn(MisplayScene& scene) {
   if (scene.match == nullptr) return;
-  const bool waits = scene.match->peerTurn() != PeerTurn::NotTheirs;
+  // Before a set begins the next turn may be this side's own; against a side that stands it is, at once.
+  const bool inSet = scene.match->begun() && !scene.match->banner().visible && !scene.match->OpponentStood();
+  const bool waits = inSet && scene.match->peerTurn() != PeerTurn::NotTheirs;
   const bool moved = scene.done % 2 == 1;
   if (waits == moved) return;
   if (waits) scene.network.NetSend(kMoves.at(scene.done / 2 % kMoves.size()));
