@@ -20,7 +20,7 @@ constexpr std::array kMoves = {"[Card]no5", "[Hand]1ps3", "[Stnd]", "[Turn]"};
 
 /// One set has been won, and this side is at its turn: a good moment to spoil a match.
 bool InTheMiddle(const MisplayScene& scene) {
-  if (scene.match == nullptr || !scene.match->controls().endTurn) return false;
+  if (scene.match == nullptr || !scene.match->Light(Seat::Player)) return false;
   return scene.match->SetWins(Seat::Player) + scene.match->SetWins(Seat::Opponent) > 0;
 }
 
@@ -30,9 +30,16 @@ std::string Rubbish(Random& random, std::size_t size) {
   return bytes;
 }
 
+/// One move right behind the end of each own turn: later, the other side may have ended its turn as well.
 void OutOfTurn(MisplayScene& scene) {
-  if (scene.match == nullptr || scene.match->peerTurn() != PeerTurn::Theirs) return;
-  for (const char* move : kMoves) scene.network.NetSend(move);
+  if (scene.match == nullptr) return;
+  // Before a set begins the next turn may be this side's own; against a side that stands it is, at once.
+  const bool inSet = scene.match->begun() && !scene.match->banner().visible && !scene.match->OpponentStood();
+  const bool waits = inSet && scene.match->peerTurn() != PeerTurn::NotTheirs;
+  const bool moved = scene.done % 2 == 1;
+  if (waits == moved) return;
+  if (waits) scene.network.NetSend(kMoves.at(scene.done / 2 % kMoves.size()));
+  ++scene.done;
 }
 
 void Noise(MisplayScene& scene) {
@@ -40,12 +47,12 @@ void Noise(MisplayScene& scene) {
 }
 
 void Flood(MisplayScene& scene) {
-  if (!scene.network.connected() || scene.flooded >= kMostFlood) return;
+  if (!scene.network.connected() || scene.done >= kMostFlood) return;
   std::string bytes = Rubbish(scene.random, kFloodBytes);
   // Short messages, so that it is their number that has to be stood, not the length of one.
   for (std::size_t i = 0; i < bytes.size(); i += kNoiseBytes) bytes[i] = kSeparatorByte;
   scene.socket.SendData(bytes);
-  scene.flooded += bytes.size();
+  scene.done += bytes.size();
 }
 
 void Vanish(MisplayScene& scene) {
@@ -67,12 +74,12 @@ void Sleep(MisplayScene& scene) {
 }
 
 constexpr std::array<Misplay, 7> kMisplays = {{
-    {"out-of-turn", "sends moves while it is not its turn", 700, OutOfTurn},
+    {"out-of-turn", "sends moves while it is not its turn", 20, OutOfTurn},
     {"noise", "sends random bytes between its messages", 200, Noise},
     {"flood", "sends 100 MB of random messages as soon as it is connected", 10, Flood},
-    {"vanish", "dies in the middle of a match, without a word", 100, Vanish},
-    {"forfeit", "gives up each match after its first set", 1, Forfeit},
-    {"disconnect", "leaves by \"/disconnect\" in the middle of a match", 1, Disconnect},
+    {"vanish", "dies in the middle of a match, without a word", 20, Vanish},
+    {"forfeit", "gives up each match after its first set", 20, Forfeit},
+    {"disconnect", "leaves by \"/disconnect\" in the middle of a match", 20, Disconnect},
     {"sleep", "never makes a move, and keeps the line up", 10, Sleep},
 }};
 

@@ -19,8 +19,8 @@ struct MisplayScene {
   NetworkGame& network;
   TcpSocket& socket;  // the bare line, for what no program would send
   Random& random;
-  MatchEngine* match;    // null while none is open
-  std::size_t& flooded;  // bytes of rubbish sent so far
+  MatchEngine* match;  // null while none is open
+  std::size_t& done;   // what it has done so far, for the misplay's own use; 0 at first
 };
 
 struct Misplay {

@@ -3,8 +3,10 @@
 namespace kv {
 namespace {
 
-// Milliseconds; all but the first are those of the lobby.
-constexpr int kOpenInterval = 1000;
+// Milliseconds; all but the first three are those of the lobby.
+constexpr int kHostInterval = 20;
+constexpr int kJoinInterval = 1000;  // also between one try and the next
+constexpr int kModeInterval = 1000;  // before the other side can press Start: the two must not cross
 constexpr int kShowStartInterval = 2200;
 constexpr int kNetWaitInterval = 200;
 
@@ -15,19 +17,21 @@ constexpr std::int32_t kTradedCredits = 10;
 PeerLobby::PeerLobby(const PeerServices& services, std::function<void()> greeted)
     : PeerScreen(services),
       greeted_(std::move(greeted)),
-      tmrOpen_(NewTimer(kOpenInterval, [this] { OpenConnection(); })),
+      tmrOpen_(
+          NewTimer(services.options.hosting ? kHostInterval : kJoinInterval, [this] { OpenConnection(); })),
+      tmrMode_(NewTimer(kModeInterval, [this] { ChooseMode(); })),
       tmrShowStart_(NewTimer(kShowStartInterval, [this] { Start(); })),
       tmrNetWait_(NewTimer(kNetWaitInterval, [this] { NetWaitTick(); })) {}
 
 void PeerLobby::Closing() {
-  for (Timer* timer : {tmrOpen_.get(), tmrShowStart_.get(), tmrNetWait_.get()}) timer->setEnabled(false);
+  for (Timer* timer : {tmrOpen_.get(), tmrMode_.get(), tmrShowStart_.get(), tmrNetWait_.get()})
+    timer->setEnabled(false);
 }
 
 void PeerLobby::Open() {
   NetworkGame& network = services().network;
   if (!network.connected()) {
     network.setHosting(services().options.hosting);
-    // A host stands ready at once; who joins gives it a moment, and whoever failed waits before the next try.
     tmrOpen_->setEnabled(true);
     return;
   }
@@ -46,6 +50,7 @@ void PeerLobby::OpenConnection() {
 
 void PeerLobby::Greet() {
   greeted_();
+  tmrMode_->setEnabled(services().options.hosting);
   tmrShowStart_->setEnabled(true);
 }
 
@@ -60,16 +65,21 @@ void PeerLobby::ModeReceived(bool arcade) {
   if (services().network.versionMatches()) tmrShowStart_->setEnabled(true);
 }
 
+void PeerLobby::ChooseMode() {
+  tmrMode_->setEnabled(false);
+  if (services().network.arcade() != services().options.arcade) services().network.ToggleMode();
+}
+
 void PeerLobby::Start() {
   tmrShowStart_->setEnabled(false);
   NetworkGame& network = services().network;
+  if (!network.connected()) return;  // the line is lost; it will be given up in a moment
   const PeerOptions& options = services().options;
   if (options.matches > 0 && services().report.booked() >= options.matches) {
     network.LeaveLobby();
     return;
   }
   if (!std::exchange(said_, true)) network.SubmitChat("Hello, " + services().game.OppName + ". Good luck!");
-  if (options.hosting && network.arcade() != options.arcade) network.ToggleMode();
   TradeWin();
   network.SendReady();
   tmrNetWait_->setEnabled(true);

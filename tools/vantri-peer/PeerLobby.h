@@ -23,12 +23,14 @@ class PeerLobby final : public PeerScreen, public LobbyView {
 
  private:
   void OpenConnection();
+  void ChooseMode();
   void Start();
   void TradeWin();
   void NetWaitTick();
 
   std::function<void()> greeted_;
   std::unique_ptr<Timer> tmrOpen_;
+  std::unique_ptr<Timer> tmrMode_;
   std::unique_ptr<Timer> tmrShowStart_;
   std::unique_ptr<Timer> tmrNetWait_;
   bool said_ = false;

@@ -4,6 +4,7 @@
 #include "ai/clsAI_Normal.h"
 #include "vantri-peer/PeerCards.h"
 #include "vantri-peer/PeerLobby.h"
+#include "vantri-peer/PeerStrategy.h"
 
 namespace kv {
 namespace {
@@ -15,8 +16,13 @@ constexpr int kQuitInterval = 50;
 constexpr int kMostTries = 30;  // to join: a host may not stand ready yet
 
 std::unique_ptr<Strategy> StrategyOf(const PlayerFields& player) {
-  if (player.ArcadeAI_Opt == 1) return std::make_unique<clsAI_Ember>();
-  return std::make_unique<clsAI_Normal>();
+  std::unique_ptr<Strategy> mind;
+  if (player.ArcadeAI_Opt == 1) {
+    mind = std::make_unique<clsAI_Ember>();
+  } else {
+    mind = std::make_unique<clsAI_Normal>();
+  }
+  return std::make_unique<PersonsStrategy>(std::move(mind));
 }
 
 }  // namespace
@@ -160,7 +166,7 @@ void PeerProgram::Finish() {
 
 void PeerProgram::MisplayTick() {
   MisplayScene scene{network_, parts_.socket, parts_.random, match_ == nullptr ? nullptr : &match_->engine(),
-                     flooded_};
+                     misplayed_};
   parts_.options.misplay->act(scene);
 }
 

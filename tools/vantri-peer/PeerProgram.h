@@ -75,7 +75,7 @@ class PeerProgram final : public Navigator {
   std::unique_ptr<Timer> tmrSweep_;
   std::unique_ptr<Timer> tmrMisplay_;
   std::unique_ptr<Timer> tmrQuit_;  // until "[Quit]" has left
-  std::size_t flooded_ = 0;
+  std::size_t misplayed_ = 0;
   int tries_ = 0;
   bool met_ = false;  // since the connection was opened last
   bool finished_ = false;

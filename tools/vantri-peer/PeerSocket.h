@@ -1,4 +1,5 @@
-// A socket in front of another one, which greets as whatever version it is told to. All else passes through,
+// A socket in front of another one, which greets as whatever version it is told to. It connects from
+// any free port: the host it joins is often on the same machine and has the port. All else passes through,
 // and can be listened to.
 #pragma once
 
@@ -31,13 +32,22 @@ class PeerSocket final : public TcpSocket {
 
   void setRemoteHost(const std::string& host) override { inner_.setRemoteHost(host); }
   void setRemotePort(int port) override { inner_.setRemotePort(port); }
-  void setLocalPort(int port) override { inner_.setLocalPort(port); }
+  void setLocalPort(int port) override { localPort_ = port; }
   [[nodiscard]] std::string RemoteHost() const override { return inner_.RemoteHost(); }
-  [[nodiscard]] int LocalPort() const override { return inner_.LocalPort(); }
-  void Listen() override { inner_.Listen(); }
-  void Connect() override { inner_.Connect(); }
+  [[nodiscard]] int LocalPort() const override { return localPort_; }
+  void Listen() override {
+    inner_.setLocalPort(localPort_);
+    inner_.Listen();
+  }
+  void Connect() override {
+    inner_.setLocalPort(0);
+    inner_.Connect();
+  }
   void Accept() override { inner_.Accept(); }
-  void Bind(int localPort, const std::string& localIP) override { inner_.Bind(localPort, localIP); }
+  void Bind(int localPort, const std::string& localIP) override {
+    localPort_ = localPort;
+    inner_.Bind(localPort, localIP);
+  }
   void SendData(std::string_view bytes) override {
     constexpr std::string_view kVersion = "[Vers]";
     std::string told(bytes);
@@ -57,6 +67,7 @@ class PeerSocket final : public TcpSocket {
  private:
   TcpSocket& inner_;
   std::string version_;
+  int localPort_ = 0;
 };
 
 }  // namespace kv

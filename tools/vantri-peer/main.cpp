@@ -22,6 +22,7 @@ namespace {
 
 constexpr int kBadUsage = 2;
 constexpr const char* kDefaultName = "Practice";
+constexpr std::int16_t kOwnPortrait = 23;  // of a player made here: not the one that every new player bears
 
 int Fail(int code, const std::string& message) {
   std::cerr << "vantri-peer: " << message << "\n";
@@ -48,6 +49,7 @@ bool LoadPlayer(const kv::PeerOptions& options, const std::string& path, kv::cls
   } else {
     player.Name = options.name.empty() ? kDefaultName : options.name;
     player.FileName = path;
+    player.Portrait = kOwnPortrait;
   }
   std::string ignored;  // the words were looked at before
   static_cast<void>(kv::ApplyPlayerOptions(options.playerOptions, player, ignored));
