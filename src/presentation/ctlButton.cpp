@@ -44,7 +44,7 @@ void DrawFrame(QPainter& painter, const QRect& r, const QColor& color) {
 
 // A dark pane, lit from above in the colour of the state.
 void DrawDarkPane(QPainter& painter, const QRect& r, const QColor& color) {
-  painter.fillRect(r, QColor(0, 0, 0, 150));
+  painter.fillRect(r, QColor(0, 0, 0, 190));
   QLinearGradient light(r.topLeft(), r.bottomLeft());
   light.setColorAt(0, Faint(color, 72));
   light.setColorAt(0.5, Faint(color, 16));
