@@ -10,10 +10,13 @@ namespace {
 
 // Dark and quiet in both interface styles, so that a box belongs to the screen it lies over.
 constexpr const char* kLook =
-    "QDialog { background: #0a121b; }"
+    "QDialog { background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #172331, stop:0.3 #0c151f, stop:1 "
+    "#070c12);"
+    "  border: 2px solid #46596c; }"
     "QLabel { color: #e6ebf0; font-family: 'BankGothic Md BT'; font-size: 14px; }"
     "QLineEdit { background: #03080e; color: #ffffff; border: 1px solid #4a6274; padding: 4px; }"
-    "QPushButton { background: #122433; color: #cfe6f5; border: 1px solid #4a6274; padding: 6px 20px;"
+    "QPushButton { background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #274056, stop:0.5 #152636,"
+    "  stop:0.51 #0f1d2a, stop:1 #1b3145); color: #d6ebf8; border: 1px solid #56708a; padding: 6px 20px;"
     "  font-family: 'BankGothic Md BT'; font-size: 13px; min-width: 56px; }"
     "QPushButton:hover { background: #1a3448; color: #ffffff; }"
     "QPushButton:focus { border: 1px solid #00a9fb; color: #ffffff; }";
