@@ -2,8 +2,11 @@
 
 #include <QApplication>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPointer>
+
+#include "platform/QtDialogSign.h"
 
 namespace kv {
 namespace {
@@ -37,6 +40,14 @@ QMessageBox::Icon IconOf(DialogIcon icon) {
   return QMessageBox::NoIcon;
 }
 
+// In place of the toolkit's own picture; the box still knows its kind, and tells it to those who listen.
+void ShowSign(const QMessageBox& box, DialogIcon icon) {
+  auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label"));
+  if (label != nullptr && icon != DialogIcon::None) {
+    label->setPixmap(DialogSign(icon, box.devicePixelRatioF()));
+  }
+}
+
 // On the heap and watched: the window over which it opens may be destroyed while it is open, and takes the
 // box with it.
 int Run(const std::string& text, const std::string& title, DialogIcon icon,
@@ -45,6 +56,7 @@ int Run(const std::string& text, const std::string& title, DialogIcon icon,
       new QMessageBox(IconOf(icon), QString::fromStdString(title), QString::fromStdString(text), buttons,
                       QApplication::activeWindow());
   box->setStyleSheet(QString::fromLatin1(kLook));
+  ShowSign(*box, icon);
   box->setTextFormat(Qt::PlainText);
   box->setEscapeButton(escape);
   box->setDefaultButton(escape);  // a hasty Enter must not give anything up
