@@ -87,7 +87,7 @@ void PaintBody(QPainter& painter, const Face& face) {
 }
 
 /// Enamel: a slanting reflection over the upper left, and a shadow that the frame casts on the field.
-void PaintGloss(QPainter& painter, const QPainterPath& field) {
+void PaintGloss(QPainter& painter, const QPainterPath& field, double strength) {
   const QRectF area = field.boundingRect();
   painter.save();
   painter.setClipPath(field);
@@ -95,7 +95,7 @@ void PaintGloss(QPainter& painter, const QPainterPath& field) {
   shine.addPolygon(QPolygonF({area.topLeft(), area.topRight() - QPointF(area.width() * 0.2, 0),
                               area.bottomLeft() - QPointF(0, area.height() * 0.25)}));
   shine.closeSubpath();
-  painter.fillPath(shine, Downward(area, Faint(Qt::white, 0.2), Faint(Qt::white, 0.02)));
+  painter.fillPath(shine, Downward(area, Faint(Qt::white, strength), Faint(Qt::white, strength / 10)));
   for (int i = 1; i <= 3; ++i) {
     painter.strokePath(field.translated(0.4, 0.7), QPen(Faint(Qt::black, 0.16), i * area.width() * 0.035));
   }
@@ -122,7 +122,7 @@ void PaintField(QPainter& painter, const Face& face) {
     painter.drawLine(area.bottomLeft(), area.topRight());
     painter.restore();
   }
-  PaintGloss(painter, field);
+  PaintGloss(painter, field, face.style.worn ? 0.16 : 0.09);  // fainter on the small cards
   painter.strokePath(field, QPen(Mix(face.colour, Qt::white, 0.3), face.card.width() * 0.022));
 }
 
