@@ -1,6 +1,7 @@
 // The game. It takes no options: everything it remembers is in the player file.
 #include <QApplication>
 #include <QDesktopServices>
+#include <QIcon>
 #include <QUrl>
 #include <filesystem>
 
@@ -28,6 +29,16 @@ void OpenAddress(const std::string& address) {
   QDesktopServices::openUrl(QUrl::fromUserInput(QString::fromStdString(address)));
 }
 
+/// The icon's sizes that lie beside the program; a missing one is no fault.
+QIcon ProgramIcon(const std::string& programFolder) {
+  QIcon icon;
+  for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+    const std::string file = programFolder + "/Icons/kelm-vantri-" + std::to_string(size) + ".png";
+    if (std::filesystem::exists(file)) icon.addFile(QString::fromStdString(file));
+  }
+  return icon;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -49,6 +60,8 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   // No display name: the toolkit would add it to every title.
   QApplication::setApplicationName(QStringLiteral("kelm-vantri"));
+  QGuiApplication::setDesktopFileName(QStringLiteral("kelm-vantri"));
+  QApplication::setWindowIcon(ProgramIcon(programFolder));
   QApplication::setQuitOnLastWindowClosed(false);
   kv::InstallAccessibleRoles();
 

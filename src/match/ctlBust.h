@@ -34,8 +34,7 @@ class ctlBust final : public QWidget {
  private:
   ButtonContext& context_;
   QString style_ = QStringLiteral("Slate");
-  QColor border_;
-  QColor fill_;
+  const PropertyBag look_;
   QLabel* message_;  // children
   ctlButton* button_;
 };

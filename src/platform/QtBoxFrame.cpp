@@ -14,7 +14,6 @@ namespace {
 constexpr int kTitleHeight = 30;
 constexpr int kMargin = 22;
 constexpr int kCorners = 10;
-constexpr int kIconSize = 40;
 constexpr int kSidesOfTitle = 24;
 
 constexpr const char* kTitleFace = "BankGothic Md BT";
@@ -107,22 +106,6 @@ class BoxFrame final : public QObject {
   const BoxColors& colors_;
 };
 
-QChar SignOf(DialogIcon icon) {
-  switch (icon) {
-    case DialogIcon::Information:
-      return u'i';
-    case DialogIcon::Exclamation:
-      return u'!';
-    case DialogIcon::Critical:
-      return u'\u00d7';
-    case DialogIcon::Question:
-      return u'?';
-    case DialogIcon::None:
-      break;
-  }
-  return {};
-}
-
 }  // namespace
 
 void FrameBox(QDialog& box, const std::string& interfaceStyle) {
@@ -142,30 +125,6 @@ void FrameBox(QDialog& box, const std::string& interfaceStyle) {
   if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
     grid->addItem(new QSpacerItem(title - 2 * kMargin, 0), grid->rowCount(), 0, 1, grid->columnCount());
   }
-}
-
-QPixmap BoxIcon(DialogIcon icon, const std::string& interfaceStyle, qreal ratio) {
-  if (icon == DialogIcon::None) return {};
-  const bool grave = icon == DialogIcon::Critical || icon == DialogIcon::Exclamation;
-  const QColor color = icon == DialogIcon::Critical ? QColor(235, 74, 60)
-                       : grave                      ? QColor(245, 190, 60)
-                                                    : ColorsOf(interfaceStyle).accent;
-  QPixmap pixmap(QSize(kIconSize, kIconSize) * ratio);
-  pixmap.setDevicePixelRatio(ratio);
-  pixmap.fill(Qt::transparent);
-  QPainter painter(&pixmap);
-  painter.setRenderHint(QPainter::Antialiasing);
-  const QRectF disc(2, 2, kIconSize - 4, kIconSize - 4);
-  painter.setPen(QPen(color, 2.5));
-  painter.setBrush(color.darker(420));
-  painter.drawEllipse(disc);
-  QFont font(QString::fromLatin1(kTitleFace));
-  font.setPixelSize(24);
-  font.setBold(true);
-  painter.setFont(font);
-  painter.setPen(color.lighter(125));
-  painter.drawText(disc, Qt::AlignCenter, QString(SignOf(icon)));
-  return pixmap;
 }
 
 }  // namespace kv

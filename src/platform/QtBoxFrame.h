@@ -5,16 +5,11 @@
 #include <QDialog>
 #include <string>
 
-#include "platform/Dialogs.h"
-
 namespace kv {
 
 /// Takes the window manager's frame from `box` and paints its own, with `box`'s window title; it is dragged
 /// by its title line. To be called before the box is shown, once its contents are in place. `interfaceStyle`
 /// is "Slate" or "Ember"; any other counts as "Slate".
 void FrameBox(QDialog& box, const std::string& interfaceStyle);
-
-/// The sign of a message, drawn for a screen of scale factor `ratio`. Empty for `DialogIcon::None`.
-[[nodiscard]] QPixmap BoxIcon(DialogIcon icon, const std::string& interfaceStyle, qreal ratio);
 
 }  // namespace kv

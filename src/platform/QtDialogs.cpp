@@ -6,6 +6,7 @@
 #include <QPointer>
 
 #include "platform/QtBoxFrame.h"
+#include "platform/QtDialogSign.h"
 
 namespace kv {
 namespace {
@@ -23,7 +24,9 @@ int Run(const BoxContent& content, const std::string& interfaceStyle, QMessageBo
   const QPointer<QMessageBox> box =
       new QMessageBox(QMessageBox::NoIcon, QString::fromStdString(content.title),
                       QString::fromStdString(content.text), buttons, QApplication::activeWindow());
-  box->setIconPixmap(BoxIcon(content.icon, interfaceStyle, box->devicePixelRatioF()));
+  if (content.icon != DialogIcon::None) {
+    box->setIconPixmap(DialogSign(content.icon, box->devicePixelRatioF()));
+  }
   box->setTextFormat(Qt::PlainText);
   box->setEscapeButton(escape);
   box->setDefaultButton(escape);  // a hasty Enter must not give anything up

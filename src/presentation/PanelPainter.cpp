@@ -59,7 +59,9 @@ void PaintRim(QPainter& painter, const QRectF& area, int corners, const QColor& 
   light.setColorAt(0.3, metal);
   light.setColorAt(0.62, metal.darker(150));
   light.setColorAt(1, metal.darker(210));
-  painter.fillPath(Rounded(area, corners).subtracted(Rounded(inner, corners - width)), light);
+  QPainterPath ring = Rounded(area, corners);
+  ring.addPath(Rounded(inner, corners - width));  // the inner one is left out of what the outer one fills
+  painter.fillPath(ring, light);
   painter.setPen(QPen(Faint(metal.lighter(230), 150), 0.8));
   painter.drawPath(Rounded(area.adjusted(0.9, 0.9, -0.9, -0.9), corners - 1));
   painter.setPen(QPen(metal.darker(400), 1));

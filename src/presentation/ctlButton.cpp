@@ -44,7 +44,7 @@ void DrawFrame(QPainter& painter, const QRect& r, const QColor& color) {
 
 // A dark pane, lit from above in the colour of the state.
 void DrawDarkPane(QPainter& painter, const QRect& r, const QColor& color) {
-  painter.fillRect(r, QColor(0, 0, 0, 150));
+  painter.fillRect(r, QColor(0, 0, 0, 190));
   QLinearGradient light(r.topLeft(), r.bottomLeft());
   light.setColorAt(0, Faint(color, 72));
   light.setColorAt(0.5, Faint(color, 16));
@@ -63,12 +63,16 @@ void DrawPlate(QPainter& painter, const QRect& r, const QColor& color) {
 }
 
 void DrawPane(QPainter& painter, const QRect& r, const QColor& color, bool captioned) {
-  if (captioned && color.lightness() < kDarkestOnDark) {
+  const bool plate = captioned && color.lightness() < kDarkestOnDark;
+  if (plate) {
     DrawPlate(painter, r, color);
   } else {
     DrawDarkPane(painter, r, color);
   }
   DrawFrame(painter, r.adjusted(1, 1, -1, -1), Faint(color, 48));
+  // An edge that catches the light above and turns away from it below.
+  painter.fillRect(r.left() + 2, r.top() + 1, r.width() - 4, 1, QColor(255, 255, 255, plate ? 150 : 44));
+  painter.fillRect(r.left() + 2, r.bottom() - 1, r.width() - 4, 1, QColor(0, 0, 0, plate ? 90 : 110));
   DrawFrame(painter, r, color);
 }
 

@@ -10,6 +10,8 @@ constexpr int kHeadingHeight = 26;  // layout pixels
 constexpr int kHeadingIndent = 12;
 constexpr int kFillStrength = 226;  // the picture behind stays a hint
 constexpr int kHeadingAlpha = 70;
+constexpr int kShadow = 3;  // layout pixels
+constexpr int kCorner = 9;
 
 QColor Faint(QColor color, int alpha) {
   color.setAlpha(alpha);
@@ -27,6 +29,25 @@ void PaintHeading(QPainter& painter, const Panel& panel) {
   light.setColorAt(1, Faint(panel.border, kHeadingAlpha / 4));
   painter.fillRect(bar, light);
   painter.fillRect(bar.left(), bar.bottom(), bar.width(), 1, panel.border);
+}
+
+/// Bright corners, and the shadow that the panel casts on the picture.
+void PaintCorners(QPainter& painter, const Panel& panel) {
+  for (int i = 1; i <= kShadow; ++i) {
+    painter.setPen(QPen(QColor(0, 0, 0, 90 / i), 1));
+    painter.drawLine(panel.rect.left() + i, panel.rect.bottom() + i, panel.rect.right() + i,
+                     panel.rect.bottom() + i);
+    painter.drawLine(panel.rect.right() + i, panel.rect.top() + i, panel.rect.right() + i,
+                     panel.rect.bottom() + i);
+  }
+  const QRect at = panel.rect;
+  const QColor bright = panel.border.lighter(170);
+  for (const int x : {at.left(), at.right() - kCorner + 1}) {
+    for (const int y : {at.top(), at.bottom() - 1}) painter.fillRect(x, y, kCorner, 2, bright);
+  }
+  for (const int x : {at.left(), at.right() - 1}) {
+    for (const int y : {at.top(), at.bottom() - kCorner + 1}) painter.fillRect(x, y, 2, kCorner, bright);
+  }
 }
 
 }  // namespace
@@ -51,6 +72,7 @@ void PaintPanel(QPainter& painter, const Panel& panel) {
   painter.drawRect(QRectF(panel.rect).adjusted(-0.5, -0.5, 0.5, 0.5));
   painter.setPen(QPen(panel.border, 1));
   painter.drawRect(QRectF(panel.rect).adjusted(0.5, 0.5, -0.5, -0.5));
+  PaintCorners(painter, panel);
 }
 
 frmOptionsFrame::frmOptionsFrame(QWidget* parent, Layout& layout, QStringView control) : QWidget(parent) {

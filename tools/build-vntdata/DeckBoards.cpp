@@ -110,7 +110,8 @@ void PaintKind(QPainter& painter, const DeskPlan& plan, int kind) {
 void PaintCollection(QPainter& painter, const DeskPlan& plan) {
   const double right = plan.bankAt.x() + (kNumbers - 1) * plan.bankStep.width() + plan.card.width();
   const double bottom = plan.bankAt.y() + (kKinds - 1) * plan.bankStep.height() + plan.card.height();
-  const QRectF tray(QPointF(plan.label.left() - 14, plan.bankAt.y() - 10), QPointF(right + 14, bottom + 9));
+  const QRectF tray(QPointF(plan.label.left() - 14, plan.bankAt.y() - 10),
+                    QPointF(plan.style.worn ? right + 14 : plan.deckTray.right() - 2, bottom + 9));
   if (!plan.style.worn) {
     Plate(painter, tray.adjusted(-9, -9, 9, 9), plan.style, 41, 12);
     Fasten(painter, tray.adjusted(-13, -13, 13, 13), plan.style);
@@ -120,7 +121,8 @@ void PaintCollection(QPainter& painter, const DeskPlan& plan) {
 }
 
 void PaintDeck(QPainter& painter, const DeskPlan& plan) {
-  Plate(painter, plan.deckTray.adjusted(-7, -6, 7, 7), plan.style, 43, 12);
+  const double left = plan.style.worn ? 7 : 13;  // where the collection's tray begins
+  Plate(painter, plan.deckTray.adjusted(-left, -6, 7, 7), plan.style, 43, 12);
   PaintTray(painter, plan.deckTray, plan.style, plan.felt, 44);
   for (int i = 0; i < kDeckCards; ++i) {
     CardSlot(painter, {plan.deckAt + QPointF(i * plan.deckStep, 0), plan.card}, plan.style);

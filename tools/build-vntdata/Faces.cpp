@@ -78,6 +78,28 @@ void PaintBody(QPainter& painter, const Face& face) {
   painter.strokePath(body, QPen(face.style.edgeShade, 1));
   const QPainterPath rim = Cornered(face.card.adjusted(1.5, 1.5, -1.5, -1.5), corner - 1, true);
   painter.strokePath(rim, QPen(Faint(Qt::white, face.style.worn ? 0.12 : 0.2), 0.6));
+  if (!face.style.worn) return;
+  const QRectF corners = face.card.adjusted(5, 5, -5, -5);
+  for (const QPointF& at :
+       {corners.topLeft(), corners.topRight(), corners.bottomLeft(), corners.bottomRight()}) {
+    Rivet(painter, at, 1.5, face.style);
+  }
+}
+
+/// Enamel: a slanting reflection over the upper left, and a shadow that the frame casts on the field.
+void PaintGloss(QPainter& painter, const QPainterPath& field, double strength) {
+  const QRectF area = field.boundingRect();
+  painter.save();
+  painter.setClipPath(field);
+  QPainterPath shine;
+  shine.addPolygon(QPolygonF({area.topLeft(), area.topRight() - QPointF(area.width() * 0.2, 0),
+                              area.bottomLeft() - QPointF(0, area.height() * 0.25)}));
+  shine.closeSubpath();
+  painter.fillPath(shine, Downward(area, Faint(Qt::white, strength), Faint(Qt::white, strength / 10)));
+  for (int i = 1; i <= 3; ++i) {
+    painter.strokePath(field.translated(0.4, 0.7), QPen(Faint(Qt::black, 0.16), i * area.width() * 0.035));
+  }
+  painter.restore();
 }
 
 void PaintField(QPainter& painter, const Face& face) {
@@ -100,6 +122,7 @@ void PaintField(QPainter& painter, const Face& face) {
     painter.drawLine(area.bottomLeft(), area.topRight());
     painter.restore();
   }
+  PaintGloss(painter, field, face.style.worn ? 0.16 : 0.09);  // fainter on the small cards
   painter.strokePath(field, QPen(Mix(face.colour, Qt::white, 0.3), face.card.width() * 0.022));
 }
 

@@ -25,8 +25,8 @@ void PaintRing(QPainter& painter, QPointF centre, double radius, const Style& st
 void PaintLens(QPainter& painter, QPointF centre, double radius, QColor colour, bool lit) {
   QRadialGradient glass(centre - QPointF(0.3, 0.35) * radius, radius * 1.5);
   glass.setColorAt(0, lit ? Mix(colour, Qt::white, 0.85) : Mix(colour, Qt::black, 0.55));
-  glass.setColorAt(0.35, lit ? Mix(colour, Qt::white, 0.25) : Mix(colour, Qt::black, 0.75));
-  glass.setColorAt(1, lit ? Mix(colour, Qt::black, 0.35) : Mix(colour, Qt::black, 0.92));
+  glass.setColorAt(0.35, lit ? Mix(colour, Qt::white, 0.4) : Mix(colour, Qt::black, 0.75));
+  glass.setColorAt(1, lit ? Mix(colour, Qt::black, 0.1) : Mix(colour, Qt::black, 0.92));
   painter.setPen(QPen(QColor(0, 0, 0, 220), radius * 0.1));
   painter.setBrush(glass);
   painter.drawEllipse(centre, radius, radius);
@@ -53,14 +53,15 @@ void PaintLight(QPainter& painter, int number) {
       painter.restore();
     }
   }
-  const double lens = half * (ember ? 0.62 : 0.66);
+  const double lens = half * (ember ? 0.62 : 0.68);
+  if (lit) Spot(painter, centre, half, Mix(style.accent, Qt::white, 0.3), 1);  // its light on the ring
   PaintLens(painter, centre, lens, style.accent, lit);
   // Told without colour too: the lit lamp shows a star of light, the unlit one an empty ring.
   if (lit) {
     painter.setPen(QPen(Faint(Qt::white, 0.9), lens * 0.09, Qt::SolidLine, Qt::RoundCap));
     painter.drawLine(centre - QPointF(lens * 0.75, 0), centre + QPointF(lens * 0.75, 0));
     painter.drawLine(centre - QPointF(0, lens * 0.75), centre + QPointF(0, lens * 0.75));
-    Spot(painter, centre, lens * 0.7, Qt::white, 0.9);
+    Spot(painter, centre, lens * 0.85, Qt::white, 1);
   } else {
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(Faint(style.edge, 0.25), lens * 0.1));

@@ -89,7 +89,7 @@ void PaintOrbits(QPainter& painter, QPointF sun) {
     QPen pen(Faint(kSlate.accent, 0.5 - i * 0.04), 0.9);
     if (i % 2 == 1) pen.setDashPattern({6, 5});
     painter.strokePath(orbit, pen);
-    const double angle = 0.7 + i * 1.13;
+    const double angle = 0.7 + i * 1.32;
     const QPointF at = sun + QPointF(rx * std::cos(angle), ry * std::sin(angle));
     World(painter, at, 9 + i * 1.7, Mix(QColor(90, 150, 190), QColor(210, 130, 80), chance.Unit()),
           {30, 34, 48}, 1030 + static_cast<std::uint64_t>(i));

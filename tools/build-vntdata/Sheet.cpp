@@ -27,7 +27,7 @@ QImage ContactSheet() {
   int group = 0;
   for (const int number : AllNumbers()) {
     QImage image = Paint(number);
-    const int width = std::min(image.width() / kStoredRatio * (number < 110 ? 1 : 1), kLargest);
+    const int width = std::min(image.width() / kStoredRatio, kLargest);
     image = image.scaledToWidth(width, Qt::SmoothTransformation);
     if (x + width > kSheetWidth || number / 100 != group) {
       x = kGap;

@@ -14,7 +14,7 @@ constexpr std::array kCodes = {"no7",  "no-4", "ps3",  "ms-3", "pi3",  "mi3",  "
                                "s300", "s599", "s51",  "s5-2", "s6",   "un",   "--",  ""};
 constexpr int kRowTitle = 22;
 constexpr int kGap = 6;
-constexpr int kPulse = 160;
+constexpr int kPulse = 200;  // the strongest light of a pulse
 constexpr int kPerLine = 13;
 
 enum Row { kPlain, kDisabled, kPulsing, kCounted, kRows };

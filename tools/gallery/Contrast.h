@@ -1,4 +1,4 @@
-// How well the texts of a screen can be read: each is compared with the pixels that lie under its own
+// How well the texts of a screen can be read: each is compared with nearly all pixels that lie under its own
 // letters, which are found by rendering the screen once with the text and once without it.
 #pragma once
 
