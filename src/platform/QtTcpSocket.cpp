@@ -81,7 +81,11 @@ void QtTcpSocket::Dial(int localPort) {
   // failed connection, so nobody listens to the socket yet.
   const auto reuse = QAbstractSocket::ShareAddress | QAbstractSocket::ReuseAddressHint;
   dialledFromPort_ = localPort != 0 && socket_->bind(ListenAddress(), static_cast<quint16>(localPort), reuse);
-  if (!dialledFromPort_ && !localIP_.empty()) static_cast<void>(socket_->bind(ListenAddress(), 0));
+  if (!dialledFromPort_) {
+    // One that was refused a port would tell of that again whenever the line breaks.
+    delete std::exchange(socket_, new QTcpSocket(&server_));
+    if (!localIP_.empty()) static_cast<void>(socket_->bind(ListenAddress(), 0));
+  }
   Watch();
   socket_->connectToHost(QString::fromStdString(remoteHost_), static_cast<quint16>(remotePort_),
                          QIODevice::ReadWrite, QAbstractSocket::IPv4Protocol);

@@ -124,6 +124,9 @@ TEST_F(QtTcpSocketTest, ConnectsFromAnotherPortWhenItsOwnIsTheHosts) {
     guest.Close();  // as the link does
   };
   Connect();
+  host.Close();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return guest.State() != Status::Connected; }));
+  EXPECT_EQ(guest.State(), Status::Closing) << "a lost line is told by the state, not as the port of before";
   EXPECT_TRUE(errors.empty());
 }
 
