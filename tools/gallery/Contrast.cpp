@@ -27,7 +27,7 @@ double Luminance(QRgb colour) {
 }
 
 double Ratio(QRgb a, QRgb b) {
-  const auto [low, high] = std::minmax(Luminance(a), Luminance(b));
+  const auto [low, high] = std::minmax({Luminance(a), Luminance(b)});  // values, not references to them
   return (high + 0.05) / (low + 0.05);
 }
 
