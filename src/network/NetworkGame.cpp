@@ -53,6 +53,7 @@ void NetworkGame::StartFresh() {
 
 void NetworkGame::LobbyOpened(LobbyView& lobby) {
   lobby_ = &lobby;
+  peer_.playerStarts.reset();
   // A match without a stake may have been called off at the cards: there is none under way here.
   if (game_->Mode == kModeNetworkArcade) game_->Wager = -1;
 }
@@ -122,12 +123,12 @@ void NetworkGame::ToggleMode() {
   arcade_ = !arcade_;
   AddChatLine(arcade_ ? "[Changed game mode to Arcade match.]" : "[Changed game mode to Normal match.]");
   if (!hosting_) return;
-  peer_.ready = false;
+  peer_.ready = 0;
   NetSend(arcade_ ? "[Mode]1" : "[Mode]0");
 }
 
 void NetworkGame::SendReady() {
-  NetSend("[Chat][" + player_->Name + " is ready continue.]");
+  NetSend("[Chat][" + player_->Name + std::string(kReadyToContinue));
   NetSend("[Play]");
   AddChatLine("[You are ready to continue.]");
 }
@@ -138,7 +139,6 @@ void NetworkGame::PrepareMatch() {
   game.YourPic = services_.portrait(-1, "", found);
   game.Wager = -1;
   game.MinWager = 0;
-  peer_.playerStarts.reset();
   if (arcade_) {
     game.Mode = kModeNetworkArcade;
     game.InitArcadeCards();
@@ -171,7 +171,7 @@ void NetworkGame::SubmitChat(const std::string& line) {
     link_.Leave();
     services_.playEffect("losematch");
     BookLossIfUnderWay();
-    peer_.ready = false;  // no screen goes on behind the scenes
+    peer_.ready = 0;  // no screen goes on behind the scenes
     services_.hideScreen();
     services_.navigator.EndProgramSoon();
     return;

@@ -53,6 +53,11 @@ class NetworkGame final : public MatchNetwork {
   [[nodiscard]] bool arcade() const { return arcade_; }
   /// Switches it, says so in the log and, on the host, tells the peer. Forgets that the peer was ready.
   void ToggleMode();
+  /// Uses the peer's Start and keeps what it has said since: it may be at the cards, or even the table,
+  /// already.
+  void UsePeerStart() {
+    if (peer_.ready > 0) --peer_.ready;
+  }
   /// Tells the peer that this side is ready: the chat notice and "[Play]".
   void SendReady();
   /// Sets the match record up for the mode; the card screen comes next.
@@ -73,8 +78,8 @@ class NetworkGame final : public MatchNetwork {
   // --- What the screens of a match do ----------------------------------------------------------------------
   void NetSend(const std::string& message) override;
   [[nodiscard]] bool hosting() const override { return hosting_; }
-  [[nodiscard]] bool peerReady() const override { return peer_.ready; }
-  void clearPeerReady() override { peer_.ready = false; }
+  [[nodiscard]] bool peerReady() const override { return peer_.ready > 0; }
+  void clearPeerReady() override { peer_.ready = 0; }
   void startTurnRepeat() override { link_.StartTurnRepeat(); }
   void AddChatLine(const std::string& line) override { chat_.AddLine(line); }
   void SubmitChat(const std::string& line) override;

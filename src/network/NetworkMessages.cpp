@@ -1,6 +1,7 @@
 // What each message of the peer's does. A message is taken only where it makes sense; one that is merely
 // early, because this side is still in a pause of its own, waits for its moment.
 #include <string>
+#include <utility>
 
 #include "match/MatchEngine.h"
 #include "network/BrokenOff.h"
@@ -76,6 +77,7 @@ NetworkGame::Answer NetworkGame::Handle(const msg::File& file) {
 template <>
 NetworkGame::Answer NetworkGame::Handle(const msg::Chat& chat) {
   AddChatLine(chat.text);
+  peer_.startSaid = chat.text == "[" + game_->OppName + std::string(kReadyToContinue);
   return Answer::Done;
 }
 
@@ -87,7 +89,7 @@ NetworkGame::Answer NetworkGame::Handle(const msg::Mode& mode) {
   if (hosting_ || (lobby_ == nullptr && !choosingCards)) return Answer::Refuse;
   AddChatLine("[" + game_->OppName + " has changed the game mode to " +
               (mode.arcade ? "Arcade match" : "Normal match") + ".]");
-  peer_.ready = false;
+  peer_.ready = 0;
   // The host took its Start back while this side was already on its way to the cards.
   if (lobby_ == nullptr) {
     WithdrawStake(*game_, *player_);
@@ -103,9 +105,13 @@ NetworkGame::Answer NetworkGame::Handle(const msg::Play&) {
     if (match_->deciding()) return Answer::Later;
     if (!match_->expectsPlay()) return Answer::Refuse;
   }
-  // The one before has not been used yet by the screen that waits for it: two must not become one.
-  if (peer_.ready && (cards_ != nullptr || (lobby_ != nullptr && lobby_->waiting()))) return Answer::Later;
-  peer_.ready = true;
+  if (std::exchange(peer_.startSaid, false)) {
+    // Its Start, perhaps once more after a mode change that had crossed the first: it counts once, here only.
+    if (lobby_ == nullptr) return Answer::Done;
+    peer_.ready = 1;
+  } else {
+    ++peer_.ready;
+  }
   peer_.turnHeld = false;
   peer_.moves = {};
   return Answer::Done;
@@ -133,7 +139,7 @@ NetworkGame::Answer NetworkGame::Handle(const msg::Back&) {
   const bool opening = match_ != nullptr && !match_->begun();
   if (lobby_ == nullptr && cards_ == nullptr && !opening) return Answer::Refuse;
   AddChatLine("[" + game_->OppName + " has returned to the Network screen.]");
-  peer_.ready = false;
+  peer_.ready = 0;
   if (lobby_ != nullptr) return Answer::Done;
   WithdrawStake(*game_, *player_);
   services_.navigator.OpenLobby();
@@ -145,7 +151,9 @@ NetworkGame::Answer NetworkGame::Handle(const msg::Back&) {
 template <>
 NetworkGame::Answer NetworkGame::Handle(const msg::WhoS& who) {
   if (hosting_ || (match_ != nullptr && match_->begun())) return Answer::Refuse;
-  if (match_ == nullptr && cards_ == nullptr) return Answer::Refuse;
+  // The host may be at the table while this side has still to press Start.
+  const bool hostIsAhead = lobby_ != nullptr && peer_.ready > 0;
+  if (match_ == nullptr && cards_ == nullptr && !hostIsAhead) return Answer::Refuse;
   peer_.turnHeld = who.youStart;
   if (match_ != nullptr) {
     match_->setPlayerStarts(who.youStart);
@@ -234,7 +242,7 @@ void NetworkGame::WinAtTheDesk() {
   StakeToRecord(*game_, *player_);
   booking_->SaveWin();
   NetSend("[Play]");
-  peer_.ready = false;
+  peer_.ready = 0;
   services_.navigator.OpenLobby();
 }
 

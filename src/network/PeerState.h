@@ -3,8 +3,12 @@
 #pragma once
 
 #include <optional>
+#include <string_view>
 
 namespace kv {
+
+/// Behind "[" and the name: what announces a Start in the chat, right before its "[Play]".
+inline constexpr std::string_view kReadyToContinue = " is ready continue.]";
 
 struct PeerState {
   /// What of the greeting has arrived.
@@ -20,9 +24,10 @@ struct PeerState {
     bool played = false;
   };
 
-  bool ready = false;     // its "[Play]" has come and no screen has used it yet
-  bool turnHeld = false;  // its "[Turn]" was acted on; what follows are repetitions
-  bool turnSeen = false;  // it has ended a turn of this match
+  int ready = 0;           // its "[Play]"s that no screen has used yet: it may be one screen ahead
+  bool startSaid = false;  // the line that announces its Start has come: the next "[Play]" is that Start
+  bool turnHeld = false;   // its "[Turn]" was acted on; what follows are repetitions
+  bool turnSeen = false;   // it has ended a turn of this match
   bool versionMatches = true;
   Greeting greeting;
   Moves moves;

@@ -159,7 +159,7 @@ void frmNetwork::cmdStart_Click() {
 void frmNetwork::NetWaitTick() {
   if (!lobby_.network.peerReady()) return;
   tmrNetWait_->setEnabled(false);
-  lobby_.network.clearPeerReady();
+  lobby_.network.UsePeerStart();
   lobby_.network.PrepareMatch();
   services().navigator.OpenCards();
 }

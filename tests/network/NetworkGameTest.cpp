@@ -100,6 +100,41 @@ TEST_F(NetworkGameTest, AModeChangeTakesBothStartsBack) {
   EXPECT_EQ(guest.program->game()->Mode, kModeNetworkArcade);
 }
 
+TEST_F(NetworkGameTest, AStartThatCrossesAModeChangeCostsNobodyTheMatch) {
+  Meet();
+  guest.Click("cmdStart");
+  for (int toggle = 0; toggle < 2; ++toggle) host.Click("cmdGameMode");
+  Pass(1000);
+  host.Click("cmdStart");  // the guest's first Start came after the toggles
+  Pass(1000);
+  guest.Click("cmdStart");
+  Pass(2000);
+  for (NetworkPlayer* next : {&host, &guest, &host}) {  // proposes, accepts, goes on to the table
+    next->Act(10);
+    Pass(1000);
+  }
+  EXPECT_EQ(host.program->game()->Wager, 10);
+  Pass(8000);  // the guest takes its time
+  PlayUntil([this] { return BothOn("frmNetwork"); }, 10);
+  EXPECT_EQ(host.record().Wins_MP->Value + guest.record().Wins_MP->Value, 1);
+
+  Pass(3000);
+  guest.Click("cmdStart");
+  host.Click("cmdGameMode");  // to an arcade match, which has nothing to wait for at the cards
+  Pass(1000);
+  host.Click("cmdStart");
+  Pass(1000);
+  host.Act(0);
+  Pass(8000);
+  EXPECT_EQ(host.ScreenName(), "frmGame");
+  guest.Click("cmdStart");
+  Pass(2000);
+  ASSERT_EQ(guest.ScreenName(), "frmCards");
+  Pass(8000);
+  PlayUntil([this] { return BothOn("frmNetwork"); }, 0);
+  EXPECT_FALSE(guest.Saw("Unknown command") || host.Saw("Unknown command"));
+}
+
 TEST_F(NetworkGameTest, TheGuestMayProposeAnotherStake) {
   Meet();
   Start();

@@ -96,7 +96,7 @@ void PeerLobby::TradeWin() {
 void PeerLobby::NetWaitTick() {
   if (!services().network.peerReady()) return;
   tmrNetWait_->setEnabled(false);
-  services().network.clearPeerReady();
+  services().network.UsePeerStart();
   services().network.PrepareMatch();
   services().navigator.OpenCards();
 }
