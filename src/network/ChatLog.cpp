@@ -19,7 +19,11 @@ void ChatLog::Reset(std::string text) {
 
 void ChatLog::AddLine(const std::string& line) {
   std::string text = text_ + std::string(kLineBreak) + WireText(line);
-  if (text.size() > kMostText) text.erase(0, text.find(kLineBreak, text.size() - kMostText / 2));
+  if (text.size() > kMostText) {
+    std::size_t cut = text.find(kLineBreak, text.size() - kMostText / 2);
+    if (cut == std::string::npos) cut = text.rfind(kLineBreak);  // the last line alone is longer than that
+    text.erase(0, cut);
+  }
   Reset(std::move(text));
 }
 

@@ -151,6 +151,7 @@ void frmNetwork::cmdStart_Click() {
       ShowPlayer();
     }
   }
+  cmdStart_->setEnabled(false);  // a mode change behind the box may have enabled it
   lobby_.network.SendReady();
   ShowState("Waiting for the other player to press start...");
   tmrNetWait_->setEnabled(true);

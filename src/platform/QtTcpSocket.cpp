@@ -1,5 +1,9 @@
 #include "platform/QtTcpSocket.h"
 
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <sys/socket.h>
+
 #include <QNetworkInterface>
 #include <array>
 #include <utility>
@@ -9,6 +13,12 @@ namespace {
 
 constexpr qint64 kReadBuffer = 65536;  // bytes that the toolkit holds for us; the rest waits with the peer
 constexpr int kLinger = 1000;          // milliseconds for what was sent to leave a closed connection
+// A peer whose cable is pulled says nothing: asked after this many seconds of silence, then again as often,
+// it is given up after as many questions.
+constexpr int kSilence = 20;
+constexpr int kAskAgain = 5;
+constexpr int kMostQuestions = 4;
+constexpr int kUnanswered = 40000;  // milliseconds for the peer's system to confirm what was sent
 constexpr const char* kLoopback = "127.0.0.1";
 
 struct ErrorRow {
@@ -33,6 +43,19 @@ int NumberOf(QAbstractSocket::SocketError error) {
     if (row.error == error) return row.number;
   }
   return kOtherError;
+}
+
+/// Lets the system ask a silent peer whether it is still there. Where it cannot, only its own limits hold.
+void AskWhenSilent(QTcpSocket& socket) {
+  socket.setSocketOption(QAbstractSocket::KeepAliveOption, 1);
+  const auto handle = static_cast<int>(socket.socketDescriptor());
+  const auto set = [handle](int option, int value) {
+    static_cast<void>(setsockopt(handle, IPPROTO_TCP, option, &value, sizeof(value)));
+  };
+  set(TCP_KEEPIDLE, kSilence);
+  set(TCP_KEEPINTVL, kAskAgain);
+  set(TCP_KEEPCNT, kMostQuestions);
+  set(TCP_USER_TIMEOUT, kUnanswered);
 }
 
 /// The toolkit has no name of its own for a port that cannot be used to connect from.
@@ -98,6 +121,7 @@ void QtTcpSocket::Accept() {
   socket_ = std::exchange(request_, nullptr);
   server_.close();
   Watch();
+  AskWhenSilent(*socket_);
   // The peer may have spoken before it was accepted.
   Post([this] {
     if (socket_->bytesAvailable() > 0 && DataArrival) DataArrival();
@@ -109,6 +133,7 @@ void QtTcpSocket::Watch() {
   socket_->setSocketOption(QAbstractSocket::LowDelayOption, 1);
   QObject::connect(socket_, &QTcpSocket::connected, socket_, [this] {
     dialledFromPort_ = false;
+    AskWhenSilent(*socket_);
     if (Connected) Connected();
   });
   QObject::connect(socket_, &QTcpSocket::readyRead, socket_, [this] {

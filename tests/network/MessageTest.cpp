@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "network/Address.h"
+#include "network/ChatLog.h"
 #include "network/Framing.h"
 #include "network/Message.h"
 #include "platform/Random.h"
@@ -142,6 +143,15 @@ TEST(Address, OfSixRowsThoseAreListedThatOthersCanUse) {
   const std::vector<std::string> rows = {"0.0.0.0",  "127.0.0.1", "10.0.0.1", "10.0.0.2",
                                          "10.0.0.3", "10.0.0.4",  "10.0.0.5"};
   EXPECT_EQ(UsableAddresses(rows), std::vector<std::string>(rows.begin() + 2, rows.begin() + 6));
+}
+
+TEST(ChatLog, KeepsTheLastLineHoweverLongItIs) {
+  ChatLog log;
+  std::string wide = "a";
+  for (int character = 0; character < 4000; ++character) wide += "\u20ac";
+  for (int line = 0; line < 3; ++line) log.AddLine(wide);
+  EXPECT_NE(log.text().find(wide), std::string::npos);
+  EXPECT_LT(log.text().size(), 3 * wide.size()) << "the oldest go";
 }
 
 }  // namespace
