@@ -16,7 +16,11 @@ constexpr int kMargin = 22;
 constexpr int kCorners = 10;
 constexpr int kSidesOfTitle = 24;
 
-constexpr const char* kTitleFace = "BankGothic Md BT";
+QFont TitleFont() {
+  QFont font(QStringLiteral("BankGothic Md BT"));
+  font.setPixelSize(14);
+  return font;
+}
 
 struct BoxColors {
   QColor top;     // of the plate
@@ -91,9 +95,7 @@ class BoxFrame final : public QObject {
     painter.drawLine(band.bottomLeft(), band.bottomRight());
     painter.setPen(QPen(colors_.accent, 2));
     painter.drawPath(plate);
-    QFont font(QString::fromLatin1(kTitleFace));
-    font.setPixelSize(14);
-    painter.setFont(font);
+    painter.setFont(TitleFont());
     painter.setPen(colors_.title);
     painter.drawText(band, Qt::AlignCenter, box_.windowTitle());
   }
@@ -119,9 +121,7 @@ void FrameBox(QDialog& box, const std::string& interfaceStyle) {
   if (box.layout() == nullptr) return;
   box.layout()->setContentsMargins(kMargin, kTitleHeight + kMargin, kMargin, kMargin);
   // A short text must not cut the title.
-  QFont font(QString::fromLatin1(kTitleFace));
-  font.setPixelSize(14);
-  const int title = QFontMetrics(font).horizontalAdvance(box.windowTitle()) + 2 * kSidesOfTitle;
+  const int title = QFontMetrics(TitleFont()).horizontalAdvance(box.windowTitle()) + 2 * kSidesOfTitle;
   if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
     grid->addItem(new QSpacerItem(title - 2 * kMargin, 0), grid->rowCount(), 0, 1, grid->columnCount());
   }
