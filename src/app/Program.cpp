@@ -154,7 +154,7 @@ void Program::OpenCards() {
   Show([this] {
     auto cards =
         std::make_shared<frmCards>(Services(), frmCardsServices{*player_, *game_, Network(), networkStake_});
-    if (game_->isNetwork()) network_->CardsOpened(*cards);
+    if (game_->isNetwork()) network_->CardsOpened(cards->round());
     return cards;
   });
 }
@@ -165,7 +165,7 @@ void Program::OpenLobby() {
         Services(),
         frmNetworkServices{*player_, *network_,
                            services_.localAddresses ? services_.localAddresses : LocalIPv4Addresses});
-    network_->LobbyOpened(*lobby);
+    network_->LobbyOpened(lobby->lobby());
     return lobby;
   });
 }

@@ -4,15 +4,12 @@
 #include <QLabel>
 #include <algorithm>
 
-#include "campaign/Settlement.h"
 #include "match/clsGame.h"
 #include "platform/QtKeys.h"
 #include "platform/QtText.h"
 
 namespace kv {
 namespace {
-
-constexpr int kNetWaitInterval = 100;  // milliseconds
 
 bool Usable(const ctlButton& button) {
   return button.isVisible() && button.Enabled();
@@ -23,23 +20,23 @@ bool Usable(const ctlButton& button) {
 frmCards::frmCards(const ScreenServices& services, const frmCardsServices& cards)
     : Screen(services, "frmCards", cards.player.Interface_Opt),
       cards_(cards),
-      desk_(cards.game, cards.player, cards.networkStake),
-      entry_(cards.game, cards.player, cards.networkStake, cards.network.hosting()),
-      tmrNetWait_(NewTimer(kNetWaitInterval, [this] { NetWaitTick(); })) {
+      round_({services.scheduler, services.dialogs, services.random, services.navigator, cards.player,
+              cards.game, cards.network, cards.networkStake, lifetime()},
+             *this) {
   BuildBanks();
   BuildDeck();
   BuildShop();
   BuildButtons();
-  ctlWager_ = new ctlWager(this, layout(), services.buttons, entry_);
-  ctlWager_->WagerClick = [this] { ctlWager_WagerClick(); };
-  ctlWager_->EndClick = [this] { EndClick(); };
+  ctlWager_ = new ctlWager(this, layout(), services.buttons, round_.entry());
+  ctlWager_->WagerClick = [this] { round_.ctlWager_WagerClick(); };
+  ctlWager_->EndClick = [this] { round_.EndClick(); };
   if (cards_.game.isNetwork()) {
     GrowBelow(layout().rect(u"ctlChat").height());
     chat_ = new ctlChat(this, layout(), cards_.network);
   }
   ctlTitlebar_ = NewTitlebar();
   ctlTitlebar_->Quit = [this] { TitlebarQuit(); };
-  ctlTitlebar_->setCaption(ToQString(desk_.Title()));
+  ctlTitlebar_->setCaption(ToQString(round_.desk().Title()));
   setWindowTitle(ctlTitlebar_->Caption());
 }
 
@@ -53,161 +50,59 @@ void frmCards::Activate() {
 
 void frmCards::Shown() {
   if (ctlWager_->isVisible()) ctlWager_->gettxtWager().setFocus();
-  // In the other network mode there is no stake to agree upon, and nothing to wait for.
-  if (cards_.game.Mode != kModeNetwork) return;
-  tmrNetWait_->setEnabled(true);
-  cards_.network.NetSend("[Play]");
+  round_.Open();
 }
 
 void frmCards::Closing() {
-  tmrNetWait_->setEnabled(false);
-}
-
-void frmCards::NetWaitTick() {
-  if (!cards_.network.peerReady()) return;
-  tmrNetWait_->setEnabled(false);
-  cards_.network.clearPeerReady();
-  if (!cards_.network.hosting()) return;
-  entry_.EnableButtons(true);
-  ctlWager_->Refresh();
+  round_.Close();
 }
 
 // --- Cards -----------------------------------------------------------------------------------------------
 
 void frmCards::ClickBank(const CardPlace& place) {
-  const BankClick did = desk_.ClickBank(place);
+  const BankClick did = round_.desk().ClickBank(place);
   if (did == BankClick::Ignored) return;
   if (did == BankClick::Added) PlayEffect("draw");
   // The last copy is taken: the focus must not slide to a card that the person did not choose.
-  if (focusWidget() == Bank(place) && !desk_.Bank(place).enabled) setFocus();
+  if (focusWidget() == Bank(place) && !round_.desk().Bank(place).enabled) setFocus();
   Refresh();
 }
 
 void frmCards::RemoveCard(int slot) {
-  if (ctlWager_->isVisible() || !desk_.RemoveCard(slot)) return;
+  if (ctlWager_->isVisible() || !round_.desk().RemoveCard(slot)) return;
   Refresh();
 }
 
 void frmCards::SwitchView(CardView view) {
-  desk_.YourDeck(view);
+  round_.desk().YourDeck(view);
   Refresh();
 }
 
 void frmCards::Trade() {
-  static_cast<void>(desk_.Trade());  // what cannot be traded leaves everything as it was
+  static_cast<void>(round_.desk().Trade());  // what cannot be traded leaves everything as it was
   Refresh();
 }
 
 // --- The stake -------------------------------------------------------------------------------------------
 
-void frmCards::ctlWager_WagerClick() {
-  const WagerPress press = entry_.Press(services().dialogs);
-  if (closing()) return;
-  if (press.action == WagerAction::Propose) Propose(press.amount);
-  if (press.action == WagerAction::Settle) Settle(press);
+void frmCards::ShowWager() {
   ctlWager_->Refresh();
+  FocusAmount();
+}
+
+void frmCards::FocusAmount() {
   if (ctlWager_->isVisible() && (chat_ == nullptr || !chat_->writing())) ctlWager_->gettxtWager().setFocus();
 }
 
-void frmCards::Proposed(std::int32_t amount) {
-  proposed_ = false;
-  static_cast<void>(entry_.PeerProposes(std::to_string(amount)));
-  ctlWager_->Refresh();
-}
-
-void frmCards::Accepted() {
-  // The button settles what was proposed once a stake is open.
-  cards_.game.Wager = 0;
-  ctlWager_WagerClick();
-  if (desk_.view() == CardView::Null) cards_.game.Wager = -1;
-}
-
-void frmCards::Propose(std::int32_t amount) {
-  PlayEffect("check");
-  const ProposalTexts texts = TextsOfProposal(cards_.player.Name, amount);
-  cards_.network.NetSend(texts.wage);
-  cards_.network.NetSend(texts.chat);
-  cards_.network.AddChatLine(texts.ownLine);
-  proposed_ = true;
-}
-
-void frmCards::Settle(const WagerPress& press) {
-  proposed_ = false;
-  PlayEffect("accept");
-  // Whatever the peer was ready for before is over: its next "[Play]" is that of the match.
-  if (cards_.game.isNetwork()) cards_.network.clearPeerReady();
-  if (press.acceptsPeer) cards_.network.NetSend("[Acpt]");
-  if (!SettleStake(cards_.game, cards_.player, press.amount) || closing()) return;
-  desk_.StakeSettled();
+void frmCards::ShowSettled() {
   Refresh();
   if (chat_ == nullptr || !chat_->writing()) setFocus();
 }
 
-// --- Leaving ---------------------------------------------------------------------------------------------
-
-void frmCards::Continue() {
-  desk_.Store();
-  if (cards_.game.isNetwork()) {
-    cards_.network.NetSend("[Chat][" + cards_.player.Name + " is ready to play.]");
-    cards_.network.AddChatLine("[You are ready to play.]");
-  }
-  cards_.player.WritePlayerFile();
-  if (closing()) return;
-  if (cards_.game.Mode == kModeDeckConfig) {
-    services().navigator.OpenCampaign();
-  } else {
-    DealMatch(cards_.game, cards_.player, services().random);
-    services().navigator.OpenMatch();
-  }
-}
-
-void frmCards::EndClick() {
-  Navigator& navigator = services().navigator;
-  if (cards_.game.isNetwork()) {
-    cards_.network.NetSend("[Back]");
-    cards_.player.WritePlayerFile();
-    if (!closing()) navigator.OpenLobby();
-  } else if (cards_.game.Mode == kModeArcade) {
-    EndArcadeRun(cards_.game, cards_.player);
-    navigator.OpenMenu();
-  } else {
-    navigator.OpenCampaign();
-  }
-}
-
-bool frmCards::AskForfeit() {
-  const bool yes = services().dialogs.AskYesNo("Are you sure you wish to forfeit this match?",
-                                               "Kelm Vantri: Forfeit Match", DialogIcon::Exclamation);
-  return yes && !closing();
-}
-
 void frmCards::TitlebarQuit() {
-  if (closing()) return;
-  if (desk_.LeavesFreely()) {
-    ctlTitlebar_->setEnabled(false);
-    PlayEffect("click");
-    EndClick();
-    return;
-  }
-  if (!AskForfeit()) return;
-  PlayEffect("losematch");
-  if (cards_.game.isNetwork()) {
-    cards_.network.SubmitChat("/disconnect");
-  } else if (cards_.game.Mode == kModeArcade) {
-    services().navigator.ReloadCards();
-  } else {
-    EndClick();
-  }
-}
-
-void frmCards::LeaveProgram() {
-  // What was booked when the stake was settled stays booked.
-  if (!desk_.LeavesFreely() && !AskForfeit()) return;
-  if (cards_.game.isNetwork()) {
-    cards_.network.SubmitChat("/quit");
-    return;
-  }
-  services().navigator.EndProgram();
+  // Pressed twice it would end twice; after a no it can be pressed anew.
+  ctlTitlebar_->setEnabled(false);
+  if (!round_.TitlebarQuit() && !closing()) ctlTitlebar_->setEnabled(true);
 }
 
 // --- Keys ------------------------------------------------------------------------------------------------
@@ -243,7 +138,7 @@ void frmCards::keyPressEvent(QKeyEvent* event) {
     button->click();  // with the button's own sound
   } else if (key == Qt::Key_Escape && !event->isAutoRepeat()) {
     // A key pressed in passing must not end a run, which nobody is asked about between two matches.
-    if (cards_.game.Mode != kModeArcade || !desk_.LeavesFreely()) TitlebarQuit();
+    if (cards_.game.Mode != kModeArcade || !round_.desk().LeavesFreely()) TitlebarQuit();
   } else {
     Screen::keyPressEvent(event);
   }

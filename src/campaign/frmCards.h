@@ -4,13 +4,10 @@
 
 #include <array>
 
-#include "campaign/CardDesk.h"
-#include "campaign/WagerEntry.h"
-#include "campaign/WagerView.h"
+#include "campaign/CardRound.h"
 #include "campaign/ctlWager.h"
 #include "cards/clsDeckArray.h"
 #include "cards/ctlCard.h"
-#include "match/MatchPartners.h"
 #include "match/ctlChat.h"
 #include "presentation/Screen.h"
 #include "profile/clsPlayer.h"
@@ -25,19 +22,16 @@ struct frmCardsServices {
   NetworkStake& networkStake;
 };
 
-class frmCards final : public Screen, public WagerView {
+class frmCards final : public Screen, private CardRoundView {
  public:
   /// In the player's interface style, for the mode of the match record.
   frmCards(const ScreenServices& services, const frmCardsServices& cards);
   ~frmCards() override;
 
   /// A match whose stake is settled must be given up first.
-  void LeaveProgram() override;
+  void LeaveProgram() override { round_.LeaveProgram(); }
 
-  void Proposed(std::int32_t amount) override;
-  [[nodiscard]] bool awaitsAnswer() const override { return proposed_; }
-  void Accepted() override;
-
+  [[nodiscard]] CardRound& round() { return round_; }
   [[nodiscard]] ctlWager& wager() { return *ctlWager_; }
   [[nodiscard]] ctlTitlebar& titlebar() { return *ctlTitlebar_; }
   /// The card on a place of the collection; null for a place that holds none.
@@ -73,21 +67,16 @@ class frmCards final : public Screen, public WagerView {
   void RemoveCard(int slot);
   void SwitchView(CardView view);
   void Trade();
-  void ctlWager_WagerClick();
-  void Propose(std::int32_t amount);
-  void Settle(const WagerPress& press);
-  void Continue();
-  void EndClick();
   void TitlebarQuit();
-  /// True when the open stake was given up; the screen may be gone then.
-  [[nodiscard]] bool AskForfeit();
-  void NetWaitTick();
+  void FocusAmount();
+
+  // What the round says
+  void ShowWager() override;
+  void ShowSettled() override;
+  void PlaySound(std::string_view effect) override { PlayEffect(effect); }
 
   frmCardsServices cards_;
-  CardDesk desk_;
-  WagerEntry entry_;
-  std::unique_ptr<Timer> tmrNetWait_;
-  bool proposed_ = false;                                               // and the peer has not answered yet
+  CardRound round_;
   std::array<std::array<ctlCard*, kCardNumbers>, kCardKinds> banks_{};  // children, as all that follow
   std::array<ctlCard*, kDeckSize> slots_{};
   ctlWager* ctlWager_ = nullptr;

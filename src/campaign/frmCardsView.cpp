@@ -101,8 +101,9 @@ void frmCards::BuildButtons() {
   cmdBuy_ = NewButton(u"cmdBuy", [this] { SwitchView(CardView::Buy); });
   cmdSell_ = NewButton(u"cmdSell", [this] { SwitchView(CardView::Sell); });
   cmdTrade_ = NewButton(u"cmdTrade", [this] { Trade(); });
-  cmdContinue_ = NewButton(u"cmdContinue", [this] { Continue(); });
-  if (!desk_.ContinueCaption().empty()) cmdContinue_->setCaption(ToQString(desk_.ContinueCaption()));
+  cmdContinue_ = NewButton(u"cmdContinue", [this] { round_.Continue(); });
+  if (!round_.desk().ContinueCaption().empty())
+    cmdContinue_->setCaption(ToQString(round_.desk().ContinueCaption()));
 }
 
 ctlCard* frmCards::Bank(const CardPlace& place) {
@@ -118,7 +119,7 @@ void frmCards::Refresh() {
   RefreshDeck();
   RefreshShop();
   RefreshButtons();
-  ctlWager_->setVisible(desk_.view() == CardView::Null);
+  ctlWager_->setVisible(round_.desk().view() == CardView::Null);
   ctlWager_->raise();
   update();
 }
@@ -128,7 +129,7 @@ void frmCards::RefreshBanks() {
     for (std::size_t value = 0; value < banks_.at(kind).size(); ++value) {
       ctlCard* card = banks_.at(kind).at(value);
       if (card == nullptr) continue;
-      const BankCard shown = desk_.Bank({static_cast<int>(kind) + 1, static_cast<int>(value) + 1});
+      const BankCard shown = round_.desk().Bank({static_cast<int>(kind) + 1, static_cast<int>(value) + 1});
       card->setCount(std::to_string(shown.count));
       card->setPlace(QStringLiteral("%1 in the collection").arg(shown.count));
       card->setVisible(shown.visible);
@@ -139,15 +140,15 @@ void frmCards::RefreshBanks() {
 
 void frmCards::RefreshDeck() {
   for (int slot = 1; slot <= kDeckSize; ++slot) {
-    const CardCode& code = desk_.Slot(slot);
+    const CardCode& code = round_.desk().Slot(slot);
     ctlDeck(slot).setCard(code.text());
     ctlDeck(slot).setVisible(!code.empty());
   }
-  lblDeckCount_->setText(QStringLiteral("Deck %1/%2").arg(desk_.DeckCount()).arg(kDeckSize));
+  lblDeckCount_->setText(QStringLiteral("Deck %1/%2").arg(round_.desk().DeckCount()).arg(kDeckSize));
 }
 
 void frmCards::RefreshShop() {
-  const TradeArea shop = desk_.Shop();
+  const TradeArea shop = round_.desk().Shop();
   for (QWidget* part :
        std::initializer_list<QWidget*>{lblBuyorSell_, lblCost_, lblAmountHeader_, lblAmount_, cmdTrade_}) {
     part->setVisible(shop.shown);
@@ -163,28 +164,29 @@ void frmCards::RefreshShop() {
 }
 
 void frmCards::RefreshButtons() {
-  const DeskButtons buttons = desk_.Buttons();
+  const DeskButtons buttons = round_.desk().Buttons();
   for (ctlButton* button : {cmdDeck_, cmdBuy_, cmdSell_}) button->setVisible(buttons.shown);
   cmdDeck_->setEnabled(buttons.deck);
   cmdBuy_->setEnabled(buttons.buy);
   cmdSell_->setEnabled(buttons.sell);
   cmdContinue_->setEnabled(buttons.next);
-  const bool settled = desk_.view() != CardView::Null;
+  const bool settled = round_.desk().view() != CardView::Null;
   const bool stake = settled && cards_.game.Mode != kModeDeckConfig && cards_.game.Mode != kModeNetworkArcade;
   lblWagerHeader_->setVisible(stake);
   lblWager_->setVisible(stake);
   lblWager_->setText(QString::number(cards_.game.Wager));
   lblCreditHeader_->setVisible(settled && cards_.game.Mode != kModeNetworkArcade);
   lblCredits_->setVisible(lblCreditHeader_->isVisibleTo(this));
-  lblCredits_->setText(QString::number(desk_.Credits()));
+  lblCredits_->setText(QString::number(round_.desk().Credits()));
 }
 
 void frmCards::paintEvent(QPaintEvent* event) {
   Screen::paintEvent(event);
   QPainter painter(this);
   PaintPanel(painter, layout().rect(u"panelDeck"), layout().bag(u"panelDeck"));
-  PaintEmptySlots(painter, layout(), desk_);
-  if (desk_.Shop().shown) PaintPanel(painter, layout().rect(u"frmeTrade"), layout().bag(u"frmeTrade"));
+  PaintEmptySlots(painter, layout(), round_.desk());
+  if (round_.desk().Shop().shown)
+    PaintPanel(painter, layout().rect(u"frmeTrade"), layout().bag(u"frmeTrade"));
 }
 
 }  // namespace kv

@@ -4,15 +4,12 @@
 #include <QPainter>
 #include <array>
 
+#include "platform/QtText.h"
 #include "presentation/PanelPainter.h"
 #include "presentation/WidgetSkin.h"
 
 namespace kv {
 namespace {
-
-// Milliseconds.
-constexpr int kNetWaitInterval = 200;
-constexpr int kShowStartInterval = 2200;
 
 constexpr QColor kOwnPortraitFrame(0x0D, 0x59, 0x45);
 constexpr QColor kBuiltInFrame(0x80, 0x80, 0x80);
@@ -25,15 +22,16 @@ constexpr std::array kPanels = {u"panelPlayer", u"panelConnection", u"panelPlay"
 
 frmNetwork::frmNetwork(const ScreenServices& services, const frmNetworkServices& lobby)
     : Screen(services, "frmNetwork", lobby.player.Interface_Opt),
-      lobby_(lobby),
-      tmrNetWait_(NewTimer(kNetWaitInterval, [this] { NetWaitTick(); })),
-      tmrShowStart_(NewTimer(kShowStartInterval, [this] { ShowStart(); })) {
+      services_(lobby),
+      lobby_(
+          {services.scheduler, services.dialogs, services.navigator, lobby.network, lobby.player, lifetime()},
+          *this) {
   for (const char16_t* heading : kHeadings) layout().NewLabel(heading, this);
   BuildConnection();
   BuildPlayer();
   BuildPlay();
   ctlTitlebar* titlebar = NewTitlebar();
-  titlebar->Quit = [this] { lobby_.network.LeaveLobby(); };
+  titlebar->Quit = [this] { services_.network.LeaveLobby(); };
   // Over everything that it covers.
   lstIPs_->raise();
 }
@@ -47,7 +45,7 @@ void frmNetwork::BuildConnection() {
   cmdJoin_ = NewButton(u"cmdJoin", [this] { ChooseSide(false); });
   cmdDeviceIP_ = NewButton(u"cmdDeviceIP", [this] { ShowAddresses(); });
   ShowCaption(*cmdDeviceIP_, "Address of this computer",
-              QString::fromStdString(lobby_.network.LocalAddress()));
+              QString::fromStdString(services_.network.LocalAddress()));
   lstIPs_ = new QListWidget(this);
   SkinWidget(*lstIPs_, layout().bag(u"lstIPs"));
   layout().Place(u"lstIPs", *lstIPs_);
@@ -58,13 +56,13 @@ void frmNetwork::BuildConnection() {
   txtIP_->setMaxLength(15);
   SkinWidget(*txtIP_, layout().bag(u"txtIP"));
   layout().Place(u"txtIP", *txtIP_);
-  txtIP_->setText(QString::fromStdString(lobby_.player.LastIP));
+  txtIP_->setText(QString::fromStdString(services_.player.LastIP));
   connect(txtIP_, &QLineEdit::textChanged, this, [this] { AddressChanged(); });
   connect(txtIP_, &QLineEdit::returnPressed, this, [this] {
     if (cmdConnect_->Enabled()) cmdConnect_->click();
   });
   cmdPort_ = NewButton(u"cmdPort", [this] { cmdPort_Click(); });
-  ShowCaption(*cmdPort_, "Port", QString::number(lobby_.player.LastPort));
+  ShowCaption(*cmdPort_, "Port", QString::number(services_.player.LastPort));
   cmdConnect_ = NewButton(u"cmdConnect", [this] { cmdConnect_Click(); });
 }
 
@@ -79,13 +77,11 @@ void frmNetwork::BuildPlayer() {
 }
 
 void frmNetwork::BuildPlay() {
-  chat_ = new ctlChat(this, layout(), lobby_.network);
+  chat_ = new ctlChat(this, layout(), services_.network);
   lblState_ = layout().NewLabel(u"lblState", this);
-  cmdGameMode_ = NewButton(u"cmdGameMode", [this] { cmdGameMode_Click(); });
-  cmdStart_ = NewButton(u"cmdStart", [this] { cmdStart_Click(); });
-  cmdGameMode_->hide();
-  cmdStart_->hide();
-  if (lobby_.network.arcade()) ShowMode();
+  cmdGameMode_ = NewButton(u"cmdGameMode", [this] { lobby_.PressMode(); });
+  cmdStart_ = NewButton(u"cmdStart", [this] { lobby_.PressStart(); });
+  ShowPlay();
 }
 
 void frmNetwork::Activate() {
@@ -93,28 +89,17 @@ void frmNetwork::Activate() {
   ShowPlayer();
   ListLocalIPs();
   EnableButtons(true);
-  ChooseSide(lobby_.network.hosting());
-  if (!lobby_.network.connected()) {
-    ShowState("Choose to host or to join a game.");
-    return;
-  }
-  EnableButtons(false);
-  lobby_.network.TellStats();
-  if (!lobby_.network.versionMatches()) {
-    RefuseStart();
-    return;
-  }
-  tmrShowStart_->setEnabled(true);
-  ShowState("Connected.");
+  ChooseSide(services_.network.hosting());
+  if (services_.network.connected()) EnableButtons(false);
+  lobby_.Open();
 }
 
 void frmNetwork::Closing() {
-  tmrNetWait_->setEnabled(false);
-  tmrShowStart_->setEnabled(false);
+  lobby_.Close();
 }
 
 void frmNetwork::ShowPlayer() {
-  const clsPlayer& player = lobby_.player;
+  const clsPlayer& player = services_.player;
   const auto show = [](QLabel* label, const QString& heading, const QString& value) {
     label->setText(value);
     label->setAccessibleName(heading + QStringLiteral(": ") + value);
@@ -133,23 +118,25 @@ void frmNetwork::PortraitChosen(const Picture& picture) {
   imgYourPic_->setPicture(picture);
 }
 
-void frmNetwork::ShowMode() {
-  const bool arcade = lobby_.network.arcade();
+void frmNetwork::ShowPlay() {
+  const LobbyPlay& play = lobby_.play();
+  const bool arcade = services_.network.arcade();
   for (ctlButton* button : {cmdGameMode_, cmdStart_}) {
     button->setColor_Style(arcade ? QStringLiteral("Ember_Menu") : QStringLiteral("Slate"));
   }
   ShowCaption(*cmdGameMode_, "Game mode",
               arcade ? QStringLiteral("arcade match") : QStringLiteral("normal match"));
+  cmdStart_->setVisible(play.startShown);
+  cmdStart_->setEnabled(play.startEnabled);
+  cmdGameMode_->setVisible(play.modeShown);
+  cmdGameMode_->setEnabled(play.modeEnabled);
+  lblState_->setText(ToQString(play.state));
+  lblState_->setAccessibleName(lblState_->text());
 }
 
 void frmNetwork::ShowCaption(ctlButton& button, const char* what, const QString& caption) {
   button.setCaption(caption);
   button.setAccessibleName(QString::fromUtf8(what) + QStringLiteral(": ") + caption);
-}
-
-void frmNetwork::ShowState(const char* state) {
-  lblState_->setText(QString::fromUtf8(state));
-  lblState_->setAccessibleName(lblState_->text());
 }
 
 void frmNetwork::paintEvent(QPaintEvent* event) {

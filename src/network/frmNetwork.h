@@ -6,7 +6,7 @@
 #include <QListWidget>
 
 #include "match/ctlChat.h"
-#include "network/LobbyView.h"
+#include "network/Lobby.h"
 #include "network/NetworkGame.h"
 #include "presentation/PortraitCaller.h"
 #include "presentation/Screen.h"
@@ -22,7 +22,7 @@ struct frmNetworkServices {
   std::function<std::vector<std::string>()> localAddresses;
 };
 
-class frmNetwork final : public Screen, public PortraitCaller, public LobbyView {
+class frmNetwork final : public Screen, public PortraitCaller, private LobbyScreen {
  public:
   frmNetwork(const ScreenServices& services, const frmNetworkServices& lobby);
   ~frmNetwork() override;
@@ -30,10 +30,7 @@ class frmNetwork final : public Screen, public PortraitCaller, public LobbyView 
   void LeaveProgram() override;
   void PortraitChosen(const Picture& picture) override;
 
-  void Greet() override;
-  void RefuseStart() override;
-  void ModeReceived(bool arcade) override;
-  [[nodiscard]] bool waiting() const override { return tmrNetWait_->Enabled(); }
+  [[nodiscard]] Lobby& lobby() { return lobby_; }
 
  protected:
   void Activate() override;
@@ -59,22 +56,17 @@ class frmNetwork final : public Screen, public PortraitCaller, public LobbyView 
   void imgYourPic_Click();
   void cmdConnect_Click();
   void cmdPort_Click();
-  void cmdGameMode_Click();
-  void cmdStart_Click();
-  [[nodiscard]] bool AskTrade();
-  void ShowMode();
-  void ShowStart();
-  void NetWaitTick();
-  void ShowState(const char* state);
+  void ShowPlay() override;
+  void ShowAccount() override { ShowPlayer(); }
+  void ShowGreeting() override;
   /// A caption that changes, told with what it is the caption of.
   static void ShowCaption(ctlButton& button, const char* what, const QString& caption);
   [[nodiscard]] int Port() const;
 
-  frmNetworkServices lobby_;
+  frmNetworkServices services_;
+  Lobby lobby_;
   bool choosingPortrait_ = false;  // the picker is open
-  std::unique_ptr<Timer> tmrNetWait_;
-  std::unique_ptr<Timer> tmrShowStart_;
-  QLabel* lblName_ = nullptr;  // children, as all that follow
+  QLabel* lblName_ = nullptr;      // children, as all that follow
   QLabel* lblCredits_ = nullptr;
   QLabel* lblWins_ = nullptr;
   QLabel* lblLosses_ = nullptr;

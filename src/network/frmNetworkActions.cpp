@@ -8,8 +8,7 @@ namespace kv {
 namespace {
 
 constexpr int kHeadingLines = 2;  // of the list of addresses
-constexpr std::int32_t kTradedCredits = 10;
-constexpr int kListMargin = 8;  // layout pixels below its last line
+constexpr int kListMargin = 8;    // layout pixels below its last line
 constexpr QColor kChoosingFrame(255, 0, 0);
 constexpr const char* kLoopback = "127.0.0.1";
 constexpr const char* kPortPrompt =
@@ -28,7 +27,7 @@ void frmNetwork::EnableButtons(bool enabled) {
 }
 
 void frmNetwork::ChooseSide(bool hosting) {
-  lobby_.network.setHosting(hosting);
+  services_.network.setHosting(hosting);
   ShowCaption(*cmdConnect_, "Open the connection",
               hosting ? QStringLiteral("host") : QStringLiteral("connect"));
   cmdHost_->setEnabled(!hosting);
@@ -51,7 +50,7 @@ int frmNetwork::Port() const {
 
 void frmNetwork::cmdConnect_Click() {
   const QString address = txtIP_->text();
-  const bool hosting = lobby_.network.hosting();
+  const bool hosting = services_.network.hosting();
   const bool own =
       address == QString::fromUtf8(kLoopback) || !lstIPs_->findItems(address, Qt::MatchExactly).isEmpty();
   if (!hosting && own) {
@@ -61,8 +60,8 @@ void frmNetwork::cmdConnect_Click() {
     return;
   }
   EnableButtons(false);
-  ShowState(hosting ? "Waiting for the other player to join..." : "Connecting...");
-  lobby_.network.Open(Port(), address.toStdString());
+  lobby_.Opening();
+  services_.network.Open(Port(), address.toStdString());
 }
 
 void frmNetwork::cmdPort_Click() {
@@ -83,7 +82,7 @@ void frmNetwork::cmdPort_Click() {
 // --- The machine's own addresses -------------------------------------------------------------------------
 
 void frmNetwork::ListLocalIPs() {
-  const std::vector<std::string> addresses = UsableAddresses(lobby_.localAddresses());
+  const std::vector<std::string> addresses = UsableAddresses(services_.localAddresses());
   lstIPs_->clear();
   lstIPs_->addItem(QStringLiteral("< %1 IP(s) detected >").arg(addresses.size()));
   lstIPs_->addItem(QStringLiteral("(double-click to select)"));
@@ -104,15 +103,15 @@ void frmNetwork::ShowAddresses() {
 void frmNetwork::HideAddresses() {
   lstIPs_->hide();
   EnableButtons(true);
-  ChooseSide(lobby_.network.hosting());
+  ChooseSide(services_.network.hosting());
   cmdDeviceIP_->setFocus();
 }
 
 void frmNetwork::ChooseAddress(const QListWidgetItem& item) {
   if (lstIPs_->row(&item) < kHeadingLines) return;
-  lobby_.network.Bind(Port(), item.text().toStdString());
+  services_.network.Bind(Port(), item.text().toStdString());
   ShowCaption(*cmdDeviceIP_, "Address of this computer",
-              QString::fromStdString(lobby_.network.LocalAddress()));
+              QString::fromStdString(services_.network.LocalAddress()));
   HideAddresses();
 }
 
@@ -123,87 +122,18 @@ void frmNetwork::imgYourPic_Click() {
   services().navigator.OpenPortraits(*this);
 }
 
-// --- Mode and start --------------------------------------------------------------------------------------
-
-void frmNetwork::cmdGameMode_Click() {
-  lobby_.network.ToggleMode();
-  ShowMode();
-  if (!lobby_.network.hosting()) return;
-  tmrNetWait_->setEnabled(false);
-  cmdGameMode_->setEnabled(true);
-  cmdStart_->setEnabled(true);
-  ShowState("Press start when you are ready.");
-}
-
-bool frmNetwork::AskTrade() {
-  return services().dialogs.AskYesNo("Trade in 1 win for 10 credits?", "Kelm Vantri: No Credits",
-                                     DialogIcon::Information);
-}
-
-void frmNetwork::cmdStart_Click() {
-  clsPlayer& player = lobby_.player;
-  if (player.Credits_MP->Value == 0 && player.Wins_MP->Value >= 1) {
-    const bool trade = AskTrade();
-    if (closing()) return;
-    if (trade) {
-      player.Credits_MP->Value = kTradedCredits;
-      --player.Wins_MP->Value;
-      ShowPlayer();
-    }
-  }
-  cmdStart_->setEnabled(false);  // a mode change behind the box may have enabled it
-  lobby_.network.SendReady();
-  ShowState("Waiting for the other player to press start...");
-  tmrNetWait_->setEnabled(true);
-}
-
-void frmNetwork::NetWaitTick() {
-  if (!lobby_.network.peerReady()) return;
-  tmrNetWait_->setEnabled(false);
-  lobby_.network.UsePeerStart();
-  lobby_.network.PrepareMatch();
-  services().navigator.OpenCards();
-}
-
-void frmNetwork::ShowStart() {
-  tmrShowStart_->setEnabled(false);
-  cmdStart_->show();
-  cmdStart_->setEnabled(true);
-  cmdGameMode_->show();
-  cmdGameMode_->setEnabled(lobby_.network.hosting());
-  ShowState("Press start when you are ready.");
-}
-
-// --- The other side --------------------------------------------------------------------------------------
-
-void frmNetwork::Greet() {
+void frmNetwork::ShowGreeting() {
   lstIPs_->hide();
   EnableButtons(false);
-  tmrShowStart_->setEnabled(true);
   chat_->txtSend().clear();
   chat_->txtSend().setFocus();
-  ShowState("Connected.");
-}
-
-void frmNetwork::RefuseStart() {
-  tmrShowStart_->setEnabled(false);
-  tmrNetWait_->setEnabled(false);
-  cmdStart_->hide();
-  ShowState("The versions differ: only chat is possible.");
-}
-
-void frmNetwork::ModeReceived(bool arcade) {
-  tmrNetWait_->setEnabled(false);
-  if (lobby_.network.arcade() != arcade) cmdGameMode_Click();
-  cmdStart_->setEnabled(true);
-  if (cmdStart_->isVisible()) ShowState("Press start when you are ready.");
 }
 
 // --- Leaving ---------------------------------------------------------------------------------------------
 
 void frmNetwork::LeaveProgram() {
-  if (lobby_.network.connected()) {
-    lobby_.network.SubmitChat("/quit");
+  if (services_.network.connected()) {
+    services_.network.SubmitChat("/quit");
   } else {
     services().navigator.EndProgram();
   }
@@ -215,7 +145,7 @@ void frmNetwork::keyPressEvent(QKeyEvent* event) {
   } else if (lstIPs_->isVisible()) {
     HideAddresses();
   } else {
-    lobby_.network.LeaveLobby();
+    services_.network.LeaveLobby();
   }
 }
 

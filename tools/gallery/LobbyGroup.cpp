@@ -18,15 +18,15 @@ struct NoBooking final : MatchBooking {
   void SaveLoss() override {}
 };
 
-struct Lobby {
-  explicit Lobby(const Gallery& gallery) : stage(gallery.style(), gallery.scale()) {
+struct LobbyStage {
+  explicit LobbyStage(const Gallery& gallery) : stage(gallery.style(), gallery.scale()) {
     FillSamplePlayer(stage.player);
     network.Begin(stage.player, game, booking);
     screen = std::make_unique<frmNetwork>(
         stage.services(), frmNetworkServices{stage.player, network, [] {
                                                return std::vector<std::string>{kHostAddress, "10.8.0.2"};
                                              }});
-    network.LobbyOpened(*screen);
+    network.LobbyOpened(screen->lobby());
     screen->Open();
     stage.Settle();
   }
@@ -70,7 +70,7 @@ struct Lobby {
 }  // namespace
 
 void RenderLobby(Gallery& gallery) {
-  Lobby lobby(gallery);
+  LobbyStage lobby(gallery);
   gallery.Save(*lobby.screen, "lobby");
   lobby.Click("cmdDeviceIP");
   gallery.Save(*lobby.screen, "lobby-addresses");

@@ -1,0 +1,153 @@
+#include "campaign/CardRound.h"
+
+#include "campaign/Settlement.h"
+#include "match/clsGame.h"
+#include "presentation/Navigator.h"
+#include "profile/clsPlayer.h"
+
+namespace kv {
+namespace {
+
+constexpr int kNetWaitInterval = 100;  // milliseconds
+
+}  // namespace
+
+CardRound::CardRound(const CardRoundServices& services, CardRoundView& view)
+    : services_(services),
+      view_(view),
+      desk_(services.game, services.player, services.networkStake),
+      entry_(services.game, services.player, services.networkStake, services.network.hosting()),
+      tmrNetWait_(services.scheduler.NewTimer(kNetWaitInterval, [this] { NetWaitTick(); })) {}
+
+void CardRound::Open() {
+  // In the other network mode there is no stake to agree upon, and nothing to wait for.
+  if (services_.game.Mode != kModeNetwork) return;
+  tmrNetWait_->setEnabled(true);
+  services_.network.NetSend("[Play]");
+}
+
+void CardRound::Close() {
+  tmrNetWait_->setEnabled(false);
+}
+
+void CardRound::NetWaitTick() {
+  if (!services_.network.peerReady()) return;
+  tmrNetWait_->setEnabled(false);
+  services_.network.clearPeerReady();
+  if (!services_.network.hosting()) return;
+  entry_.EnableButtons(true);
+  view_.ShowWager();
+}
+
+// --- The stake -------------------------------------------------------------------------------------------
+
+void CardRound::ctlWager_WagerClick() {
+  const WagerPress press = entry_.Press(services_.dialogs);
+  if (services_.life.closing()) return;
+  if (press.action == WagerAction::Propose) Propose(press.amount);
+  if (press.action == WagerAction::Settle) Settle(press);
+  if (!services_.life.closing()) view_.ShowWager();
+}
+
+void CardRound::Proposed(std::int32_t amount) {
+  proposed_ = false;
+  static_cast<void>(entry_.PeerProposes(std::to_string(amount)));
+  view_.ShowWager();
+}
+
+void CardRound::Accepted() {
+  // The button settles what was proposed once a stake is open.
+  services_.game.Wager = 0;
+  ctlWager_WagerClick();
+  if (desk_.view() == CardView::Null) services_.game.Wager = -1;
+}
+
+void CardRound::Propose(std::int32_t amount) {
+  view_.PlaySound("check");
+  const ProposalTexts texts = TextsOfProposal(services_.player.Name, amount);
+  services_.network.NetSend(texts.wage);
+  services_.network.NetSend(texts.chat);
+  services_.network.AddChatLine(texts.ownLine);
+  proposed_ = true;
+}
+
+void CardRound::Settle(const WagerPress& press) {
+  proposed_ = false;
+  view_.PlaySound("accept");
+  // Whatever the peer was ready for before is over: its next "[Play]" is that of the match.
+  if (services_.game.isNetwork()) services_.network.clearPeerReady();
+  if (press.acceptsPeer) services_.network.NetSend("[Acpt]");
+  if (!SettleStake(services_.game, services_.player, press.amount) || services_.life.closing()) return;
+  desk_.StakeSettled();
+  view_.ShowSettled();
+}
+
+// --- Leaving ---------------------------------------------------------------------------------------------
+
+void CardRound::Continue() {
+  desk_.Store();
+  clsGame& game = services_.game;
+  if (game.isNetwork()) {
+    services_.network.NetSend("[Chat][" + services_.player.Name + " is ready to play.]");
+    services_.network.AddChatLine("[You are ready to play.]");
+  }
+  services_.player.WritePlayerFile();
+  if (services_.life.closing()) return;
+  if (game.Mode == kModeDeckConfig) {
+    services_.navigator.OpenCampaign();
+  } else {
+    DealMatch(game, services_.player, services_.random);
+    services_.navigator.OpenMatch();
+  }
+}
+
+void CardRound::EndClick() {
+  Navigator& navigator = services_.navigator;
+  if (services_.game.isNetwork()) {
+    services_.network.NetSend("[Back]");
+    services_.player.WritePlayerFile();
+    if (!services_.life.closing()) navigator.OpenLobby();
+  } else if (services_.game.Mode == kModeArcade) {
+    EndArcadeRun(services_.game, services_.player);
+    navigator.OpenMenu();
+  } else {
+    navigator.OpenCampaign();
+  }
+}
+
+bool CardRound::AskForfeit() {
+  const bool yes = services_.dialogs.AskYesNo("Are you sure you wish to forfeit this match?",
+                                              "Kelm Vantri: Forfeit Match", DialogIcon::Exclamation);
+  return yes && !services_.life.closing();
+}
+
+bool CardRound::TitlebarQuit() {
+  if (services_.life.closing()) return false;
+  if (desk_.LeavesFreely()) {
+    view_.PlaySound("click");
+    EndClick();
+    return true;
+  }
+  if (!AskForfeit()) return false;
+  view_.PlaySound("losematch");
+  if (services_.game.isNetwork()) {
+    services_.network.SubmitChat("/disconnect");
+  } else if (services_.game.Mode == kModeArcade) {
+    services_.navigator.ReloadCards();
+  } else {
+    EndClick();
+  }
+  return true;
+}
+
+void CardRound::LeaveProgram() {
+  // What was booked when the stake was settled stays booked.
+  if (!desk_.LeavesFreely() && !AskForfeit()) return;
+  if (services_.game.isNetwork()) {
+    services_.network.SubmitChat("/quit");
+    return;
+  }
+  services_.navigator.EndProgram();
+}
+
+}  // namespace kv
