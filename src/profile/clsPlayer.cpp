@@ -72,7 +72,7 @@ bool clsPlayer::Save() {
   WRITING = true;
   std::string saveTime = LocalDateAndTime();
   const auto file = FormatPlayerFile(*this, ToWindows1252(saveTime), random_);
-  const bool saved = file && AtomicWrite(FileName, *file).empty();
+  const bool saved = file && (store_ ? store_(FileName, *file) : AtomicWrite(FileName, *file).empty());
   WRITING = false;
   if (saved) {
     saveTime_ = std::move(saveTime);

@@ -17,6 +17,8 @@ class clsPlayer : public PlayerFields {
  public:
   /// Handles the waiting window events once; false when the program ends.
   using EventPump = std::function<bool()>;
+  /// Replaces the file at `path` by `bytes`, whole or not at all; true when that was done.
+  using FileStore = std::function<bool(const std::string& path, const std::string& bytes)>;
 
   /// A new record holds a brand-new player. `dialogs` and `random` must outlive it; `random` gives only the
   /// padding of the scrambled records.
@@ -29,6 +31,9 @@ class clsPlayer : public PlayerFields {
   /// Saves to FileName. Waits, handling events, while another save is under way. A failure is told in a box
   /// and changes neither the record nor the old file.
   void WritePlayerFile();
+
+  /// Where saved files go instead of the disk (simulations).
+  void setFileStore(FileStore store) { store_ = std::move(store); }
 
   /// XOR with the key, repeated; with 255 when the key is empty. Works on bytes.
   [[nodiscard]] static std::string Cipher(std::string_view text, std::string_view key);
@@ -45,6 +50,7 @@ class clsPlayer : public PlayerFields {
   Dialogs& dialogs_;
   Random& random_;
   EventPump handleEvents_;
+  FileStore store_;          // empty for the disk
   std::string saveTime_;  // local date and time of the last save, as stored in the file
 };
 

@@ -1,0 +1,46 @@
+#include "vantri-interleave/Rooms.h"
+
+namespace kv::interleave {
+namespace {
+
+// Milliseconds, those of the match screen.
+constexpr int kGameInterval = 50;
+constexpr int kAutoDialogsInterval = 800;
+constexpr int kNetWaitInterval = 50;
+
+}  // namespace
+
+MatchRoom::MatchRoom(const RoomServices& services)
+    : services_(services),
+      engine_(services.game, MatchOptionsOf(services.player), *this, services.network, services.booking,
+              services.dialogs, services.random),
+      tmrGame_(services.scheduler.NewTimer(kGameInterval, [this] { engine_.GameTick(); })),
+      tmrAutoDialogs_(
+          services.scheduler.NewTimer(kAutoDialogsInterval, [this] { engine_.AutoDialogsTick(); })),
+      tmrNetWait_(services.scheduler.NewTimer(kNetWaitInterval, [this] { engine_.NetWaitTick(); })) {}
+
+void MatchRoom::Close() {
+  life_.Close();
+  engine_.Close();
+}
+
+void MatchRoom::RunTimer(MatchTimer timer, bool run) {
+  Timer& which = timer == MatchTimer::Game          ? *tmrGame_
+                 : timer == MatchTimer::AutoDialogs ? *tmrAutoDialogs_
+                                                    : *tmrNetWait_;
+  which.setEnabled(run);
+}
+
+void MatchRoom::Leave() {
+  Close();
+  services_.navigator.LeaveMatch();
+}
+
+void MatchRoom::LeaveProgram() {
+  const bool sure = services_.game.Wager == -1 ||
+                    services_.dialogs.AskYesNo("Are you sure you wish to forfeit this match?",
+                                               "Kelm Vantri: Forfeit Match", DialogIcon::Exclamation);
+  if (sure && !life_.closing()) services_.network.SubmitChat("/quit");
+}
+
+}  // namespace kv::interleave
