@@ -33,8 +33,7 @@ void CardRound::Close() {
 void CardRound::NetWaitTick() {
   if (!services_.network.peerReady()) return;
   tmrNetWait_->setEnabled(false);
-  services_.network.clearPeerReady();
-  if (!services_.network.hosting()) return;
+  if (!services_.network.hosting() || desk_.view() != CardView::Null) return;
   entry_.EnableButtons(true);
   view_.ShowWager();
 }
@@ -74,8 +73,6 @@ void CardRound::Propose(std::int32_t amount) {
 void CardRound::Settle(const WagerPress& press) {
   proposed_ = false;
   view_.PlaySound("accept");
-  // Whatever the peer was ready for before is over: its next "[Play]" is that of the match.
-  if (services_.game.isNetwork()) services_.network.clearPeerReady();
   if (press.acceptsPeer) services_.network.NetSend("[Acpt]");
   if (!SettleStake(services_.game, services_.player, press.amount) || services_.life.closing()) return;
   desk_.StakeSettled();
@@ -104,9 +101,10 @@ void CardRound::Continue() {
 void CardRound::EndClick() {
   Navigator& navigator = services_.navigator;
   if (services_.game.isNetwork()) {
+    // The lobby first: while a save that fails is being told, the peer must find this side there.
     services_.network.NetSend("[Back]");
+    navigator.OpenLobby();
     services_.player.WritePlayerFile();
-    if (!services_.life.closing()) navigator.OpenLobby();
   } else if (services_.game.Mode == kModeArcade) {
     EndArcadeRun(services_.game, services_.player);
     navigator.OpenMenu();

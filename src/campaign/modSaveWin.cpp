@@ -74,11 +74,23 @@ bool BookLoss(clsGame& game, PlayerFields& player) {
 }
 
 void SaveBooking::SaveWin() {
+  lost_ = -1;
   if (BookWin(game_, player_, dialogs_)) player_.WritePlayerFile();
 }
 
 void SaveBooking::SaveLoss() {
+  if (game_.Wager != -1) lost_ = game_.Wager;
   if (BookLoss(game_, player_)) player_.WritePlayerFile();
+}
+
+void SaveBooking::TurnLossIntoWin() {
+  if (lost_ == -1 || game_.Wager != -1) return;
+  game_.Wager = lost_;
+  if (game_.Mode == kModeNetwork) {
+    Lower(game_.LossesRef->Value);
+    Raise(player_.Disconnects);
+  }
+  SaveWin();
 }
 
 }  // namespace kv

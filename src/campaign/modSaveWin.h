@@ -3,6 +3,8 @@
 // never twice.
 #pragma once
 
+#include <cstdint>
+
 #include "match/MatchPartners.h"
 
 namespace kv {
@@ -26,11 +28,13 @@ class SaveBooking final : public MatchBooking {
 
   void SaveWin() override;
   void SaveLoss() override;
+  void TurnLossIntoWin() override;
 
  private:
   clsGame& game_;
   clsPlayer& player_;
   Dialogs& dialogs_;
+  std::int32_t lost_ = -1;  // the stake of the match booked last, if it was lost
 };
 
 }  // namespace kv

@@ -63,7 +63,9 @@ void MatchEngine::Reset() {
   ++epoch_;
   gameState_ = GameStep::None;
   begun_ = true;
-  setDecided_ = opponentActs_ = autoStood_ = false;
+  betweenSets_ = false;
+  opponentActs_ = AutoStood = false;
+  decision_.reset();
   turn_ = playerStarts_ ? Seat::Player : Seat::Opponent;
   banner_.caption = "continue";
   mainDeckCount_.fill(0);
@@ -140,7 +142,6 @@ void MatchEngine::WaitForPeer(PeerWait next) {
 void MatchEngine::NetWaitTick() {
   if (closed_ || !net_.peerReady()) return;
   view_.RunTimer(MatchTimer::NetWait, false);
-  net_.clearPeerReady();
   const PeerWait next = std::exchange(peerWait_, PeerWait::None);
   if (next == PeerWait::NextSet) Reset();
   if (next == PeerWait::Leave) view_.Leave();
@@ -151,24 +152,46 @@ void MatchEngine::Close() {
   closed_ = true;
   ++epoch_;
   gameState_ = GameStep::None;
-  for (const MatchTimer timer : {MatchTimer::Game, MatchTimer::AutoDialogs, MatchTimer::NetWait}) {
+  for (const MatchTimer timer :
+       {MatchTimer::Game, MatchTimer::AutoDialogs, MatchTimer::NetWait, MatchTimer::Quiet}) {
     view_.RunTimer(timer, false);
   }
 }
 
-void MatchEngine::Forfeit() {
-  if (closed_) return;
-  if (game_.Wager == -1) {
-    if (!banner_.buttonEnabled) return;
-    view_.PlaySound("click");
-    Continue();
+void MatchEngine::WhenQuiet(std::function<void()> act) {
+  if (pauses_ == 0) {
+    act();
     return;
   }
+  whenQuiet_ = std::move(act);
+  view_.RunTimer(MatchTimer::Quiet, true);
+}
+
+void MatchEngine::QuietTick() {
+  if (pauses_ > 0) return;
+  view_.RunTimer(MatchTimer::Quiet, false);
+  if (!closed_ && whenQuiet_) std::exchange(whenQuiet_, {})();
+}
+
+void MatchEngine::Forfeit() {
+  if (closed_) return;
+  if (game_.Wager != -1) {
+    WhenQuiet([this] { AskForfeit(); });
+    return;
+  }
+  if (!banner_.buttonEnabled) return;
+  view_.PlaySound("click");
+  Continue();
+}
+
+void MatchEngine::AskForfeit() {
+  if (game_.Wager == -1) return;  // it ended in the pause that the question waited for
   const bool sure = dialogs_.AskYesNo("Are you sure you wish to forfeit this match?",
                                       "Kelm Vantri: Forfeit Match", DialogIcon::Exclamation);
-  // The match went on behind the question: it may be over, or the screen gone.
+  // The match went on behind the question: it may be over, or the screen gone. One that is decided is no
+  // longer given up, for the peer knows the result already.
   if (closed_ || game_.Wager == -1) return;
-  if (!sure) {
+  if (!sure || (decision_ && decision_->endsMatch)) {
     view_.ControlsChanged();  // the Forfeit button disabled itself when it was clicked
     return;
   }
@@ -194,6 +217,8 @@ void MatchEngine::OppForfeit() {
 void MatchEngine::StopMatch() {
   ++epoch_;
   opponentActs_ = false;
+  decision_.reset();
+  peerWait_ = PeerWait::None;
   gameState_ = GameStep::None;
   for (const MatchTimer timer : {MatchTimer::Game, MatchTimer::AutoDialogs, MatchTimer::NetWait}) {
     view_.RunTimer(timer, false);
@@ -239,7 +264,10 @@ void MatchEngine::StartGameTimer(GameStep next) {
 
 bool MatchEngine::Wait(double milliseconds) {
   const std::uint32_t epoch = epoch_;
-  return view_.Pause(static_cast<int>(milliseconds)) && !closed_ && epoch == epoch_;
+  ++pauses_;
+  const bool passed = view_.Pause(static_cast<int>(milliseconds));
+  --pauses_;
+  return passed && !closed_ && epoch == epoch_;
 }
 
 }  // namespace kv

@@ -16,7 +16,9 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -51,6 +53,7 @@ class MatchEngine {
   void GameTick();
   void AutoDialogsTick();
   void NetWaitTick();
+  void QuietTick();
   /// The banner's button, while it is enabled: the next set, or leaving the screen.
   void Continue();
   /// The screen is closing for good: timers stop, later calls do nothing.
@@ -66,6 +69,9 @@ class MatchEngine {
   /// The Forfeit button and the title bar's close: asks, then gives up the match; after the match it is
   /// Continue.
   void Forfeit();
+  /// Does `act` as soon as no pause of the match is under way: at once, or when it has ended. A box that
+  /// opened inside a pause would hold up the rules, and a peer with them, for as long as it is read.
+  void WhenQuiet(std::function<void()> act);
 
   // --- The opponent's side, as the network layer drives it
   // ---------------------------------------------------
@@ -90,12 +96,21 @@ class MatchEngine {
   /// Whether the moves of the peer's turn can be taken now. Soon: they are due, but this side has not come to
   /// them yet (a pause is under way, or its own turn is just ending).
   [[nodiscard]] PeerTurn peerTurn() const;
-  /// The set is decided and its banner is not shown yet.
-  [[nodiscard]] bool deciding() const { return setDecided_ && !banner_.visible; }
+  /// The set that is decided while its result is not shown yet; nothing at any other time.
+  [[nodiscard]] const std::optional<SetDecision>& decision() const { return decision_; }
   /// False until the first set begins.
   [[nodiscard]] bool begun() const { return begun_; }
-  /// A "[Play]" of the peer's is due: this side waits for it, or its banner is on view.
-  [[nodiscard]] bool expectsPlay() const { return !begun_ || banner_.visible || peerWait_ != PeerWait::None; }
+  /// A set's result is shown and this side has not begun the next one.
+  [[nodiscard]] bool betweenSets() const { return betweenSets_; }
+  /// This side has gone on and waits for the peer's "[Play]".
+  [[nodiscard]] bool waitsForPeer() const { return peerWait_ != PeerWait::None; }
+  /// The match was lost at the table, and booked so.
+  [[nodiscard]] bool LostByPlay() const;
+  /// Turns that into a win: the peer had given up before it knew the result.
+  void WinAfterAll();
+  /// Books a decided set that ends the match now, before its result is shown: the person leaves. False when
+  /// there is none.
+  bool BookDecision();
 
   /// The operations through which a strategy plays a side.
   [[nodiscard]] AiOperations& operations(Seat seat) { return side(seat).operations; }
@@ -164,6 +179,7 @@ class MatchEngine {
 
   // The end of a set and of the match
   bool CheckSetEnd(Seat closing, bool tableFull);
+  [[nodiscard]] SetDecision Decide(Seat closing) const;
   [[nodiscard]] GameStep DecideSet(Seat closing) const;
   void ShowResult(GameStep result);
   void BustWin();
@@ -171,6 +187,7 @@ class MatchEngine {
   void AddSetWin(bool isOpponent);
   void GoOn();
   void WaitForPeer(PeerWait next);
+  void AskForfeit();
   void StopMatch();
   void SettleBust(Seat seat);
 
@@ -200,11 +217,14 @@ class MatchEngine {
   bool playerStarts_ = false;
   Seat turn_ = Seat::Player;   // whose turn it is, or comes next
   bool opponentActs_ = false;  // in a network match: the peer's moves are taken
-  bool setDecided_ = false;
+  std::optional<SetDecision> decision_;
   bool begun_ = false;
-  bool autoStood_ = false;
+  bool betweenSets_ = false;
+  bool AutoStood = false;  // the player's last stand was automatic
   bool stopped_ = false;
   bool closed_ = false;
+  int pauses_ = 0;                   // under way, one in another
+  std::function<void()> whenQuiet_;  // what waits for their end
   PeerWait peerWait_ = PeerWait::None;
   int speedOffset_ = 0;              // milliseconds
   int turnDelay_ = 0;                // milliseconds

@@ -15,9 +15,10 @@ class MatchNetwork {
   virtual void NetSend(const std::string& message) { static_cast<void>(message); }
   /// True on the side that hosts the match and draws its first starter.
   [[nodiscard]] virtual bool hosting() const { return false; }
-  /// Whether the peer's "[Play]" has arrived, and forgetting that it has.
+  /// Whether the peer has come as far as this side's next step needs: its "[Play]" has arrived.
   [[nodiscard]] virtual bool peerReady() const { return false; }
-  virtual void clearPeerReady() {}
+  /// A set is decided, by the last move of either side.
+  virtual void SetDecided() {}
   /// Starts repeating "[Turn]" until the peer answers.
   virtual void startTurnRepeat() {}
 
@@ -38,6 +39,8 @@ class MatchBooking {
   virtual ~MatchBooking() = default;
   virtual void SaveWin() = 0;
   virtual void SaveLoss() = 0;
+  /// The last match, booked as lost, is won after all.
+  virtual void TurnLossIntoWin() {}
 };
 
 }  // namespace kv

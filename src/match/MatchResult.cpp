@@ -11,13 +11,47 @@ void MatchEngine::SettleBust(Seat seat) {
 bool MatchEngine::CheckSetEnd(Seat closing, bool tableFull) {
   const bool over = tableFull || (PlayerStood() && OpponentStood());
   if (!over) return false;
-  setDecided_ = true;
+  decision_ = Decide(closing);
+  if (isNetwork()) net_.SetDecided();
   controls_.table = {false, false};
   view_.ControlsChanged();
   // A pause that was cut short leaves the set undecided: the match is being closed or has just been
   // forfeited.
-  if (Wait(turnDelay_ / 1.5)) StartGameTimer(DecideSet(closing));
+  if (Wait(turnDelay_ / 1.5)) StartGameTimer(decision_->result);
   return true;
+}
+
+SetDecision MatchEngine::Decide(Seat closing) const {
+  const GameStep result = DecideSet(closing);
+  const bool last = (result == GameStep::PlayerWins && SetWins(Seat::Player) == kSetsToWin - 1) ||
+                    (result == GameStep::OpponentWins && SetWins(Seat::Opponent) == kSetsToWin - 1);
+  return {closing, result, last};
+}
+
+bool MatchEngine::BookDecision() {
+  if (!decision_ || !decision_->endsMatch) return false;
+  const bool won = decision_->result == GameStep::PlayerWins;
+  StopMatch();
+  if (won) {
+    booking_.SaveWin();
+  } else {
+    booking_.SaveLoss();
+  }
+  return true;
+}
+
+bool MatchEngine::LostByPlay() const {
+  return begun_ && !stopped_ && game_.Wager == -1 && SetWins(Seat::Opponent) == kSetsToWin;
+}
+
+void MatchEngine::WinAfterAll() {
+  if (!LostByPlay()) return;
+  side(Seat::Opponent).setWins = kSetsToWin - 1;  // its last one does not count
+  booking_.TurnLossIntoWin();
+  if (closed_) return;
+  view_.PlaySound("winmatch");
+  banner_.text = "You have defeated your opponent!";
+  view_.BannerChanged();
 }
 
 GameStep MatchEngine::DecideSet(Seat closing) const {
@@ -47,8 +81,10 @@ void MatchEngine::ShowResult(GameStep result) {
   }
   if (closed_) return;  // the screen was left while the booking told of a failed save
   gameState_ = GameStep::None;
-  net_.clearPeerReady();
+  decision_.reset();
+  betweenSets_ = true;
   banner_.visible = true;
+  banner_.caption = "continue";  // it may have read "(waiting)" when the match was given up
   banner_.buttonEnabled = !options_.autoDialogs;
   view_.BannerChanged();
   if (options_.autoDialogs) view_.RunTimer(MatchTimer::AutoDialogs, true);

@@ -9,6 +9,9 @@ namespace kv {
 
 class clsPlayer;
 
+/// The two sides of a match. The player is the person at this screen; the opponent a strategy or a peer.
+enum class Seat : std::uint8_t { Player, Opponent };
+
 inline constexpr int kTableSize = 9;
 inline constexpr int kSetsToWin = 3;
 inline constexpr int kTargetTotal = 20;
@@ -25,6 +28,13 @@ enum class GameStep : std::uint8_t {
 
 /// Where a match stands in the peer's turn.
 enum class PeerTurn : std::uint8_t { NotTheirs, Soon, Theirs };
+
+/// A set that is decided, before its result is shown.
+struct SetDecision {
+  Seat closing;     // whose end of turn decided it
+  GameStep result;  // SetTied, OpponentWins or PlayerWins
+  bool endsMatch;
+};
 
 /// The options of the player record that a match follows, taken when it opens.
 struct MatchOptions {

@@ -28,7 +28,7 @@ void MatchEngine::PlayerTurn() {
   DrawFor(Seat::Player);
   if (Total(Seat::Player) > kTargetTotal) view_.PlaySound("bust");
   if (TableFull(Seat::Player) || Total(Seat::Player) == kTargetTotal) {
-    autoStood_ = true;
+    AutoStood = true;
     StandPlayer();
   } else if (EndsTurnByItself()) {
     if (Wait(turnDelay_ * 0.85)) EndPlayerTurn();
@@ -62,7 +62,7 @@ void MatchEngine::PlayHandCard(int slot) {
     // The turn is decided: nothing may be pressed while the card is being looked at.
     SetTurnControls(false);
     if (!Wait(kHandCardPause)) return;
-    autoStood_ = true;
+    AutoStood = true;
     StandPlayer();
   }
 }
@@ -101,8 +101,8 @@ void MatchEngine::EndPlayerTurn() {
   SetTurnControls(false);
   SettleBust(Seat::Player);
   if (CheckSetEnd(Seat::Player, TableFull(Seat::Player))) return;
-  if (autoStood_ && !Wait(turnDelay_)) return;
-  autoStood_ = false;
+  if (AutoStood && !Wait(turnDelay_)) return;
+  AutoStood = false;
   StartGameTimer(GameStep::OpponentTurn);
 }
 
@@ -161,9 +161,7 @@ void MatchEngine::OppPlayHand(int slot, const CardCode& code) {
 
 PeerTurn MatchEngine::peerTurn() const {
   if (closed_ || stopped_ || game_.Wager == -1) return PeerTurn::NotTheirs;
-  // The peer may have begun the set that this side begins on its next tick.
-  if (peerWait_ == PeerWait::NextSet && net_.peerReady()) return PeerTurn::Soon;
-  if (!begun_ || setDecided_) return PeerTurn::NotTheirs;
+  if (!begun_ || decision_ || betweenSets_) return PeerTurn::NotTheirs;
   if (opponentActs_) return PeerTurn::Theirs;
   return turn_ == Seat::Opponent ? PeerTurn::Soon : PeerTurn::NotTheirs;
 }

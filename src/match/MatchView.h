@@ -5,14 +5,13 @@
 #include <cstdint>
 #include <string_view>
 
+#include "match/MatchState.h"
+
 namespace kv {
 
-/// The two sides of a match. The player is the person at this screen; the opponent a strategy or a peer.
-enum class Seat : std::uint8_t { Player, Opponent };
-
 /// Timers that the screen keeps for the engine: Game every 50 ms (one tick a start), AutoDialogs after 800 ms
-/// (one tick a start), NetWait every 50 ms until it is stopped.
-enum class MatchTimer : std::uint8_t { Game, AutoDialogs, NetWait };
+/// (one tick a start), NetWait every 50 ms until it is stopped, Quiet every 20 ms until it is stopped.
+enum class MatchTimer : std::uint8_t { Game, AutoDialogs, NetWait, Quiet };
 
 class MatchView {
  public:

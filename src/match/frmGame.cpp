@@ -7,6 +7,7 @@ namespace {
 constexpr int kGameInterval = 50;
 constexpr int kAutoDialogsInterval = 800;
 constexpr int kNetWaitInterval = 50;
+constexpr int kQuietInterval = 20;
 
 }  // namespace
 
@@ -30,9 +31,10 @@ frmGame::~frmGame() {
 }
 
 void frmGame::BuildTimers() {
-  tmrGame_ = NewTimer(kGameInterval, [this] { engine_.GameTick(); });
-  tmrAutoDialogs_ = NewTimer(kAutoDialogsInterval, [this] { engine_.AutoDialogsTick(); });
-  tmrNetWait_ = NewTimer(kNetWaitInterval, [this] { engine_.NetWaitTick(); });
+  timers_ = {NewTimer(kGameInterval, [this] { engine_.GameTick(); }),
+             NewTimer(kAutoDialogsInterval, [this] { engine_.AutoDialogsTick(); }),
+             NewTimer(kNetWaitInterval, [this] { engine_.NetWaitTick(); }),
+             NewTimer(kQuietInterval, [this] { engine_.QuietTick(); })};
 }
 
 void frmGame::BuildControls() {
@@ -99,15 +101,17 @@ void frmGame::Closing() {
 
 void frmGame::LeaveProgram() {
   if (closing()) return;
-  if (services_.game.isNetwork()) {
-    LeaveNetwork();
-    return;
-  }
-  if (services_.game.Wager != -1) {
-    engine_.Forfeit();
-    if (closing() || !engine_.Stopped()) return;
-  }
-  services_.navigator.EndProgram();
+  engine_.WhenQuiet([this] {
+    if (services_.game.isNetwork()) {
+      LeaveNetwork();
+      return;
+    }
+    if (services_.game.Wager != -1) {
+      engine_.Forfeit();
+      if (closing() || !engine_.Stopped()) return;
+    }
+    services_.navigator.EndProgram();
+  });
 }
 
 /// The peer is told, and the match booked, by leaving the game.

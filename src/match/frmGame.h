@@ -69,10 +69,8 @@ class frmGame final : public Screen, private MatchView {
   frmGameServices services_;
   const int styleIndex_;
   MatchEngine engine_;
-  clsCardArray keys_;  // the player's, as they were when the screen was activated
-  std::unique_ptr<Timer> tmrGame_;
-  std::unique_ptr<Timer> tmrAutoDialogs_;
-  std::unique_ptr<Timer> tmrNetWait_;
+  clsCardArray keys_;                             // the player's, as they were when the screen was activated
+  std::array<std::unique_ptr<Timer>, 4> timers_;  // by MatchTimer
   std::unique_ptr<frmGameHand> hand_;
   std::unique_ptr<frmGameSide> player_;
   std::unique_ptr<frmGameSide> opponent_;

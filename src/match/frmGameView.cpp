@@ -93,10 +93,7 @@ void frmGame::BannerChanged() {
 }
 
 void frmGame::RunTimer(MatchTimer timer, bool run) {
-  Timer& which = timer == MatchTimer::Game          ? *tmrGame_
-                 : timer == MatchTimer::AutoDialogs ? *tmrAutoDialogs_
-                                                    : *tmrNetWait_;
-  which.setEnabled(run);
+  timers_.at(static_cast<std::size_t>(timer))->setEnabled(run);
 }
 
 void frmGame::PlaySound(std::string_view effect) {

@@ -1,5 +1,6 @@
 #include "network/Link.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "platform/Text.h"
@@ -20,7 +21,7 @@ constexpr const char* kQuit = "[Quit]";
 }  // namespace
 
 Link::Link(Scheduler& scheduler, TcpSocket& socket, LinkEvents events)
-    : socket_(socket),
+    : tcpSock_(socket),
       events_(std::move(events)),
       tmrNet_(scheduler.NewTimer(kNetInterval, [this] { Pump(); })),
       tmrNetTimeOut_(scheduler.NewTimer(kTimeOutInterval,
@@ -30,20 +31,20 @@ Link::Link(Scheduler& scheduler, TcpSocket& socket, LinkEvents events)
                                         })),
       tmrNetTurn_(scheduler.NewTimer(kTurnInterval, [this] { NetSend("[Turn]"); })),
       tmrLeave_(scheduler.NewTimer(kLeaveInterval, [this] { LeaveTick(); })) {
-  socket_.ConnectionRequest = [this] {
-    if (socket_.State() != TcpSocket::Status::Closed) CloseConnection();
-    socket_.Accept();
+  tcpSock_.ConnectionRequest = [this] {
+    if (tcpSock_.State() != TcpSocket::Status::Closed) CloseConnection();
+    tcpSock_.Accept();
     Greet();
   };
-  socket_.Connected = [this] { Greet(); };
-  socket_.DataArrival = [this] { DataArrival(); };
-  socket_.Error = [this](int number, const std::string& description) { WinSockError(number, description); };
+  tcpSock_.Connected = [this] { Greet(); };
+  tcpSock_.DataArrival = [this] { DataArrival(); };
+  tcpSock_.Error = [this](int number, const std::string& description) { WinSockError(number, description); };
 }
 
 Link::~Link() {
-  socket_.ConnectionRequest = socket_.Connected = socket_.DataArrival = {};
-  socket_.Error = {};
-  socket_.Close();
+  tcpSock_.ConnectionRequest = tcpSock_.Connected = tcpSock_.DataArrival = {};
+  tcpSock_.Error = {};
+  tcpSock_.Close();
 }
 
 void Link::NetSend(const std::string& message) {
@@ -72,8 +73,10 @@ void Link::LeaveTick() {
 }
 
 void Link::CloseConnection() {
+  // A farewell that still waits for its tick goes out before the door is shut.
+  if (tmrLeave_->Enabled() && connected() && !lstSend_.empty()) tcpSock_.SendData(lstSend_.front());
   ++connection_;
-  socket_.Close();
+  tcpSock_.Close();
   for (const auto* timer : {&tmrNet_, &tmrNetTimeOut_, &tmrNetTurn_, &tmrLeave_}) (*timer)->setEnabled(false);
   lstSend_.clear();
   lstReceive_.clear();
@@ -83,19 +86,19 @@ void Link::CloseConnection() {
 
 void Link::Open(int port, const std::string& remoteHost) {
   CloseConnection();
-  socket_.setLocalPort(port);
-  socket_.setRemotePort(port);
-  socket_.setRemoteHost(remoteHost);
+  tcpSock_.setLocalPort(port);
+  tcpSock_.setRemotePort(port);
+  tcpSock_.setRemoteHost(remoteHost);
 }
 
 void Link::Listen(int port, const std::string& remoteHost) {
   Open(port, remoteHost);
-  socket_.Listen();
+  tcpSock_.Listen();
 }
 
 void Link::Connect(int port, const std::string& remoteHost) {
   Open(port, remoteHost);
-  socket_.Connect();
+  tcpSock_.Connect();
 }
 
 void Link::Greet() {
@@ -104,7 +107,7 @@ void Link::Greet() {
 }
 
 void Link::DataArrival() {
-  const std::string bytes = socket_.GetData();
+  const std::string bytes = tcpSock_.GetData();
   // After "[Quit]" nobody handles what still comes: it must not pile up.
   if (!pumping()) return;
   for (std::string& message : framing_.Feed(bytes)) lstReceive_.push_back(std::move(message));
@@ -117,7 +120,12 @@ void Link::DataArrival() {
 
 void Link::Pump() {
   if (!connected()) {
-    Interrupt();
+    // Who said goodbye and hung up is not lost: what came before the goodbye counts, and so does it.
+    if (tmrLeave_->Enabled() || !QuitWaits()) {
+      Interrupt();
+    } else {
+      HandleNext();
+    }
     return;
   }
   if (std::exchange(interrupted_, false)) events_.Interrupted(false);
@@ -129,11 +137,19 @@ void Link::SendNext() {
   if (lstSend_.empty()) return;
   const std::string entry = std::move(lstSend_.front());
   lstSend_.pop_front();
-  socket_.SendData(entry);
+  tcpSock_.SendData(entry);
   if (entry != std::string(kQuit) + kSeparatorByte) return;
   lstSend_.clear();
   lstReceive_.clear();
   tmrNet_->setEnabled(false);
+}
+
+bool Link::QuitWaits() const {
+  return std::ranges::find(lstReceive_, kQuit) != lstReceive_.end();
+}
+
+bool Link::Unsent(std::string_view command) const {
+  return std::ranges::any_of(lstSend_, [&](const std::string& each) { return each.starts_with(command); });
 }
 
 void Link::HandleNext() {

@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "network/Framing.h"
 #include "platform/Scheduler.h"
@@ -54,10 +55,12 @@ class Link {
   void StopTurnRepeat() { tmrNetTurn_->setEnabled(false); }
   [[nodiscard]] bool turnRepeats() const { return tmrNetTurn_->Enabled(); }
 
-  [[nodiscard]] bool connected() const { return socket_.State() == TcpSocket::Status::Connected; }
+  [[nodiscard]] bool connected() const { return tcpSock_.State() == TcpSocket::Status::Connected; }
   /// Messages go in and out. False once "[Quit]" has been sent.
   [[nodiscard]] bool pumping() const { return tmrNet_->Enabled(); }
-  [[nodiscard]] TcpSocket& socket() const { return socket_; }
+  [[nodiscard]] TcpSocket& socket() const { return tcpSock_; }
+  /// A message with this command has not left yet.
+  [[nodiscard]] bool Unsent(std::string_view command) const;
   [[nodiscard]] std::size_t waiting() const { return lstReceive_.size(); }
 
  private:
@@ -67,11 +70,13 @@ class Link {
   void Pump();
   void SendNext();
   void HandleNext();
+  /// The peer's "[Quit]" has arrived and was not handled yet.
+  [[nodiscard]] bool QuitWaits() const;
   void Interrupt();
   void LeaveTick();
   void WinSockError(int number, const std::string& description);
 
-  TcpSocket& socket_;
+  TcpSocket& tcpSock_;
   LinkEvents events_;
   Framing framing_;
   std::deque<std::string> lstSend_;     // bytes of the wire, each with its separator

@@ -72,7 +72,7 @@ void Lobby::PressStart() {
   if (!play_.startEnabled) return;
   if (!TradeAWin()) return;
   play_.startEnabled = false;  // a mode change behind the box may have enabled it
-  services_.network.SendReady();
+  services_.network.PressStart();
   play_.state = "Waiting for the other player to press start...";
   tmrNetWait_->setEnabled(true);
   screen_.ShowPlay();
@@ -97,7 +97,6 @@ bool Lobby::TradeAWin() {
 void Lobby::NetWaitTick() {
   if (!services_.network.peerReady()) return;
   tmrNetWait_->setEnabled(false);
-  services_.network.UsePeerStart();
   services_.network.PrepareMatch();
   services_.navigator.OpenCards();
 }

@@ -53,12 +53,38 @@ void NetworkGame::StartFresh() {
 
 void NetworkGame::LobbyOpened(LobbyView& lobby) {
   lobby_ = &lobby;
-  peer_.playerStarts.reset();
+  peer_.OwnLobby(left_);
+  link_.StopTurnRepeat();  // the match is over: nobody need answer its last turn any more
   // A match without a stake may have been called off at the cards: there is none under way here.
   if (game_->Mode == kModeNetworkArcade) game_->Wager = -1;
 }
 
+bool NetworkGame::matchUnderWay() const {
+  return game_->Wager != -1;
+}
+
+Place NetworkGame::place() const {
+  if (match_ == nullptr) {
+    if (cards_ == nullptr) return Place::Lobby;
+    return matchUnderWay() ? Place::Desk : Place::Cards;
+  }
+  if (!matchUnderWay()) return Place::Over;
+  if (!match_->begun()) return Place::Opening;
+  if (match_->decision()) return Place::Decided;
+  if (match_->betweenSets()) return Place::Banner;
+  switch (match_->peerTurn()) {
+    case PeerTurn::Theirs:
+      return Place::Theirs;
+    case PeerTurn::Soon:
+      return Place::Handover;
+    case PeerTurn::NotTheirs:
+      break;
+  }
+  return Place::Ours;
+}
+
 void NetworkGame::ScreensClosed() {
+  if (game_ != nullptr) left_ = place();
   lobby_ = nullptr;
   cards_ = nullptr;
   match_ = nullptr;
@@ -67,8 +93,7 @@ void NetworkGame::ScreensClosed() {
 
 void NetworkGame::MatchOpened(MatchEngine& match) {
   match_ = &match;
-  peer_.moves = {};
-  peer_.turnSeen = false;
+  peer_.OwnTable();
   if (peer_.playerStarts) match.setPlayerStarts(*std::exchange(peer_.playerStarts, {}));
 }
 
@@ -80,13 +105,14 @@ void NetworkGame::SendHello() {
   chat_.Reset("\r\n\r\n\r\n");
   NetSend("[Vers]" + std::string(kProgramVersion));
   NetSend("[Name]" + player_->Name);
-  NetSend("[Chat]" + StatsLine());
+  SendStats();
   NetSend("[Port]" + std::to_string(player_->Portrait));
   bool found = false;
   static_cast<void>(services_.portrait(-1, "", found));
-  // A name that the wire cannot spell would name another file over there.
-  const std::string file = FileNameOf(player_->FileName);
-  NetSend("[File]" + (found && WireText(file) == file ? file : std::string("0")));
+  // A name that the wire cannot spell, or that no receiver takes, would name nothing or another file over
+  // there.
+  const std::string file = "[File]" + FileNameOf(player_->FileName);
+  NetSend(found && ParseMessage(file) ? file : "[File]0");
   player_->LastIP = link_.socket().RemoteHost();
   player_->LastPort = link_.socket().LocalPort();
   player_->WritePlayerFile();
@@ -99,9 +125,8 @@ std::string NetworkGame::StatsLine() const {
 }
 
 void NetworkGame::TellStats() {
-  const std::string line = StatsLine();
-  AddChatLine("[(You) " + line.substr(1));
-  NetSend("[Chat]" + line);
+  AddChatLine("[(You) " + StatsLine().substr(1));
+  SendStats();
 }
 
 // --- Lobby -----------------------------------------------------------------------------------------------
@@ -123,11 +148,11 @@ void NetworkGame::ToggleMode() {
   arcade_ = !arcade_;
   AddChatLine(arcade_ ? "[Changed game mode to Arcade match.]" : "[Changed game mode to Normal match.]");
   if (!hosting_) return;
-  peer_.ready = 0;
+  peer_.OwnModeChange();
   NetSend(arcade_ ? "[Mode]1" : "[Mode]0");
 }
 
-void NetworkGame::SendReady() {
+void NetworkGame::PressStart() {
   NetSend("[Chat][" + player_->Name + std::string(kReadyToContinue));
   NetSend("[Play]");
   AddChatLine("[You are ready to continue.]");
@@ -161,6 +186,7 @@ void NetworkGame::PrepareMatch() {
 // --- Chat ------------------------------------------------------------------------------------------------
 
 void NetworkGame::NetSend(const std::string& message) {
+  if (message == "[Forf]") peer_.OwnForfeit(place());
   std::string text = WireText(message);
   if (text.size() > kMostWire) text = WireText(text.substr(0, kMostWire));
   link_.NetSend(text);
@@ -168,17 +194,14 @@ void NetworkGame::NetSend(const std::string& message) {
 
 void NetworkGame::SubmitChat(const std::string& line) {
   if (line == "/quit") {
-    link_.Leave();
     services_.playEffect("losematch");
-    BookLossIfUnderWay();
-    peer_.ready = 0;  // no screen goes on behind the scenes
+    Leave();
     services_.hideScreen();
     services_.navigator.EndProgramSoon();
     return;
   }
   if (line == "/disconnect") {
-    link_.Leave();
-    BookLossIfUnderWay();
+    Leave();
     services_.navigator.OpenMenu();
     return;
   }
@@ -211,12 +234,13 @@ void NetworkGame::ConnectionFailed(int number, const std::string& description) {
   services_.navigator.OpenLobby();
 }
 
-bool NetworkGame::matchUnderWay() const {
-  return game_->Wager != -1;
-}
-
-void NetworkGame::BookLossIfUnderWay() {
+/// The person leaves the game for good: the peer is told, and a match under way is lost, unless both sides
+/// know already how it has ended.
+void NetworkGame::Leave() {
+  const bool known = !link_.Unsent("[Turn]") && !link_.Unsent("[TAck]");
+  link_.Leave();
   if (!matchUnderWay()) return;
+  if (match_ != nullptr && known && match_->BookDecision()) return;
   StakeToRecord(*game_, *player_);
   booking_->SaveLoss();
 }

@@ -13,7 +13,7 @@
 #include "network/LobbyView.h"
 #include "network/Message.h"
 #include "network/NetworkServices.h"
-#include "network/PeerState.h"
+#include "network/PeerPlace.h"
 
 namespace kv {
 
@@ -53,17 +53,13 @@ class NetworkGame final : public MatchNetwork {
   [[nodiscard]] bool arcade() const { return arcade_; }
   /// Switches it, says so in the log and, on the host, tells the peer. Forgets that the peer was ready.
   void ToggleMode();
-  /// Uses the peer's Start and keeps what it has said since: it may be at the cards, or even the table,
-  /// already.
-  void UsePeerStart() {
-    if (peer_.ready > 0) --peer_.ready;
-  }
   /// Tells the peer that this side is ready: the chat notice and "[Play]".
-  void SendReady();
+  void PressStart();
   /// Sets the match record up for the mode; the card screen comes next.
   void PrepareMatch();
   /// The lobby is shown while connected: both sides see this player's statistics.
   void TellStats();
+  void SendStats() { NetSend("[Chat]" + StatsLine()); }
   /// The lobby is left for the main menu by its title bar.
   void LeaveLobby();
 
@@ -71,6 +67,9 @@ class NetworkGame final : public MatchNetwork {
   /// "[name: 100 credits, 3 wins, 2 losses, 0 disconnects]".
   [[nodiscard]] std::string StatsLine() const;
   [[nodiscard]] const Link& link() const { return link_; }
+  /// Where this side is, and what it knows of the peer.
+  [[nodiscard]] Place place() const;
+  [[nodiscard]] const PeerPlace& peer() const { return peer_; }
 
   /// One entry of the incoming queue. False: not yet, hand it over again on a later tick.
   [[nodiscard]] bool ProcessMessage(const std::string& entry);
@@ -78,28 +77,28 @@ class NetworkGame final : public MatchNetwork {
   // --- What the screens of a match do ----------------------------------------------------------------------
   void NetSend(const std::string& message) override;
   [[nodiscard]] bool hosting() const override { return hosting_; }
-  [[nodiscard]] bool peerReady() const override { return peer_.ready > 0; }
-  void clearPeerReady() override { peer_.ready = 0; }
+  [[nodiscard]] bool peerReady() const override { return peer_.Ready(place()); }
+  void SetDecided() override { peer_.OwnSetDecided(); }
   void startTurnRepeat() override { link_.StartTurnRepeat(); }
   void AddChatLine(const std::string& line) override { chat_.AddLine(line); }
   void SubmitChat(const std::string& line) override;
   void MirrorChat(ChatMirror mirror) override { chat_.setMirror(std::move(mirror)); }
 
  private:
-  enum class Answer { Done, Later, Refuse };
-
-  /// What a message does; one specialization for each.
+  /// What a message does; one specialization for each. False when it makes no sense after all.
   template <typename Kind>
-  Answer Handle(const Kind& message);
+  bool Handle(const Kind& message);
+  [[nodiscard]] Course CourseOf(const Message& message);
 
-  /// Why a move of the peer's cannot be taken now; nothing when it can.
-  [[nodiscard]] std::optional<Answer> MoveBarred() const;
   [[nodiscard]] bool matchUnderWay() const;
+  void PeerIsInLobby();
   void SendHello();
   void Interrupted(bool interrupted);
   void ConnectionFailed(int number, const std::string& description);
   void WinAtTheDesk();
-  void BookLossIfUnderWay();
+  /// The peer has left. `unanswered`: it has not answered this side's last turn. True when that wins.
+  bool WinByItsLeaving(bool unanswered);
+  void Leave();
   void StartFresh();
 
   NetworkServices services_;
@@ -112,7 +111,8 @@ class NetworkGame final : public MatchNetwork {
   MatchEngine* match_ = nullptr;
   bool hosting_ = true;
   bool arcade_ = false;
-  PeerState peer_;
+  PeerPlace peer_;
+  Place left_ = Place::Lobby;  // where this side was before the present place
   ChatLog chat_;
 };
 

@@ -11,266 +11,288 @@
 namespace kv {
 namespace {
 
-constexpr int kMostPostponed = 50;         // ticks: far longer than any pause of a match
 constexpr std::uint8_t kCopiesInDeck = 4;  // of each main-deck card
+constexpr std::string_view kStatsEnd = " disconnects]";
 constexpr std::size_t kVersionDigits = 4;  // "1.2.": what two versions that can play have in common
 
 }  // namespace
 
-std::optional<NetworkGame::Answer> NetworkGame::MoveBarred() const {
-  if (match_ == nullptr) return Answer::Refuse;
-  switch (match_->peerTurn()) {
-    case PeerTurn::Theirs:
-      return {};
-    case PeerTurn::Soon:
-      return Answer::Later;
-    case PeerTurn::NotTheirs:
-      break;
-  }
-  // The match ended here (a forfeit) while the move was on its way.
-  return match_->Stopped() || !matchUnderWay() ? Answer::Done : Answer::Refuse;
-}
-
 // --- Greeting and chat -------------------------------------------------------------------------------------
 
 template <>
-NetworkGame::Answer NetworkGame::Handle(const msg::Vers& version) {
-  if (std::exchange(peer_.greeting.version, true)) return Answer::Refuse;
+bool NetworkGame::Handle(const msg::Vers& version) {
+  if (std::exchange(peer_.greeting.version, true)) return false;
   const auto digits = [](std::string_view text) { return text.substr(0, kVersionDigits); };
   const std::string own(kProgramVersion);
   peer_.versionMatches = digits(version.version) == digits(kProgramVersion);
   if (peer_.versionMatches) {
     AddChatLine("[Version Check (Pass): You - v" + own + ", Opp - v" + version.version + "]");
-    return Answer::Done;
+    return true;
   }
   AddChatLine("[Version Check (FAIL): You - " + own + ", Opp - v" + version.version + "]");
   if (lobby_ != nullptr) lobby_->RefuseStart();
-  return Answer::Done;
+  return true;
 }
 
 template <>
-NetworkGame::Answer NetworkGame::Handle(const msg::Name& name) {
-  if (std::exchange(peer_.greeting.name, true)) return Answer::Refuse;
+bool NetworkGame::Handle(const msg::Name& name) {
+  if (std::exchange(peer_.greeting.name, true)) return false;
   game_->OppName = name.text;
   AddChatLine("[Connected with " + name.text + "]");
   AddChatLine("[(You) " + StatsLine().substr(1));
-  return Answer::Done;
+  return true;
 }
 
 template <>
-NetworkGame::Answer NetworkGame::Handle(const msg::Port& port) {
-  if (std::exchange(peer_.greeting.portrait, true)) return Answer::Refuse;
+bool NetworkGame::Handle(const msg::Port& port) {
+  if (std::exchange(peer_.greeting.portrait, true)) return false;
   bool found = false;
   game_->OppPic = services_.portrait(port.number, "0", found);
-  return Answer::Done;
+  return true;
 }
 
 template <>
-NetworkGame::Answer NetworkGame::Handle(const msg::File& file) {
-  if (std::exchange(peer_.greeting.file, true)) return Answer::Refuse;
+bool NetworkGame::Handle(const msg::File& file) {
+  if (std::exchange(peer_.greeting.file, true)) return false;
   bool found = false;
   const Picture own = services_.portrait(0, file.baseName, found);
   if (found) game_->OppPic = own;
-  return Answer::Done;
+  return true;
 }
 
 template <>
-NetworkGame::Answer NetworkGame::Handle(const msg::Chat& chat) {
+bool NetworkGame::Handle(const msg::Chat& chat) {
   AddChatLine(chat.text);
-  peer_.startSaid = chat.text == "[" + game_->OppName + std::string(kReadyToContinue);
-  return Answer::Done;
+  const std::string& name = game_->OppName;
+  if (chat.text == "[" + name + std::string(kReadyToContinue)) peer_.SaysStart();
+  // Its statistics are what a lobby says when it is entered.
+  if (chat.text.starts_with("[" + name + ": ") && chat.text.ends_with(kStatsEnd)) PeerIsInLobby();
+  return true;
 }
 
 // --- Lobby and card screen -------------------------------------------------------------------------------
 
 template <>
-NetworkGame::Answer NetworkGame::Handle(const msg::Mode& mode) {
-  const bool choosingCards = cards_ != nullptr && (!matchUnderWay() || arcade_);
-  if (hosting_ || (lobby_ == nullptr && !choosingCards)) return Answer::Refuse;
+bool NetworkGame::Handle(const msg::Mode& mode) {
+  if (hosting_) return false;
   AddChatLine("[" + game_->OppName + " has changed the game mode to " +
               (mode.arcade ? "Arcade match" : "Normal match") + ".]");
-  peer_.ready = 0;
-  // The host took its Start back while this side was already on its way to the cards.
-  if (lobby_ == nullptr) {
-    WithdrawStake(*game_, *player_);
-    services_.navigator.OpenLobby();
+  const bool started = lobby_ != nullptr && lobby_->waiting();
+  PeerIsInLobby();
+  if (lobby_ != nullptr) {
+    lobby_->ModeReceived(mode.arcade);
+  } else if (arcade_ != mode.arcade) {
+    ToggleMode();
   }
-  if (lobby_ != nullptr) lobby_->ModeReceived(mode.arcade);
-  return Answer::Done;
+  // This side's Start may have met the host's already, which then went ahead alone: this brings it back.
+  if (started) NetSend("[Back]");
+  return true;
 }
 
 template <>
-NetworkGame::Answer NetworkGame::Handle(const msg::Play&) {
-  if (match_ != nullptr) {
-    if (match_->deciding()) return Answer::Later;
-    if (!match_->expectsPlay()) return Answer::Refuse;
+bool NetworkGame::Handle(const msg::Play&) {
+  const PeerPlace::Play means = peer_.PlayMeans();
+  const Place here = place();
+  const bool atTable = here == Place::Opening || here == Place::Decided || here == Place::Banner;
+  if (atTable && means == PeerPlace::Play::Continues && (here == Place::Opening || peer_.Ready(here))) {
+    return false;  // there is no further banner that it could continue from
   }
-  if (std::exchange(peer_.startSaid, false)) {
-    // Its Start, perhaps once more after a mode change that had crossed the first: it counts once, here only.
-    if (lobby_ == nullptr) return Answer::Done;
-    peer_.ready = 1;
-  } else {
-    ++peer_.ready;
-  }
-  peer_.turnHeld = false;
-  peer_.moves = {};
-  return Answer::Done;
+  peer_.Plays(arcade_);
+  return true;
 }
 
 template <>
-NetworkGame::Answer NetworkGame::Handle(const msg::Wage& wage) {
-  if (cards_ == nullptr || game_->Mode != kModeNetwork || matchUnderWay()) return Answer::Refuse;
+bool NetworkGame::Handle(const msg::Wage& wage) {
+  if (game_->Mode != kModeNetwork) return false;
   services_.playEffect("propose");
   cards_->Proposed(wage.amount);
-  return Answer::Done;
+  return true;
 }
 
 template <>
-NetworkGame::Answer NetworkGame::Handle(const msg::Acpt&) {
-  if (cards_ == nullptr || game_->Mode != kModeNetwork || matchUnderWay()) return Answer::Refuse;
-  if (!cards_->awaitsAnswer()) return Answer::Refuse;
-  cards_->Accepted();
+bool NetworkGame::Handle(const msg::Acpt&) {
+  if (!cards_->awaitsAnswer()) return false;
   AddChatLine("[" + game_->OppName + " has agreed to your wager.]");
-  return Answer::Done;
+  cards_->Accepted();
+  return true;
 }
 
 template <>
-NetworkGame::Answer NetworkGame::Handle(const msg::Back&) {
-  const bool opening = match_ != nullptr && !match_->begun();
-  if (lobby_ == nullptr && cards_ == nullptr && !opening) return Answer::Refuse;
+bool NetworkGame::Handle(const msg::Back&) {
   AddChatLine("[" + game_->OppName + " has returned to the Network screen.]");
-  peer_.ready = 0;
-  if (lobby_ != nullptr) return Answer::Done;
-  WithdrawStake(*game_, *player_);
+  PeerIsInLobby();
+  return true;
+}
+
+/// Whoever is ahead comes back: before the match the stake is withdrawn, in a match the peer has left it.
+void NetworkGame::PeerIsInLobby() {
+  peer_.InLobby();
+  switch (place()) {
+    case Place::Lobby:
+    case Place::Over:  // its banner leads to the lobby
+      return;
+    case Place::Cards:
+    case Place::Desk:
+    case Place::Opening:
+      WithdrawStake(*game_, *player_);
+      break;
+    default:
+      booking_->SaveWin();
+      if (match_ == nullptr) return;  // the line was lost while a failed save was told
+  }
   services_.navigator.OpenLobby();
-  return Answer::Done;
 }
 
 // --- The match ---------------------------------------------------------------------------------------------
 
 template <>
-NetworkGame::Answer NetworkGame::Handle(const msg::WhoS& who) {
-  if (hosting_ || (match_ != nullptr && match_->begun())) return Answer::Refuse;
-  // The host may be at the table while this side has still to press Start.
-  const bool hostIsAhead = lobby_ != nullptr && peer_.ready > 0;
-  if (match_ == nullptr && cards_ == nullptr && !hostIsAhead) return Answer::Refuse;
-  peer_.turnHeld = who.youStart;
+bool NetworkGame::Handle(const msg::WhoS& who) {
+  if (hosting_) return false;
+  peer_.Begins(who.youStart);
   if (match_ != nullptr) {
     match_->setPlayerStarts(who.youStart);
   } else {
     peer_.playerStarts = who.youStart;
   }
-  return Answer::Done;
+  return true;
 }
 
 template <>
-NetworkGame::Answer NetworkGame::Handle(const msg::Card& card) {
-  if (const auto barred = MoveBarred()) return *barred;
+bool NetworkGame::Handle(const msg::Card& card) {
   const bool left = match_->MainDeckCount(card.value) < kCopiesInDeck;
-  if (peer_.moves.drawn || match_->OpponentStood() || !left) return Answer::Refuse;
-  peer_.moves.drawn = true;
+  if (peer_.drawn() || match_->OpponentStood() || !left) return false;
+  peer_.Draws();
   const int before = match_->Total(Seat::Opponent);
   match_->LoadNextCard(CardCode(CardType::MainDeck, card.value), true);
   match_->DeductDrawCard(card.value);
   services_.playEffect("draw");
   if (before <= kTargetTotal && match_->Total(Seat::Opponent) > kTargetTotal) services_.playEffect("bust");
-  return Answer::Done;
+  return true;
 }
 
 template <>
-NetworkGame::Answer NetworkGame::Handle(const msg::Hand& hand) {
-  if (const auto barred = MoveBarred()) return *barred;
+bool NetworkGame::Handle(const msg::Hand& hand) {
   const bool full = match_->Table(Seat::Opponent).size() == kTableSize;
   const bool spent = match_->HandCard(Seat::Opponent, hand.slot) == EmptiedSlot();
-  if (!peer_.moves.drawn || peer_.moves.played || match_->OpponentStood() || full || spent) {
-    return Answer::Refuse;
-  }
-  peer_.moves.played = true;
+  if (!peer_.drawn() || peer_.played() || match_->OpponentStood() || full || spent) return false;
+  peer_.PlaysCard();
   match_->OppPlayHand(hand.slot, hand.code);
-  return Answer::Done;
+  return true;
 }
 
 template <>
-NetworkGame::Answer NetworkGame::Handle(const msg::Stnd&) {
-  if (const auto barred = MoveBarred()) return *barred;
-  if (!peer_.moves.drawn || match_->OpponentStood()) return Answer::Refuse;
+bool NetworkGame::Handle(const msg::Stnd&) {
+  if (!peer_.drawn() || match_->OpponentStood()) return false;
   match_->OppStand();
-  return Answer::Done;
+  return true;
 }
 
 template <>
-NetworkGame::Answer NetworkGame::Handle(const msg::Turn&) {
-  const auto barred = peer_.turnHeld ? Answer::Done : MoveBarred();
-  if (barred == Answer::Later) return *barred;
-  NetSend("[TAck]");
-  // Repetitions can come late, even after the next "[Play]": without a move since the last they end no turn.
-  const bool repeated = peer_.turnSeen && !peer_.moves.drawn;
-  if (barred) return repeated ? Answer::Done : *barred;
-  if (!peer_.moves.drawn && !match_->OpponentStood()) return repeated ? Answer::Done : Answer::Refuse;
-  peer_.turnHeld = peer_.turnSeen = true;
-  peer_.moves = {};
+bool NetworkGame::Handle(const msg::Turn&) {
+  // Without a move since its last it is a repetition that came late.
+  if (!peer_.drawn() && !match_->OpponentStood()) return peer_.repeatsTurn();
+  peer_.EndsTurn();
   match_->AI_EndTurn();
-  return Answer::Done;
+  return true;
 }
 
 template <>
-NetworkGame::Answer NetworkGame::Handle(const msg::TAck&) {
+bool NetworkGame::Handle(const msg::TAck&) {
   // A surplus answer, to a repeated "[Turn]", must not let the peer's own repetitions through.
-  if (!link_.turnRepeats()) return Answer::Done;
+  if (!link_.turnRepeats()) return true;
   link_.StopTurnRepeat();
-  peer_.turnHeld = false;
-  return Answer::Done;
+  peer_.AnswersTurn();
+  return true;
 }
 
 template <>
-NetworkGame::Answer NetworkGame::Handle(const msg::Forf&) {
-  const bool choosingCards = cards_ != nullptr && matchUnderWay();
-  if (match_ == nullptr && !choosingCards) return Answer::Refuse;
-  // Both may have ended it at the same time.
-  if (match_ != nullptr && (!matchUnderWay() || match_->Stopped())) return Answer::Done;
+bool NetworkGame::Handle(const msg::Forf&) {
+  peer_.Forfeits();
+  if (place() == Place::Over) {
+    // Both may have ended it at the same time; or it gave up before it knew that it had won.
+    if (match_->LostByPlay()) {
+      AddChatLine("[" + game_->OppName + " has forfeit this match. You Win.]");
+      match_->WinAfterAll();
+    }
+    return true;
+  }
   AddChatLine("[" + game_->OppName + " has forfeit this match. You Win.]");
   if (match_ != nullptr) {
     match_->OppForfeit();
   } else {
     WinAtTheDesk();
   }
-  return Answer::Done;
+  return true;
 }
 
 /// The peer was at the table already and gave up there; its banner waits for this side's "[Play]".
 void NetworkGame::WinAtTheDesk() {
   StakeToRecord(*game_, *player_);
   booking_->SaveWin();
+  if (cards_ == nullptr) return;  // the line was lost while a failed save was told
   NetSend("[Play]");
-  peer_.ready = 0;
   services_.navigator.OpenLobby();
 }
 
-template <>
-NetworkGame::Answer NetworkGame::Handle(const msg::Quit&) {
-  services_.stopEffects();
-  const bool won = matchUnderWay();
-  // The line goes first: while the box is open nothing more may happen on it.
-  link_.CloseConnection();
-  if (won) {
-    StakeToRecord(*game_, *player_);
-    booking_->SaveWin();
+/// What its leaving means for the match that is under way here, or that has just ended.
+bool NetworkGame::WinByItsLeaving(bool unanswered) {
+  if (match_ != nullptr) {
+    // A result that the peer knew stands; it did not know what this side's last turn had decided if it never
+    // answered it.
+    const auto& decision = match_->decision();
+    const bool known = !unanswered || (decision && decision->closing == Seat::Opponent);
+    if (decision && decision->endsMatch && known) {
+      const bool won = decision->result == GameStep::PlayerWins;
+      return match_->BookDecision() && won;
+    }
+    if (place() == Place::Over) {
+      const bool reversed = !known && match_->LostByPlay();
+      if (reversed) match_->WinAfterAll();
+      return reversed;
+    }
   }
+  if (!matchUnderWay()) return false;
+  StakeToRecord(*game_, *player_);
+  booking_->SaveWin();
+  return true;
+}
+
+template <>
+bool NetworkGame::Handle(const msg::Quit&) {
+  services_.stopEffects();
+  const bool repeats = link_.turnRepeats();
+  // The line goes first: while a box is open nothing more may happen on it.
+  link_.CloseConnection();
+  const bool won = WinByItsLeaving(repeats);
   services_.dialogs.Message(won ? "Opponent has quit! You Win!" : "Opponent has quit!",
                             "Kelm Vantri: Connection Terminated", DialogIcon::Exclamation);
   StartFresh();
   services_.navigator.OpenLobby();
-  return Answer::Done;
+  return true;
+}
+
+// --- All of them -------------------------------------------------------------------------------------------
+
+Course NetworkGame::CourseOf(const Message& message) {
+  Course course = peer_.CourseOf(message.index(), place(), match_ != nullptr && match_->waitsForPeer());
+  if (!std::holds_alternative<msg::Turn>(message)) return course;
+  // Repetitions can come at any time, and each is answered.
+  if (peer_.turnHeld()) course = Course::Ignore;
+  if (course != Course::Wait) NetSend("[TAck]");
+  return course == Course::Refuse && peer_.repeatsTurn() ? Course::Ignore : course;
 }
 
 // Last, for every kind of message must be known here.
 bool NetworkGame::ProcessMessage(const std::string& entry) {
   const auto message = ParseMessage(entry);
-  Answer answer = Answer::Refuse;
-  if (message) answer = std::visit([this](const auto& each) { return Handle(each); }, *message);
-  if (answer == Answer::Later && ++peer_.postponed <= kMostPostponed) return false;
-  peer_.postponed = 0;
-  if (answer != Answer::Done) AddChatLine("<< Unknown command: " + WireText(entry) + " - report as bug >>");
+  Course course = message ? CourseOf(*message) : Course::Refuse;
+  if (course == Course::Wait) return false;
+  if (course == Course::Act && !std::visit([this](const auto& each) { return Handle(each); }, *message)) {
+    course = Course::Refuse;
+  }
+  if (course == Course::Refuse) {
+    AddChatLine("<< Unknown command: " + WireText(entry) + " - report as bug >>");
+  }
   return true;
 }
 

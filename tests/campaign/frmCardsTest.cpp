@@ -18,7 +18,6 @@ class Peer final : public MatchNetwork {
   void NetSend(const std::string& message) override { sent.push_back(message); }
   [[nodiscard]] bool hosting() const override { return host; }
   [[nodiscard]] bool peerReady() const override { return ready; }
-  void clearPeerReady() override { ready = false; }
   void SubmitChat(const std::string& line) override { sent.push_back(line); }
 
   std::vector<std::string> sent;

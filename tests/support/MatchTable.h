@@ -142,7 +142,6 @@ class MatchTable final : public MatchView,
   void NetSend(const std::string& message) override { sent.push_back(message); }
   bool hosting() const override { return deal_.hosting; }
   bool peerReady() const override { return ready; }
-  void clearPeerReady() override { ready = false; }
   void startTurnRepeat() override { sent.emplace_back("(repeat)"); }
   // MatchBooking
   void SaveWin() override { Book(1); }

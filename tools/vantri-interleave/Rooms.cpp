@@ -7,6 +7,7 @@ namespace {
 constexpr int kGameInterval = 50;
 constexpr int kAutoDialogsInterval = 800;
 constexpr int kNetWaitInterval = 50;
+constexpr int kQuietInterval = 20;
 
 }  // namespace
 
@@ -14,10 +15,10 @@ MatchRoom::MatchRoom(const RoomServices& services)
     : services_(services),
       engine_(services.game, MatchOptionsOf(services.player), *this, services.network, services.booking,
               services.dialogs, services.random),
-      tmrGame_(services.scheduler.NewTimer(kGameInterval, [this] { engine_.GameTick(); })),
-      tmrAutoDialogs_(
-          services.scheduler.NewTimer(kAutoDialogsInterval, [this] { engine_.AutoDialogsTick(); })),
-      tmrNetWait_(services.scheduler.NewTimer(kNetWaitInterval, [this] { engine_.NetWaitTick(); })) {}
+      timers_{services.scheduler.NewTimer(kGameInterval, [this] { engine_.GameTick(); }),
+              services.scheduler.NewTimer(kAutoDialogsInterval, [this] { engine_.AutoDialogsTick(); }),
+              services.scheduler.NewTimer(kNetWaitInterval, [this] { engine_.NetWaitTick(); }),
+              services.scheduler.NewTimer(kQuietInterval, [this] { engine_.QuietTick(); })} {}
 
 void MatchRoom::Close() {
   life_.Close();
@@ -25,10 +26,7 @@ void MatchRoom::Close() {
 }
 
 void MatchRoom::RunTimer(MatchTimer timer, bool run) {
-  Timer& which = timer == MatchTimer::Game          ? *tmrGame_
-                 : timer == MatchTimer::AutoDialogs ? *tmrAutoDialogs_
-                                                    : *tmrNetWait_;
-  which.setEnabled(run);
+  timers_.at(static_cast<std::size_t>(timer))->setEnabled(run);
 }
 
 void MatchRoom::Leave() {
@@ -37,6 +35,10 @@ void MatchRoom::Leave() {
 }
 
 void MatchRoom::LeaveProgram() {
+  engine_.WhenQuiet([this] { AskToLeave(); });
+}
+
+void MatchRoom::AskToLeave() {
   const bool sure = services_.game.Wager == -1 ||
                     services_.dialogs.AskYesNo("Are you sure you wish to forfeit this match?",
                                                "Kelm Vantri: Forfeit Match", DialogIcon::Exclamation);

@@ -92,12 +92,12 @@ class MatchRoom final : public MatchView {
   void Leave() override;
 
  private:
+  void AskToLeave();
+
   RoomServices services_;
   Lifetime life_;
   MatchEngine engine_;
-  std::unique_ptr<Timer> tmrGame_;
-  std::unique_ptr<Timer> tmrAutoDialogs_;
-  std::unique_ptr<Timer> tmrNetWait_;
+  std::array<std::unique_ptr<Timer>, 4> timers_;  // by MatchTimer
 };
 
 }  // namespace kv::interleave

@@ -194,14 +194,19 @@ bool Side::AskYesNo(const std::string& text, const std::string&, DialogIcon) {
 // --- Books -----------------------------------------------------------------------------------------------
 
 void Side::Note() {
-  Bury();
+  if (!retired_.empty()) Bury();
   if (game_ == nullptr) return;
   const int halves = static_cast<int>(
       std::ranges::count_if(stakes_, [](const Stake& each) { return each.outcome == Outcome::Half; }));
   if (!stakeOpen()) {
+    Reverse();
+    const bool settled =
+        game_->Mode == kModeNetwork && game_->Wager >= 0 && player_.Disconnects == halves + 1;
+    if (!settled) proposed_ = cards_ != nullptr && cards_->round().awaitsAnswer();
     if (game_->Mode != kModeNetwork || game_->Wager < 0 || player_.Disconnects != halves + 1) return;
-    // The guest settles first.
-    if (seat_ == 1) ++shared_.lastMatch;
+    // Who accepts settles first; the other, who had proposed, settles the same match.
+    if (!proposed_) ++shared_.lastMatch;
+    proposed_ = false;
     stakes_.push_back({shared_.lastMatch, game_->Wager});
     return;
   }
@@ -212,6 +217,13 @@ void Side::Note() {
   if (held.wins > before.wins) outcome = Outcome::Win;
   if (held.losses > before.losses) outcome = Outcome::Loss;
   stakes_.back().outcome = outcome;
+}
+
+/// A match that was booked as lost may turn out to be won.
+void Side::Reverse() {
+  if (stakes_.empty() || stakes_.back().outcome != Outcome::Loss || Held() == Expected()) return;
+  stakes_.back().outcome = Outcome::Win;
+  if (!(Held() == Expected())) stakes_.back().outcome = Outcome::Loss;
 }
 
 Side::Account Side::Held() const {

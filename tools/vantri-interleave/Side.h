@@ -124,6 +124,7 @@ class Side final : public Navigator, public Dialogs {
   [[nodiscard]] RoomServices Room();
   void CloseCurrent();
   void Bury();
+  void Reverse();
 
   int seat_;
   Shared& shared_;
@@ -134,6 +135,7 @@ class Side final : public Navigator, public Dialogs {
   clsPlayer player_;
   Account start_{};
   int traded_ = 0;
+  bool proposed_ = false;  // a proposal of this side's was open behind the last event
   std::unique_ptr<clsGame> game_;
   std::unique_ptr<SaveBooking> booking_;
   NetworkStake networkStake_;

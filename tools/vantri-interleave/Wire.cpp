@@ -7,6 +7,7 @@ namespace kv::interleave {
 namespace {
 
 constexpr int kRefused = 10061;
+constexpr int kReset = 10054;
 
 }  // namespace
 
@@ -21,7 +22,9 @@ void Wire::Break() {
     end->side_.After(Delay(), [end, pipe = end->pipe_] {
       if (end->pipe_ != pipe) return;
       end->pipe_.reset();
-      end->state_ = TcpSocket::Status::Closing;
+      const bool connecting = end->state_ == TcpSocket::Status::Connecting;
+      end->state_ = connecting ? TcpSocket::Status::Failed : TcpSocket::Status::Closing;
+      if (connecting) end->Error(kReset, "Connection reset");
     });
   }
 }
@@ -77,9 +80,11 @@ void WireSocket::Accept() {
 
 void WireSocket::SendData(std::string_view bytes) {
   if (pipe_ == nullptr) return;
+  if (wire_.tap) wire_.tap(seat_, true, bytes);
   while (!bytes.empty()) {
     const std::string_view piece = bytes.substr(0, wire_.Piece());
     Via([text = std::string(piece)](WireSocket& to) {
+      if (to.wire_.tap) to.wire_.tap(to.seat_, false, text);
       to.arrived_ += text;
       to.DataArrival();
     });

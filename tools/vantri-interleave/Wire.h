@@ -20,6 +20,8 @@ class Wire {
   Wire(Timeline& timeline, Random& chance) : timeline_(timeline), chance_(chance) {}
 
   int mostDelay = 2;  // milliseconds
+  /// Hears what is sent and what arrives; may be empty.
+  std::function<void(int seat, bool sent, std::string_view bytes)> tap;
   /// For so long nothing comes through; it comes afterwards.
   void Stall(int milliseconds);
   /// The connection breaks: each end sees it after a delay of its own.

@@ -35,6 +35,7 @@ int PlayScript(const Options& options) {
   }
   Plan plan = options.plan;
   plan.script = &actions;
+  plan.trace = true;
   const Report report = Explore(plan);
   std::fputs(Text(report).c_str(), stdout);
   return report.fault == Fault::None ? 0 : 1;

@@ -35,7 +35,6 @@ void PeerCards::Closing() {
 void PeerCards::NetWaitTick() {
   if (!services().network.peerReady()) return;
   tmrNetWait_->setEnabled(false);
-  services().network.clearPeerReady();
   if (services().network.hosting()) entry_.EnableButtons(true);
 }
 
@@ -86,7 +85,6 @@ void PeerCards::Propose(std::int32_t amount) {
 
 void PeerCards::Settle(const WagerPress& press) {
   proposed_ = false;
-  services().network.clearPeerReady();
   if (press.acceptsPeer) services().network.NetSend("[Acpt]");
   if (SettleStake(services().game, services().player, press.amount)) desk_.StakeSettled();
 }

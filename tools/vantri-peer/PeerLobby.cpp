@@ -81,7 +81,7 @@ void PeerLobby::Start() {
   }
   if (!std::exchange(said_, true)) network.SubmitChat("Hello, " + services().game.OppName + ". Good luck!");
   TradeWin();
-  network.SendReady();
+  network.PressStart();
   tmrNetWait_->setEnabled(true);
 }
 
@@ -96,7 +96,6 @@ void PeerLobby::TradeWin() {
 void PeerLobby::NetWaitTick() {
   if (!services().network.peerReady()) return;
   tmrNetWait_->setEnabled(false);
-  services().network.UsePeerStart();
   services().network.PrepareMatch();
   services().navigator.OpenCards();
 }

@@ -7,6 +7,7 @@ namespace {
 constexpr int kGameInterval = 50;
 constexpr int kAutoDialogsInterval = 800;
 constexpr int kNetWaitInterval = 50;
+constexpr int kQuietInterval = 20;
 constexpr int kReadingInterval = 50;
 
 }  // namespace
@@ -15,9 +16,10 @@ PeerMatch::PeerMatch(const PeerServices& services)
     : PeerScreen(services),
       engine_(services.game, MatchOptionsOf(services.player), *this, services.network, services.booking,
               services.report, services.random),
-      tmrGame_(NewTimer(kGameInterval, [this] { engine_.GameTick(); })),
-      tmrAutoDialogs_(NewTimer(kAutoDialogsInterval, [this] { engine_.AutoDialogsTick(); })),
-      tmrNetWait_(NewTimer(kNetWaitInterval, [this] { engine_.NetWaitTick(); })),
+      timers_{NewTimer(kGameInterval, [this] { engine_.GameTick(); }),
+              NewTimer(kAutoDialogsInterval, [this] { engine_.AutoDialogsTick(); }),
+              NewTimer(kNetWaitInterval, [this] { engine_.NetWaitTick(); }),
+              NewTimer(kQuietInterval, [this] { engine_.QuietTick(); })},
       tmrContinue_(NewTimer(kReadingInterval, [this] {
         tmrContinue_->setEnabled(false);
         engine_.Continue();
@@ -35,10 +37,7 @@ void PeerMatch::BannerChanged() {
 }
 
 void PeerMatch::RunTimer(MatchTimer timer, bool run) {
-  Timer& which = timer == MatchTimer::Game          ? *tmrGame_
-                 : timer == MatchTimer::AutoDialogs ? *tmrAutoDialogs_
-                                                    : *tmrNetWait_;
-  which.setEnabled(run);
+  timers_.at(static_cast<std::size_t>(timer))->setEnabled(run);
 }
 
 void PeerMatch::Leave() {

@@ -30,10 +30,8 @@ class PeerMatch final : public PeerScreen, public MatchView {
 
  private:
   MatchEngine engine_;
-  std::unique_ptr<Timer> tmrGame_;
-  std::unique_ptr<Timer> tmrAutoDialogs_;
-  std::unique_ptr<Timer> tmrNetWait_;
-  std::unique_ptr<Timer> tmrContinue_;  // the banner has been read
+  std::array<std::unique_ptr<Timer>, 4> timers_;  // by MatchTimer
+  std::unique_ptr<Timer> tmrContinue_;            // the banner has been read
 };
 
 }  // namespace kv

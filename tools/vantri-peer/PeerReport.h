@@ -72,6 +72,7 @@ class PeerBooking final : public MatchBooking {
       : book_(book), game_(game), report_(report), sets_(std::move(sets)) {}
   void SaveWin() override { Save(true); }
   void SaveLoss() override { Save(false); }
+  void TurnLossIntoWin() override { book_.TurnLossIntoWin(); }
 
  private:
   void Save(bool won);
