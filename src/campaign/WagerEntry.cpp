@@ -94,7 +94,8 @@ BoxText WagerEntry::FillFromInfo() {
 
 void WagerEntry::EnableButtons(bool enabled) {
   boxEnabled_ = enabled;
-  buttonEnabled_ = enabled;
+  // There is nothing to propose before an amount stands in the box.
+  buttonEnabled_ = enabled && !text_.empty();
 }
 
 bool WagerEntry::PeerProposes(std::string_view amount) {

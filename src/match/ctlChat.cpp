@@ -35,11 +35,11 @@ ctlChat::ctlChat(QWidget* parent, Layout& layout, MatchNetwork& network)
   txtSend_->setPlaceholderText(look_.text(u"prompt"));
   SkinWidget(*txtSend_, layout.bag(u"txtSend"));
   layout.Place(u"txtSend", *txtSend_);
-  connect(txtSend_, &QLineEdit::returnPressed, this, [this] { Submit(); });
-  network_.MirrorChat([this](const std::string& log) { ShowLog(log); });
+  connect(txtSend_, &QLineEdit::returnPressed, this, [this] { txtSend_KeyPress(); });
+  network_.MirrorChat([this](const std::string& log) { txtNetwork_Change(log); });
 }
 
-void ctlChat::ShowLog(const std::string& log) {
+void ctlChat::txtNetwork_Change(const std::string& log) {
   const bool grown = !shown_.empty() && log.starts_with(shown_ + std::string(kLineBreak));
   if (grown) {
     // A peer that talks without end must not have the whole log laid out anew for every line.
@@ -51,7 +51,7 @@ void ctlChat::ShowLog(const std::string& log) {
   txtNetwork_->verticalScrollBar()->setValue(txtNetwork_->verticalScrollBar()->maximum());
 }
 
-void ctlChat::Submit() {
+void ctlChat::txtSend_KeyPress() {
   const std::string line = txtSend_->text().toStdString();
   if (line.empty()) return;
   txtSend_->clear();
@@ -59,12 +59,12 @@ void ctlChat::Submit() {
 }
 
 void ctlChat::keyPressEvent(QKeyEvent* event) {
-  // What is typed here is no key of the screen around it; Escape still leaves.
-  if (event->key() == Qt::Key_Escape) {
-    event->ignore();
-  } else {
-    event->accept();
-  }
+  // What is typed here is no key of the screen around it. Escape takes the line back and leaves it; what it
+  // means to the screen it means only from there, for nobody who is writing wants to leave the game.
+  event->accept();
+  if (event->key() != Qt::Key_Escape || !writing()) return;
+  txtSend_->clear();
+  parentWidget()->setFocus();
 }
 
 void ctlChat::paintEvent(QPaintEvent*) {

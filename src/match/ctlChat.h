@@ -27,8 +27,10 @@ class ctlChat final : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  void ShowLog(const std::string& log);
-  void Submit();
+  /// The log has changed: shown to its end.
+  void txtNetwork_Change(const std::string& log);
+  /// Enter in the entry line: what stands there is said.
+  void txtSend_KeyPress();
 
   MatchNetwork& network_;
   const PropertyBag look_;

@@ -79,11 +79,12 @@ Parsed ParseName(std::string_view payload) {
 
 Parsed ParseFile(std::string_view payload) {
   if (payload.empty() || payload.size() > kMostFileName || WireText(payload) != payload) return {};
-  if (payload.find_first_of("/\\:*?\"<>|") != std::string_view::npos || payload.front() == '.') return {};
+  if (payload.find_first_of("/\\:*?\"<>|") != std::string_view::npos) return {};
   const std::size_t length = payload.size() > kExtensionLength ? payload.size() - kExtensionLength : 1;
   std::string base(payload.substr(0, length));
   // Four bytes short of the end may lie inside a character: such a name has no plain extension.
   if (WireText(base) != base) return {};
+  if (base.find_first_not_of('.') == std::string::npos) return {};  // this folder, or the one above
   return msg::File{std::move(base)};
 }
 
@@ -95,7 +96,8 @@ Parsed ParsePort(std::string_view payload) {
 Parsed ParseVers(std::string_view payload) {
   const bool printable =
       std::all_of(payload.begin(), payload.end(), [](char c) { return c >= ' ' && c <= '~'; });
-  if (payload.empty() || payload.size() > kMostVersionLength || !printable) return {};
+  // A version that cannot be read is a version all the same, of a program that this one cannot play with.
+  if (payload.empty() || payload.size() > kMostVersionLength || !printable) return msg::Vers{};
   return msg::Vers{std::string(payload)};
 }
 

@@ -48,7 +48,7 @@ struct Stnd {};
 struct Turn {};
 struct TAck {};
 struct Vers {
-  std::string version;
+  std::string version;  // empty when it cannot be read
 };
 struct Wage {
   std::int32_t amount;  // 0 to kMostCredits

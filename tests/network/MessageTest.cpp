@@ -70,9 +70,6 @@ TEST(Message, TakesOnlyWhatItsCommandCanCarry) {
                               "[Port]-1",
                               "[Port]7x",
                               "[Port]99999999999",
-                              "[Vers]",
-                              "[Vers]1.2.\x01",
-                              "[Vers]11111111111111111",
                               "[Wage]",
                               "[Wage]-1",
                               "[Wage]2000000001",
@@ -85,6 +82,10 @@ TEST(Message, TakesOnlyWhatItsCommandCanCarry) {
   EXPECT_FALSE(ParseMessage("[Name]" + std::string(65, 'n')));
   EXPECT_EQ(std::get<msg::File>(*ParseMessage("[File]ann.vnt")).baseName, "ann");
   EXPECT_EQ(std::get<msg::File>(*ParseMessage("[File]vnt")).baseName, "v");
+  EXPECT_EQ(std::get<msg::File>(*ParseMessage("[File].ann.vnt")).baseName, ".ann");
+  for (const char* unreadable : {"[Vers]", "[Vers]1.2.\x01", "[Vers]11111111111111111"}) {
+    EXPECT_EQ(std::get<msg::Vers>(*ParseMessage(unreadable)).version, "") << unreadable;
+  }
 }
 
 TEST(Message, NothingTypedCanForgeAMessage) {

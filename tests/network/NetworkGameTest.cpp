@@ -83,6 +83,32 @@ TEST_F(NetworkGameTest, AnotherVersionCanOnlyChat) {
   EXPECT_FALSE(host.Find<ctlButton>("cmdStart")->isVisible());
 }
 
+TEST_F(NetworkGameTest, AVersionThatCannotBeReadDoesNotMatch) {
+  for (const char* version : {"", "1.2.4 and a long tail of it", "1.2.\xE4"}) {
+    SCOPED_TRACE(version);
+    test::LoopbackSocket stranger(net, "10.0.0.7");
+    stranger.Connected = [&] { stranger.SendData(std::string("[Vers]") + version + "\x87[Name]Old\x87"); };
+    stranger.DataArrival = [] {};
+    host.Click("cmdConnect");
+    stranger.setRemoteHost("10.0.0.1");
+    stranger.setRemotePort(6000);
+    stranger.Connect();
+    Pass(5000);
+    EXPECT_TRUE(host.Saw("[Version Check (FAIL): You - 1.2.4, Opp - v"));
+    EXPECT_FALSE(host.Find<ctlButton>("cmdStart")->isVisible());
+    stranger.Close();
+    Pass(12000);
+  }
+}
+
+TEST_F(NetworkGameTest, AGoodbyeIsSaidAlsoToWhoComesStraightBack) {
+  Meet();
+  host.Say("/disconnect");
+  host.OpenLobby();
+  Pass(1000);
+  EXPECT_EQ(guest.dialogs.boxes.back().text, "Opponent has quit!");
+}
+
 TEST_F(NetworkGameTest, AModeChangeTakesBothStartsBack) {
   Meet();
   guest.Click("cmdStart");
@@ -121,16 +147,12 @@ TEST_F(NetworkGameTest, AStartThatCrossesAModeChangeCostsNobodyTheMatch) {
   Pass(3000);
   guest.Click("cmdStart");
   host.Click("cmdGameMode");  // to an arcade match, which has nothing to wait for at the cards
-  Pass(1000);
   host.Click("cmdStart");
-  Pass(1000);
-  host.Act(0);
   Pass(8000);
-  EXPECT_EQ(host.ScreenName(), "frmGame");
+  EXPECT_TRUE(BothOn("frmNetwork")) << "the guest's Start was taken back";
   guest.Click("cmdStart");
   Pass(2000);
-  ASSERT_EQ(guest.ScreenName(), "frmCards");
-  Pass(8000);
+  ASSERT_TRUE(BothOn("frmCards"));
   PlayUntil([this] { return BothOn("frmNetwork"); }, 0);
   EXPECT_FALSE(guest.Saw("Unknown command") || host.Saw("Unknown command"));
 }
@@ -175,6 +197,26 @@ TEST_F(NetworkGameTest, BackFromTheCardsReturnsBoth) {
   host.Say("/quit");
   Pass(3000);
   EXPECT_EQ(guest.dialogs.boxes.back().text, "Opponent has quit!");
+}
+
+/// A peer that says, in whatever way, that it is in the lobby has left what this side is in.
+TEST_F(NetworkGameTest, WhoIsAheadOfItsPeerComesBack) {
+  const auto says = [this](const std::string& message) {
+    Forge(host, message);
+    Pass(500);
+    EXPECT_EQ(host.ScreenName(), "frmNetwork") << message;
+    EXPECT_EQ(host.program->game()->Wager, -1);
+    guest.program->OpenLobby();
+    Pass(3000);
+  };
+  Meet();
+  ToCards(true);
+  says("[Chat][Gus: 100 credits, 0 wins, 0 losses, 0 disconnects]");
+  EXPECT_EQ(Account(host), (Accounts{100, 0, 0, 0})) << "the stake is withdrawn";
+  guest.record().Disconnects = 0;
+  ToTurn(Seat::Player);
+  says("[Back]");
+  EXPECT_EQ(Account(host), (Accounts{155, 1, 0, 0})) << "leaving a match is losing it";
 }
 
 TEST_F(NetworkGameTest, WhoGivesUpLosesTheStake) {
@@ -338,7 +380,7 @@ TEST_F(NetworkGameTest, MessagesOutOfPlaceChangeNothing) {
   ToTurn(Seat::Player);
   MatchEngine& engine = host.match()->engine();
   const int total = engine.Total(Seat::Opponent);
-  for (const char* message : {"[Card]no7", "[Hand]1ps3", "[Stnd]", "[Play]", "[Wage]5", "[Acpt]", "[Back]"}) {
+  for (const char* message : {"[Card]no7", "[Hand]1ps3", "[Stnd]", "[Play]", "[Wage]5", "[Acpt]"}) {
     refused(host, message);
   }
   EXPECT_EQ(engine.Total(Seat::Opponent), total);

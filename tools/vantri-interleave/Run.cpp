@@ -13,6 +13,7 @@ namespace {
 constexpr int kMeeting = 4000;
 constexpr int kLongestPause = 3000;  // of the rules and of the link together, generously
 constexpr int kHomeTime = 120000;
+constexpr int kLastWaits = 30000;  // for what was still going on: an open box, a line that stands still
 constexpr int kHomeStep = 250;
 constexpr int kHomeDelay = 300;
 constexpr std::array kDelays = {2, 40, 300, 300, 2000};
@@ -137,19 +138,18 @@ class Runner {
     wire_.mostDelay = std::min(wire_.mostDelay, kHomeDelay);
     for (Side* side : Sides()) side->failSaves = 0;
     const std::int64_t start = timeline_.now();
-    while (!Home()) {
-      if (timeline_.now() - start > kHomeTime + kLongWait()) throw Failure{Fault::Stuck, Situation()};
+    // At home is who stays there.
+    for (std::int64_t since = start; timeline_.now() - since < kMeeting;) {
+      if (!Home()) since = timeline_.now();
+      if (since - start > kHomeTime + kLastWaits) throw Failure{Fault::Stuck, Situation()};
       for (Side* side : Sides()) {
         const Deed deed = WayBack(*side);
         if (deed != Deed::Nothing) Begin({.seat = side->seat(), .deed = deed, .box = {300, true}});
       }
       Pass(kHomeStep);
     }
-    Pass(kMeeting);
     CheckBooks();
   }
-  /// What was still going on when the persons turned home: a box that is open, a line that stands still.
-  [[nodiscard]] static int kLongWait() { return 30000; }
   [[nodiscard]] bool Home() {
     for (Side* side : Sides()) {
       const bool there =

@@ -1,0 +1,113 @@
+// The explorer over a few hundred seeds, and the orders of events that once left two players waiting for
+// ever.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <sstream>
+
+#include "vantri-interleave/Run.h"
+
+namespace kv::interleave {
+namespace {
+
+Report Play(const char* script, int delay, std::uint64_t seed = 3) {
+  std::vector<Action> actions;
+  std::istringstream lines{std::string(script)};
+  for (std::string line; std::getline(lines, line);) {
+    if (const auto action = ParseAction(line)) actions.push_back(*action);
+  }
+  EXPECT_FALSE(actions.empty());
+  Plan plan{.seed = seed, .mostDelay = delay, .script = &actions};
+  return Explore(plan);
+}
+
+/// KV_INTERLEAVE_RUNS and KV_INTERLEAVE_SEED: how many runs, and from which seed on.
+TEST(Interleave, NoOrderOfEventsLeavesTheTwoApart) {
+  const auto setting = [](const char* name, int otherwise) {
+    const char* text = std::getenv(name);
+    return text == nullptr ? otherwise : std::atoi(text);
+  };
+  const int runs = setting("KV_INTERLEAVE_RUNS", 500);
+  int matches = 0;
+  for (int run = 0; run < runs; ++run) {
+    const Plan plan{.seed = static_cast<std::uint64_t>(setting("KV_INTERLEAVE_SEED", 1) + run)};
+    const Report report = Explore(plan);
+    ASSERT_EQ(report.fault, Fault::None) << "seed " << plan.seed << ": " << Text(Shrink(plan, report));
+    matches += report.matches;
+  }
+  EXPECT_GT(matches, runs / 10) << "the persons hardly play";
+}
+
+TEST(Interleave, EqualPlansGiveEqualRunsAndScriptsCanBeReadAgain) {
+  const Plan plan{.seed = 77, .actions = 60};
+  const Report once = Explore(plan);
+  EXPECT_EQ(Text(once), Text(Explore(plan)));
+  for (const Action& action : once.actions) {
+    const auto again = ParseAction(Text(action));
+    ASSERT_TRUE(again.has_value());
+    EXPECT_EQ(Text(*again), Text(action));
+  }
+  EXPECT_FALSE(ParseAction("250 nobody Start 0 box 1 no"));
+}
+
+struct Recipe {
+  const char* name;
+  int delay;
+  const char* script;
+};
+
+class InterleaveRecipe : public testing::TestWithParam<Recipe> {};
+
+TEST_P(InterleaveRecipe, EndsInTheLobby) {
+  const Report report = Play(GetParam().script, GetParam().delay);
+  EXPECT_EQ(report.fault, Fault::None) << Text(report);
+}
+
+// Arcade matches where the stake does not matter: both are at the table at once.
+const Recipe kRecipes[] = {
+    {"AQuestionInAPauseHoldsUpNoMove", 2,
+     "10 host Start 0 box 1 no\n10 guest Start 0 box 1 no\n1500 host Wager 10 box 1 no\n"
+     "600 guest Wager 10 box 1 no\n600 host Continue 0 box 1 no\n50 guest Continue 0 box 1 no\n"
+     "2500 host EndTurn 0 box 1 no\n0 guest EndTurn 0 box 1 no\n150 host Forfeit 0 box 9000 no\n"
+     "0 guest Forfeit 0 box 9000 no\n"},
+    {"WhoLeavesWhileAQuestionIsOpenHasLost", 2,
+     "10 host Start 0 box 1 no\n10 guest Start 0 box 1 no\n1500 host Wager 50 box 1 no\n"
+     "600 guest Wager 50 box 1 no\n600 host Continue 0 box 1 no\n50 guest Continue 0 box 1 no\n"
+     "2500 host EndTurn 0 box 1 no\n0 guest EndTurn 0 box 1 no\n150 host Forfeit 0 box 9000 no\n"
+     "1500 guest Disconnect 0 box 1 no\n"},
+    {"AModeChangeThatMeetsBothStarts", 40,
+     "10 host Start 0 box 1 no\n100 guest Start 0 box 1 no\n50 host Mode 0 box 1 no\n120 host Start 0 box 1 "
+     "no\n"},
+    {"AModeChangeThatMeetsBothStartsLate", 300,
+     "10 host Mode 0 box 1 no\n900 host Start 0 box 1 no\n10 guest Start 0 box 1 no\n200 host Mode 0 box 1 "
+     "no\n"
+     "300 host Start 0 box 1 no\n900 host Continue 0 box 1 no\n500 guest Start 0 box 1 no\n"},
+    {"AFailedSaveThatIsReadForLong", 2,
+     "10 host Start 0 box 1 no\n10 guest Start 0 box 1 no\n1500 host Wager 10 box 1 no\n"
+     "600 guest Wager 10 box 1 no\n600 host Continue 0 box 1 no\n50 guest Continue 0 box 1 no\n"
+     "2500 host FailSaves 1 box 1 no\n10 host Forfeit 0 box 6000 yes\n7500 guest Banner 0 box 1 no\n"},
+    {"ASetsBannerThatMeetsAForfeit", 300,
+     "10 host Mode 0 box 1 no\n900 host Start 0 box 1 no\n10 guest Start 0 box 1 no\n1500 host Continue 0 "
+     "box 1 no\n"
+     "10 guest Continue 0 box 1 no\n3000 host Stand 0 box 1 no\n10 guest Stand 0 box 1 no\n"
+     "2500 host Stand 0 box 1 no\n10 guest Stand 0 box 1 no\n2500 host Stand 0 box 1 no\n3000 host Banner 0 "
+     "box 1 no\n"
+     "10 guest Forfeit 0 box 10 yes\n500 guest Banner 0 box 1 no\n"},
+    {"AStakeThatIsTakenWhileItIsGivenBack", 300,
+     "10 host Start 0 box 1 no\n10 guest Start 0 box 1 no\n2500 host Wager 10 box 1 no\n1200 host End 0 box "
+     "1 no\n"
+     "0 guest Wager 10 box 1 no\n"},
+    {"AFailedSaveOnTheWayBack", 40,
+     "10 host Start 0 box 1 no\n10 guest Start 0 box 1 no\n1800 host Wager 25 box 1 no\n800 host FailSaves 3 "
+     "box 7000 no\n"
+     "10 host End 0 box 600 no\n200 guest Wager 45 box 900 yes\n2800 guest Start 0 box 1 no\n100 host Start "
+     "0 box 1 no\n"},
+    {"WhoComesStraightBackHasSaidGoodbye", 2,
+     "10 guest Disconnect 0 box 1 no\n30 guest EnterNetwork 0 box 1 no\n"},
+};
+
+INSTANTIATE_TEST_SUITE_P(All, InterleaveRecipe, testing::ValuesIn(kRecipes),
+                         [](const auto& param) { return std::string(param.param.name); });
+
+}  // namespace
+}  // namespace kv::interleave
