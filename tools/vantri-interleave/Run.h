@@ -28,7 +28,7 @@ struct Plan {
   int actions = 200;
   int mostDelay = -1;                           // milliseconds in either direction; -1: by the seed
   const std::vector<Action>* script = nullptr;  // instead of chance
-  bool trace = false;                           // writes down all that is sent and arrives, on standard output
+  bool trace = false;  // writes down all that is sent and arrives, on standard output
 };
 
 struct Report {

@@ -19,10 +19,10 @@ struct Later {
 
 // --- Fiber -----------------------------------------------------------------------------------------------
 
-Fiber::Fiber() : stack_(kStackSize) {
+Fiber::Fiber() : stack_(new char[kStackSize]) {
   ::getcontext(&inside_);
-  inside_.uc_stack.ss_sp = stack_.data();
-  inside_.uc_stack.ss_size = stack_.size();
+  inside_.uc_stack.ss_sp = stack_.get();
+  inside_.uc_stack.ss_size = kStackSize;
   inside_.uc_link = nullptr;
   const auto self = reinterpret_cast<std::uintptr_t>(this);
   // makecontext passes on nothing but ints.

@@ -37,7 +37,7 @@ class Fiber {
   void SwitchIn();
   void SwitchOut();
 
-  std::vector<char> stack_;
+  std::unique_ptr<char[]> stack_;
   ucontext_t inside_{};
   ucontext_t outside_{};
   std::function<void()> work_;
