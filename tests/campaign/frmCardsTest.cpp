@@ -172,6 +172,24 @@ TEST_P(CardsScreenTest, TheShopTradesWithTheWorkingCopiesUntilContinue) {
   EXPECT_EQ(stage.player.Cards->Value(4, 5), 1);
 }
 
+TEST_P(CardsScreenTest, ACardThatTheDeckNeedsIsNotSoldAndTheScreenSaysWhy) {
+  stage.player.Cards->Fill(0);
+  stage.player.Credits->Value = 40;
+  for (int slot = 1; slot <= kDeckSize; ++slot) stage.player.Deck->setValue(slot, CardCode("ps6"));
+  Open(kModeCampaign);
+  SetStake("20");
+  Key(Qt::Key_3);
+  Click(screen->ctlDeck(1));
+  Click(*screen->Bank({1, 6}));
+  EXPECT_FALSE(Button("cmdTrade").Enabled());
+  EXPECT_EQ(screen->findChild<QLabel*>(QStringLiteral("lblRefusal"))->text(),
+            QStringLiteral("the deck needs this card"));
+  Key(Qt::Key_Space);
+  Key(Qt::Key_1);
+  Click(*screen->Bank({1, 6}));
+  EXPECT_TRUE(Button("cmdContinue").Enabled());
+}
+
 TEST_P(CardsScreenTest, TheTitleBarAsksOnlyWhenAMatchIsAtStake) {
   Open(kModeCampaign);
   SetStake("20");
