@@ -170,26 +170,42 @@ bool CardDesk::Trade() {
   return traded;
 }
 
+CardDesk::Account CardDesk::Kept() const {
+  if (game_.Mode == kModeArcade) return {.credits = {}, .deck = player_.ArcadeDeck, .cards = {}};
+  if (game_.Mode == kModeCampaign || game_.Mode == kModeDeckConfig) {
+    return {player_.Credits, player_.Deck, player_.Cards};
+  }
+  if (game_.Mode == kModeNetwork) return {player_.Credits_MP, player_.Deck_MP, player_.Cards_MP};
+  return {};
+}
+
+bool CardDesk::Changed() const {
+  const Account kept = Kept();
+  if (stored_ || kept.deck == nullptr) return false;
+  for (int slot = 1; slot <= kDeckSize; ++slot) {
+    // What is no card was left out when the desk was opened: that is nobody's change.
+    const CardCode& code = kept.deck->Value(slot);
+    if (IsCard(code) ? code != deck_->Value(slot) : IsCard(deck_->Value(slot))) return true;
+  }
+  const bool shop = kept.cards != nullptr;
+  return shop && (kept.credits->Value != credits_->Value || *kept.cards != *cards_);
+}
+
 void CardDesk::Store() {
   if (stored_) return;
   stored_ = true;
-  const auto store = [this](const auto& credits, const auto& deck, const auto& cards) {
-    credits->Value = credits_->Value;
-    deck->CopyArray(*deck_);
-    cards->CopyArray(*cards_);
-    game_.CreditsRef = credits;
-    game_.DeckRef = deck;
-    game_.CardsRef = cards;
-  };
-  if (game_.Mode == kModeArcade) {
-    player_.ArcadeDeck->CopyArray(*deck_);
-    game_.DeckRef = player_.ArcadeDeck;
-  } else if (game_.Mode == kModeCampaign || game_.Mode == kModeDeckConfig) {
-    store(player_.Credits, player_.Deck, player_.Cards);
-  } else if (game_.Mode == kModeNetwork) {
-    store(player_.Credits_MP, player_.Deck_MP, player_.Cards_MP);
-    networkStake_.last = game_.Wager;
+  const Account kept = Kept();
+  if (kept.deck != nullptr) {
+    kept.deck->CopyArray(*deck_);
+    game_.DeckRef = kept.deck;
   }
+  if (kept.cards != nullptr) {
+    kept.credits->Value = credits_->Value;
+    kept.cards->CopyArray(*cards_);
+    game_.CreditsRef = kept.credits;
+    game_.CardsRef = kept.cards;
+  }
+  if (game_.Mode == kModeNetwork) networkStake_.last = game_.Wager;
 }
 
 bool CardDesk::LeavesFreely() const {

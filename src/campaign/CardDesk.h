@@ -38,6 +38,8 @@ class CardDesk {
   /// Continue: the working copies go back to where the mode keeps them. Does not save the file. Nothing can
   /// be changed on the desk afterwards.
   void Store();
+  /// Whether credits, deck or collection differ from what Continue would replace.
+  [[nodiscard]] bool Changed() const;
   /// Whether the title bar leaves without asking: no match is at stake.
   [[nodiscard]] bool LeavesFreely() const;
 
@@ -55,7 +57,14 @@ class CardDesk {
 
  private:
   enum class BankState : std::uint8_t { Hidden, Disabled, Enabled };
+  /// Where the mode keeps what Continue stores; null where it does not.
+  struct Account {
+    std::shared_ptr<clsLong> credits;
+    std::shared_ptr<clsDeckArray> deck;
+    std::shared_ptr<clsCardArray> cards;
+  };
 
+  [[nodiscard]] Account Kept() const;
   void TakeOutDeck();
   void RefreshBanks();
   void RefreshBank(const CardPlace& place);
