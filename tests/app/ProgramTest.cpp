@@ -4,6 +4,8 @@
 #include <QAccessible>
 #include <QCheckBox>
 #include <QLabel>
+#include <QScreen>
+#include <filesystem>
 #include <set>
 
 #include "app/AccessibleRoles.h"
@@ -231,6 +233,27 @@ TEST_F(ProgramTest, EndsOnceAndLeavesNothingRunning) {
   EXPECT_EQ(quits, 1);
   EXPECT_EQ(program->screen(), nullptr);
   EXPECT_EQ(scheduler.RunningTimers(), 0);
+}
+
+TEST_F(ProgramTest, ScreensOpenInsideTheWorkAreaAndComeBackToTheirPlace) {
+  MakePlayer("ann", [](clsPlayer& player) { player.Interface_Opt = "Ember"; });
+  Start();
+  const QRect area = program->screen()->screen()->availableGeometry();
+  program->screen()->move(area.left() - 100, area.top() - 100);
+  EnterMenu("ann");
+  const QPoint menu = program->screen()->pos();
+  EXPECT_TRUE(area.contains(program->screen()->geometry()));
+  ASSERT_LT(area.width(), 1024) << "the card screen must be wider than the work area";
+  EnterArcade(10);
+  EXPECT_EQ(program->screen()->pos(), area.topLeft()) << "the title bar can be reached";
+  dialogs.answers = {true};
+  Control<ctlTitlebar>("ctlTitlebar").Quit();
+  Settle(1000);
+  Click("cmdEnd");
+  EXPECT_EQ(program->screen()->pos(), menu);
+  program->screen()->move(area.bottomRight());
+  Click("cmdOptions");
+  EXPECT_TRUE(area.contains(program->screen()->geometry()));
 }
 
 TEST_F(ProgramTest, EndsInTheMiddleOfAPause) {
