@@ -235,6 +235,44 @@ TEST_F(ProgramTest, EndsOnceAndLeavesNothingRunning) {
   EXPECT_EQ(scheduler.RunningTimers(), 0);
 }
 
+TEST_F(ProgramTest, EndsAtOnceWithoutAQuestionAndKeepsTheRecord) {
+  for (const bool boxOpen : {false, true}) {
+    MakePlayer("ann", [](clsPlayer& player) { player.Arcade_Best = 20; });
+    Start();
+    EnterMenu("ann");
+    EnterArcade(10);
+    Click("cmdContinue");
+    Settle(6000);
+    quits = 0;
+    dialogs.boxes.clear();
+    if (boxOpen) {
+      dialogs.answers = {true};
+      dialogs.whileOpen = [this] { program->EndAtOnce(); };
+      Match().titlebar().Quit();
+      dialogs.whileOpen = {};
+    } else {
+      scheduler.At(200, [this] { program->EndAtOnce(); });
+      Match().engine().EndTurn();
+    }
+    Settle(6000);
+    EXPECT_EQ(quits, 1);
+    EXPECT_EQ(dialogs.boxes.size(), boxOpen ? 1u : 0u);
+    EXPECT_EQ(Stored("ann")->Arcade_Best, 90) << "what is left of the run without its open stake";
+    EXPECT_EQ(scheduler.RunningTimers(), 0);
+  }
+}
+
+TEST_F(ProgramTest, AFileThatCannotBeSavedHoldsUpNoEnd) {
+  MakePlayer("ann");
+  Start();
+  EnterMenu("ann");
+  EnterArcade(10);
+  std::filesystem::remove_all(folder.path());
+  program->EndAtOnce();
+  EXPECT_EQ(quits, 1);
+  EXPECT_TRUE(dialogs.boxes.empty());
+}
+
 TEST_F(ProgramTest, ScreensOpenInsideTheWorkAreaAndComeBackToTheirPlace) {
   MakePlayer("ann", [](clsPlayer& player) { player.Interface_Opt = "Ember"; });
   Start();
