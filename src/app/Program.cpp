@@ -20,7 +20,8 @@ namespace {
 
 // Milliseconds.
 constexpr int kSweepInterval = 100;
-constexpr int kSoundsDelay = 120;  // the first effect is due later than this
+constexpr int kSoundsDelay = 120;   // the first effect is due later than this
+constexpr int kPeerFarewell = 300;  // three ticks of the link: enough for its last message
 
 std::string BaseName(const std::string& path) {
   return std::filesystem::path(path).filename().string();
@@ -265,6 +266,17 @@ void Program::EndProgram() {
   // Whoever closes the window has ended the run as well: a record must not be lost by that.
   if (game_ != nullptr && game_->Mode == kModeArcade) EndArcadeRun(*game_, *player_);
   services_.quit();
+}
+
+void Program::EndAtOnce() {
+  dialogs_.Silence();
+  if (game_ != nullptr && game_->isNetwork()) {
+    const bool heard = network_->connected();
+    network_->SubmitChat("/quit");
+    globals_.tmrOff->setInterval(kPeerFarewell);
+    if (heard) return;
+  }
+  EndProgram();
 }
 
 }  // namespace kv

@@ -14,6 +14,7 @@
 #include "platform/QtDialogs.h"
 #include "platform/QtFontSystem.h"
 #include "platform/QtScheduler.h"
+#include "platform/QtSignals.h"
 #include "platform/SdlSoundDevice.h"
 #include "presentation/Fonts.h"
 
@@ -64,6 +65,8 @@ int main(int argc, char** argv) {
   QApplication::setWindowIcon(ProgramIcon(programFolder));
   QApplication::setQuitOnLastWindowClosed(false);
   kv::InstallAccessibleRoles();
+  kv::QtSignals ends;
+  ends.Ended = [] { QCoreApplication::exit(0); };  // of a box about a missing file
 
   kv::QtScheduler scheduler;
   kv::QtDialogs dialogs(scheduler);
@@ -78,6 +81,8 @@ int main(int argc, char** argv) {
   const auto quit = [] { QCoreApplication::exit(0); };
   kv::Program program({scheduler, dialogs, random, sound, quit, OpenFolder, OpenAddress},
                       {programFolder, working, kv::PortraitFolder(programFolder, working)});
+  if (ends.ended()) return 0;
+  ends.Ended = [&program] { program.EndAtOnce(); };
   program.Start();
   return QApplication::exec();
 }

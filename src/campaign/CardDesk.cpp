@@ -1,5 +1,6 @@
 #include "campaign/CardDesk.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "campaign/Circuit.h"
@@ -12,18 +13,6 @@ namespace kv {
 namespace {
 
 constexpr std::int16_t kArcadeCopies = 10;  // of every card, those in the deck included
-
-struct TitleRow {
-  std::string_view mode;
-  std::string_view title;
-};
-constexpr std::array<TitleRow, 5> kTitles = {{
-    {kModeArcade, "Arcade Match: Select Cards"},
-    {kModeCampaign, "Campaign Match: Select Cards"},
-    {kModeDeckConfig, "Deck View (No Match)"},
-    {kModeNetwork, "Network Match: Select Cards"},
-    {kModeNetworkArcade, "Network Arcade Match: Select Cards"},
-}};
 
 template <typename T>
 std::shared_ptr<T> CopyOf(const T& source) {
@@ -139,6 +128,8 @@ bool CardDesk::RemoveCard(int slot) {
   if (place.inTable() && cards_->Value(place.kind, place.value) == std::numeric_limits<std::int16_t>::max()) {
     return false;
   }
+  // A code that the collection cannot hold would be gone for good.
+  if (!place.inTable() && StrandsDeck(Owned() - 1, credits_->Value)) return false;
   deck_->setValue(slot, CardCode());
   ChangeCount(place, 1);
   if (place.inTable()) State(place) = StateInView(place);
@@ -152,8 +143,26 @@ void CardDesk::ChangeCount(const CardPlace& place, int change) {
   cards_->setValue(place.kind, place.value, static_cast<std::int16_t>(count));
 }
 
+int CardDesk::DeckCount() const {
+  int count = 0;
+  for (int slot = 1; slot <= kDeckSize; ++slot) count += deck_->Value(slot).empty() ? 0 : 1;
+  return count;
+}
+
+int CardDesk::Owned() const {
+  int owned = DeckCount();
+  ForEachPlace([this, &owned](const CardPlace& place) {
+    if (HoldsCard(place)) owned += std::max<int>(cards_->Value(place.kind, place.value), 0);
+  });
+  return owned;
+}
+
+bool CardDesk::StrandsDeck(int owned, std::int32_t credits) const {
+  return FillsDeck(Owned(), credits_->Value) && !FillsDeck(owned, credits);
+}
+
 bool CardDesk::Trade() {
-  if (stored_ || !picked_.inTable()) return false;
+  if (stored_ || !picked_.inTable() || !Refusal().empty()) return false;
   const CardPlace place = picked_;
   const bool traded = view_ == CardView::Buy ? BuyCard(place, credits_->Value, *cards_)
                                              : SellCard(place, credits_->Value, *cards_);
@@ -161,83 +170,46 @@ bool CardDesk::Trade() {
   return traded;
 }
 
+CardDesk::Account CardDesk::Kept() const {
+  if (game_.Mode == kModeArcade) return {.credits = {}, .deck = player_.ArcadeDeck, .cards = {}};
+  if (game_.Mode == kModeCampaign || game_.Mode == kModeDeckConfig) {
+    return {player_.Credits, player_.Deck, player_.Cards};
+  }
+  if (game_.Mode == kModeNetwork) return {player_.Credits_MP, player_.Deck_MP, player_.Cards_MP};
+  return {};
+}
+
+bool CardDesk::Changed() const {
+  const Account kept = Kept();
+  if (stored_ || kept.deck == nullptr) return false;
+  for (int slot = 1; slot <= kDeckSize; ++slot) {
+    // What is no card was left out when the desk was opened: that is nobody's change.
+    const CardCode& code = kept.deck->Value(slot);
+    if (IsCard(code) ? code != deck_->Value(slot) : IsCard(deck_->Value(slot))) return true;
+  }
+  const bool shop = kept.cards != nullptr;
+  return shop && (kept.credits->Value != credits_->Value || *kept.cards != *cards_);
+}
+
 void CardDesk::Store() {
   if (stored_) return;
   stored_ = true;
-  const auto store = [this](const auto& credits, const auto& deck, const auto& cards) {
-    credits->Value = credits_->Value;
-    deck->CopyArray(*deck_);
-    cards->CopyArray(*cards_);
-    game_.CreditsRef = credits;
-    game_.DeckRef = deck;
-    game_.CardsRef = cards;
-  };
-  if (game_.Mode == kModeArcade) {
-    player_.ArcadeDeck->CopyArray(*deck_);
-    game_.DeckRef = player_.ArcadeDeck;
-  } else if (game_.Mode == kModeCampaign || game_.Mode == kModeDeckConfig) {
-    store(player_.Credits, player_.Deck, player_.Cards);
-  } else if (game_.Mode == kModeNetwork) {
-    store(player_.Credits_MP, player_.Deck_MP, player_.Cards_MP);
-    networkStake_.last = game_.Wager;
+  const Account kept = Kept();
+  if (kept.deck != nullptr) {
+    kept.deck->CopyArray(*deck_);
+    game_.DeckRef = kept.deck;
   }
+  if (kept.cards != nullptr) {
+    kept.credits->Value = credits_->Value;
+    kept.cards->CopyArray(*cards_);
+    game_.CreditsRef = kept.credits;
+    game_.CardsRef = kept.cards;
+  }
+  if (game_.Mode == kModeNetwork) networkStake_.last = game_.Wager;
 }
 
 bool CardDesk::LeavesFreely() const {
   return game_.Wager == -1 || (game_.Mode == kModeNetworkArcade && game_.Wager == 0);
-}
-
-std::string_view CardDesk::Title() const {
-  for (const TitleRow& row : kTitles) {
-    if (row.mode == game_.Mode) return row.title;
-  }
-  return "Kelm Vantri: Select Cards";
-}
-
-std::string_view CardDesk::ContinueCaption() const {
-  return game_.Mode == kModeDeckConfig ? "ok" : "";
-}
-
-BankCard CardDesk::Bank(const CardPlace& place) const {
-  const BankState state =
-      banks_.at(static_cast<std::size_t>(place.kind) - 1).at(static_cast<std::size_t>(place.value) - 1);
-  return {.code = CollectionCode(place),
-          .count = cards_->Value(place.kind, place.value),
-          .visible = state != BankState::Hidden,
-          .enabled = state == BankState::Enabled};
-}
-
-int CardDesk::DeckCount() const {
-  int count = 0;
-  for (int slot = 1; slot <= kDeckSize; ++slot) count += deck_->Value(slot).empty() ? 0 : 1;
-  return count;
-}
-
-DeskButtons CardDesk::Buttons() const {
-  const bool shop = game_.Mode != kModeArcade && game_.Mode != kModeNetworkArcade;
-  if (view_ == CardView::Null) return {};
-  const bool full = DeckCount() == kDeckSize;
-  return {.shown = shop,
-          .deck = shop && view_ != CardView::Deck,
-          .buy = shop && full && view_ != CardView::Buy,
-          .sell = shop && full && view_ != CardView::Sell,
-          .next = full && view_ == CardView::Deck && !stored_};
-}
-
-TradeArea CardDesk::Shop() const {
-  if (view_ != CardView::Buy && view_ != CardView::Sell) return {};
-  const bool buys = view_ == CardView::Buy;
-  TradeArea area{.shown = true,
-                 .amountHeader = buys ? "# Owned:" : "# Left:",
-                 .priceHeader = buys ? "Cost:" : "Value:",
-                 .caption = buys ? "buy" : "sell",
-                 .card = CollectionCode(picked_)};
-  if (area.card.empty()) return area;
-  int owned = cards_->Value(picked_.kind, picked_.value);
-  for (int slot = 1; slot <= kDeckSize; ++slot) owned += deck_->Value(slot) == area.card ? 1 : 0;
-  area.price = std::to_string(buys ? CardPrice(picked_.kind, picked_.value) : SellValue(picked_));
-  area.amount = std::to_string(owned);
-  return area;
 }
 
 void DealMatch(clsGame& game, PlayerFields& player, Random& random) {

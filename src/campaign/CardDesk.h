@@ -32,11 +32,14 @@ class CardDesk {
   BankClick ClickBank(const CardPlace& place);
   /// A click on a deck slot, 1 to 10: its card goes back to the collection. False when nothing happened.
   bool RemoveCard(int slot);
-  /// Carries out the deal with the picked card. False when nothing was traded.
+  /// Carries out the deal with the picked card. False when nothing was traded, as by a deal after which the
+  /// deck could not be filled any more.
   bool Trade();
   /// Continue: the working copies go back to where the mode keeps them. Does not save the file. Nothing can
   /// be changed on the desk afterwards.
   void Store();
+  /// Whether credits, deck or collection differ from what Continue would replace.
+  [[nodiscard]] bool Changed() const;
   /// Whether the title bar leaves without asking: no match is at stake.
   [[nodiscard]] bool LeavesFreely() const;
 
@@ -54,13 +57,25 @@ class CardDesk {
 
  private:
   enum class BankState : std::uint8_t { Hidden, Disabled, Enabled };
+  /// Where the mode keeps what Continue stores; null where it does not.
+  struct Account {
+    std::shared_ptr<clsLong> credits;
+    std::shared_ptr<clsDeckArray> deck;
+    std::shared_ptr<clsCardArray> cards;
+  };
 
+  [[nodiscard]] Account Kept() const;
   void TakeOutDeck();
   void RefreshBanks();
   void RefreshBank(const CardPlace& place);
   [[nodiscard]] BankState StateInView(const CardPlace& place) const;
   [[nodiscard]] BankState& State(const CardPlace& place);
   [[nodiscard]] bool InDeck(const CardPlace& place) const;
+  /// Cards in the deck and in the collection.
+  [[nodiscard]] int Owned() const;
+  /// Whether the person is worse off for it than before: able to fill the deck now, but not with these.
+  [[nodiscard]] bool StrandsDeck(int owned, std::int32_t credits) const;
+  [[nodiscard]] std::string_view Refusal() const;
   BankClick AddCard(const CardPlace& place);
   void ChangeCount(const CardPlace& place, int change);
 

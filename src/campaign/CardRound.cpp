@@ -119,9 +119,17 @@ bool CardRound::AskForfeit() {
   return yes && !services_.life.closing();
 }
 
+bool CardRound::AskDiscard() {
+  if (!desk_.Changed()) return true;
+  const bool yes = services_.dialogs.AskYesNo("Your changes are not stored. Are you sure you wish to leave?",
+                                              "Kelm Vantri: Discard Changes", DialogIcon::Exclamation);
+  return yes && !services_.life.closing();
+}
+
 bool CardRound::TitlebarQuit() {
   if (services_.life.closing()) return false;
   if (desk_.LeavesFreely()) {
+    if (!AskDiscard()) return false;
     view_.PlaySound("click");
     EndClick();
     return true;
@@ -140,7 +148,7 @@ bool CardRound::TitlebarQuit() {
 
 void CardRound::LeaveProgram() {
   // What was booked when the stake was settled stays booked.
-  if (!desk_.LeavesFreely() && !AskForfeit()) return;
+  if (!(desk_.LeavesFreely() ? AskDiscard() : AskForfeit())) return;
   if (services_.game.isNetwork()) {
     services_.network.SubmitChat("/quit");
     return;

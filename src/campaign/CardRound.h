@@ -57,7 +57,8 @@ class CardRound final : public WagerView {
   void Continue();
   /// The panel's end button.
   void EndClick();
-  /// The title bar's close: asks first when a settled stake would be lost. False when the person stays.
+  /// The title bar's close: asks first when a settled stake or a changed deck would be lost. False when the
+  /// person stays.
   bool TitlebarQuit();
   /// The window system's close; the same question.
   void LeaveProgram();
@@ -75,6 +76,8 @@ class CardRound final : public WagerView {
   void Propose(std::int32_t amount);
   void Settle(const WagerPress& press);
   [[nodiscard]] bool AskForfeit();
+  /// True when nothing unstored would be lost, or may be.
+  [[nodiscard]] bool AskDiscard();
 
   CardRoundServices services_;
   CardRoundView& view_;

@@ -36,6 +36,7 @@ struct TradeArea {
   CardCode card;                  // empty while none is picked: then the button is disabled
   std::string price = "?";
   std::string amount = "?";
+  std::string_view refusal = {};  // why the picked card is not traded; empty when it is
 };
 
 enum class BankClick : std::uint8_t { Ignored, Added, Picked };

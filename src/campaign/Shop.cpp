@@ -12,6 +12,16 @@ namespace {
 constexpr int kSpecials = 5;  // the sixth special place holds no card
 constexpr std::array<CardType, 3> kCollectionTypes = {CardType::Plus, CardType::Minus, CardType::Flip};
 
+std::int32_t CheapestPrice() {
+  std::int32_t cheapest = CardPrice(1, 1);
+  for (int kind = 1; kind <= kCardKinds; ++kind) {
+    for (int value = 1; value <= kCardNumbers; ++value) {
+      if (HoldsCard({kind, value})) cheapest = std::min<std::int32_t>(cheapest, CardPrice(kind, value));
+    }
+  }
+  return cheapest;
+}
+
 }  // namespace
 
 CardPlace CardKindValue(const CardCode& code) {
@@ -57,6 +67,10 @@ std::int32_t SellValue(const CardPlace& place) {
 bool Affordable(const CardPlace& place, std::int32_t credits) {
   const std::int32_t price = place.inTable() ? CardPrice(place.kind, place.value) : 0;
   return price > 0 && price <= credits;
+}
+
+bool FillsDeck(int cards, std::int32_t credits) {
+  return cards + std::max(credits, 0) / CheapestPrice() >= kDeckSize;
 }
 
 bool BuyCard(const CardPlace& place, std::int32_t& credits, clsCardArray& cards) {

@@ -33,6 +33,9 @@ struct CardPlace {
 /// Whether these credits can pay for the card.
 [[nodiscard]] bool Affordable(const CardPlace& place, std::int32_t credits);
 
+/// Whether this many cards, with what the shop sells for these credits, make a full deck.
+[[nodiscard]] bool FillsDeck(int cards, std::int32_t credits);
+
 /// One card changes hands. False, and nothing changed, when it cannot be paid for or there is none to sell,
 /// and when the collection can count no further. Credits stop at kMostCredits.
 [[nodiscard]] bool BuyCard(const CardPlace& place, std::int32_t& credits, clsCardArray& cards);

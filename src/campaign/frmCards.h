@@ -95,6 +95,7 @@ class frmCards final : public Screen, private CardRoundView {
   QLabel* lblCost_ = nullptr;
   QLabel* lblAmountHeader_ = nullptr;
   QLabel* lblAmount_ = nullptr;
+  QLabel* lblRefusal_ = nullptr;
   QLabel* lblDeckCount_ = nullptr;
   ctlChat* chat_ = nullptr;  // in a network mode only
 };

@@ -91,6 +91,7 @@ void frmCards::BuildShop() {
   lblCost_ = layout().NewLabel(u"lblCost", this);
   lblAmountHeader_ = layout().NewLabel(u"lblAmountHeader", this);
   lblAmount_ = layout().NewLabel(u"lblAmount", this);
+  lblRefusal_ = layout().NewLabel(u"lblRefusal", this);
   ctlTrade_ = NewCard(layout().rect(u"ctlTrade"), {});
   ctlTrade_->setFocusPolicy(Qt::NoFocus);
   ctlTrade_->setObjectName(QStringLiteral("ctlTrade"));
@@ -149,8 +150,8 @@ void frmCards::RefreshDeck() {
 
 void frmCards::RefreshShop() {
   const TradeArea shop = round_.desk().Shop();
-  for (QWidget* part :
-       std::initializer_list<QWidget*>{lblBuyorSell_, lblCost_, lblAmountHeader_, lblAmount_, cmdTrade_}) {
+  for (QWidget* part : std::initializer_list<QWidget*>{lblBuyorSell_, lblCost_, lblAmountHeader_, lblAmount_,
+                                                       lblRefusal_, cmdTrade_}) {
     part->setVisible(shop.shown);
   }
   ctlTrade_->setVisible(shop.shown && !shop.card.empty());
@@ -160,7 +161,8 @@ void frmCards::RefreshShop() {
   lblAmountHeader_->setText(ToQString(shop.amountHeader));
   lblAmount_->setText(QString::fromStdString(shop.amount));
   cmdTrade_->setCaption(ToQString(shop.caption));
-  cmdTrade_->setEnabled(!shop.card.empty());
+  lblRefusal_->setText(ToQString(shop.refusal));
+  cmdTrade_->setEnabled(!shop.card.empty() && shop.refusal.empty());
 }
 
 void frmCards::RefreshButtons() {

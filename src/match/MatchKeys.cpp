@@ -24,14 +24,10 @@ KeyAction FlipAction(KeyCommand command, int slot) {
 KeyAction PlayKey(const clsCardArray& keys, int slot, KeyModifiers held, const FlipsShown& flips) {
   const bool first = (held.shift && !IsBoundKey(keys, KeyShift)) || (held.alt && !IsBoundKey(keys, KeyAlt));
   const bool second = held.control && !IsBoundKey(keys, KeyControl);
-  if (first) {
-    return FlipAction(KeyCommand::FirstFlip,
-                      FlipSlot(keys, kFirstFlipRow, keys.Value(kFirstFlipRow, slot), flips.first));
-  }
-  if (second) {
-    return FlipAction(KeyCommand::SecondFlip,
-                      FlipSlot(keys, kSecondFlipRow, keys.Value(kSecondFlipRow, slot), flips.second));
-  }
+  // The slot is named by its play key: whatever its flip keys are, and whether it has any, is of no concern.
+  const std::size_t at = static_cast<std::size_t>(slot) - 1;
+  if (first) return FlipAction(KeyCommand::FirstFlip, flips.first.at(at) ? slot : 0);
+  if (second) return FlipAction(KeyCommand::SecondFlip, flips.second.at(at) ? slot : 0);
   return {KeyCommand::Play, slot};
 }
 

@@ -28,8 +28,8 @@ struct FlipsShown {
 /// True when the key is bound to anything; then no other use of the key applies.
 [[nodiscard]] bool IsBoundKey(const clsCardArray& keys, int keyCode);
 
-/// The action of a key code of the key table. Shift or Alt with a play key means the slot's first flip,
-/// Control its second, unless the modifier is itself bound to something.
+/// The action of a key code of the key table. Shift or Alt with a play key means the first flip of that very
+/// slot, Control its second, unless the modifier is itself bound to something.
 [[nodiscard]] KeyAction KeyActionOf(const clsCardArray& keys, int keyCode, KeyModifiers held,
                                     const FlipsShown& flips);
 

@@ -79,6 +79,8 @@ struct SdlSoundDevice::Mixer {
     if (!whole) return {};
     HushAlsa();
     mixer->setHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Kelm Vantri");
+    // The signals that end the program are the program's: nobody here would read what SDL made of them.
+    mixer->setHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     return mixer;
   }
 };

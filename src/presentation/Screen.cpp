@@ -1,7 +1,9 @@
 #include "presentation/Screen.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QPainter>
+#include <QScreen>
 #include <algorithm>
 
 #include "platform/QtText.h"
@@ -38,6 +40,19 @@ void WarmUp(QImage& image) {
   }
 }
 
+/// The top left corner of a window with its middle at `centre`, moved so far that the window can be seen. Of
+/// one that is larger than the work area the right and lower parts stay outside: its title bar is at the top.
+QPoint InWorkArea(QPoint centre, QSize size) {
+  const QScreen* screen = QGuiApplication::screenAt(centre);
+  if (screen == nullptr) screen = QGuiApplication::primaryScreen();
+  const QPoint corner = centre - QRect({}, size).center();
+  if (screen == nullptr) return corner;
+  const QRect area = screen->availableGeometry();
+  const QPoint last = area.bottomRight() - QRect({}, size).bottomRight();
+  return {std::max(std::min(corner.x(), last.x()), area.left()),
+          std::max(std::min(corner.y(), last.y()), area.top())};
+}
+
 }  // namespace
 
 Screen::Screen(const ScreenServices& services, std::string_view name, std::string_view style)
@@ -72,12 +87,20 @@ Picture Screen::TintedPicture(int number) const {
 
 void Screen::Open(std::optional<QPoint> centre) {
   if (closing()) return;
-  if (centre) move(*centre - rect().center());
+  if (centre) {
+    centre_ = centre;
+    place_ = InWorkArea(*centre, size());
+    move(place_);
+  }
   Activate();
   if (closing()) return;
   show();
   setFocus();
   tmrShown_->setEnabled(true);
+}
+
+QPoint Screen::Centre() const {
+  return centre_ && pos() == place_ ? *centre_ : geometry().center();
 }
 
 void Screen::CloseScreen() {

@@ -25,13 +25,15 @@ class Screen : public QWidget {
  public:
   ~Screen() override;
 
-  /// Shows the screen with its middle at `centre`, or where the window system puts it, and activates it.
+  /// Shows the screen with its middle at `centre`, or where the window system puts it, and activates it. It
+  /// lies whole in the work area of the desktop's screen that it is on, its title bar always.
   void Open(std::optional<QPoint> centre = {});
   /// Ends everything the screen has started and hides it, for good. It may be destroyed once no pause is
   /// under way. Does nothing the second time.
   void CloseScreen();
   [[nodiscard]] bool closing() const { return lifetime_.closing(); }
-  [[nodiscard]] QPoint Centre() const { return geometry().center(); }
+  /// Where the next screen belongs. What a work area has pushed aside goes back where there is room again.
+  [[nodiscard]] QPoint Centre() const;
 
   /// The way out that the window system offers (Alt+F4); never called on a closed screen.
   virtual void LeaveProgram() = 0;
@@ -77,6 +79,8 @@ class Screen : public QWidget {
   Lifetime lifetime_;
   Picture background_;
   ctlTitlebar* titlebar_ = nullptr;  // child
+  std::optional<QPoint> centre_;     // that was asked for
+  QPoint place_;                     // and what it has become
   std::unique_ptr<Timer> tmrShown_;  // one tick after the screen is shown
 };
 

@@ -1,26 +1,23 @@
 #include "screens/frmSplash.h"
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPushButton>
 
 #include "presentation/PanelPainter.h"
-#include "presentation/TitleButton.h"
 #include "presentation/WidgetSkin.h"
-#include "screens/NameValidator.h"
 #include "screens/PinBox.h"
-#include "screens/TextLink.h"
+#include "screens/TextBoxes.h"
+#include "screens/frmSplashCreation.h"
+#include "screens/frmSplashFrame.h"
 #include "screens/frmSplashTitle.h"
-#include "screens/modShowPIN.h"
 
 namespace kv {
 namespace {
 
-constexpr int kNameLength = 20;         // characters of a player name and of a file name
 constexpr int kLoadWatchInterval = 10;  // milliseconds
 constexpr const char* kAddress = "http://kelm-vantri.example";
 
@@ -35,7 +32,7 @@ frmSplash::frmSplash(const ScreenServices& services, const frmSplashServices& sp
   BuildCreation();
   BuildFrame();
   BuildTitle();
-  ShowView(View::List);
+  ShowList(true);
 }
 
 frmSplash::~frmSplash() {
@@ -71,101 +68,43 @@ void frmSplash::BuildList() {
     PlayerSelected();
   });
   lblPINtitle_ = layout().NewLabel(u"lblPINtitle", this);
-  txtPIN_ = NewPinBox(u"txtPIN");
+  txtPIN_ = new PinBox(this);
+  PlaceBox(layout(), u"txtPIN", *txtPIN_);
   cmdContinue_ = NewButton(u"cmdContinue", [this] { Continue(); });
   cmdCreate_ = NewButton(u"cmdCreate", [this] { Create(); });
 }
 
 void frmSplash::BuildCreation() {
-  lblHeader_ = layout().NewLabel(u"lblHeader", this);
-  txtPlayer_ = NewBox(u"txtPlayer");
-  txtPlayer_->setValidator(new NameValidator(txtPlayer_));
-  connect(txtPlayer_, &QLineEdit::textChanged, this, [this] { CheckPlayerName(); });
-  cmdNewName_ = NewButton(u"cmdNewName", [this] { NewName(); });
-  txtName_ = NewBox(u"txtName");
-  connect(txtName_, &QLineEdit::textChanged, this, [this] { CheckFileName(); });
-  connect(txtName_, &QLineEdit::editingFinished, this, [this] { TrimFileName(); });
-  lblNewPIN_ = layout().NewLabel(u"lblNewPIN", this);
-  txtNewPIN_ = NewPinBox(u"txtNewPIN");
-  lblPINReveal_ = NewLink(u"lblPINReveal");
-  connect(lblPINReveal_, &QAbstractButton::clicked, this,
-          [this] { RevealPIN(*txtNewPIN_, services().scheduler, lifetime()); });
-  cmdNewFile_ = NewButton(u"cmdNewFile", [this] { NewFile(); });
-  lblCreateInfo_ = layout().NewLabel(u"lblCreateInfo", this);
-  lblCreateInfo_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  creation_ = std::make_unique<frmSplashCreation>(
+      *this, layout(),
+      frmSplashCreation::Services{services().buttons, services().scheduler, lifetime(), splash_});
+  creation_->StepChanged = [this] { StepChanged(); };
+  creation_->GivenUp = [this] { BackToList(); };
+  creation_->Done = [this](const std::string& fileName, const std::string& pin) {
+    BackToList();
+    RefreshPlayerList();
+    SelectPlayer(fileName, pin);
+    FocusList();
+  };
+  cmdNew2_ = new QPushButton(this);
+  cmdNew2_->setObjectName(QStringLiteral("cmdNew2"));
+  cmdNew2_->hide();
+  connect(cmdNew2_, &QPushButton::clicked, this, [this] { EnterStep(); });
 }
 
 void frmSplash::BuildFrame() {
-  layout().NewLabel(u"lblVersion", this);
-  connect(NewLink(u"lblURL"), &QAbstractButton::clicked, this, [this] { splash_.openAddress(kAddress); });
-  TitleButton* mini = NewTitleButton(u"cmdMini", TitleButton::Sign::Minimise);
-  connect(mini, &QAbstractButton::clicked, this, [this] { showMinimized(); });
-  TitleButton* quit = NewTitleButton(u"cmdQuit", TitleButton::Sign::Close);
-  connect(quit, &QAbstractButton::clicked, this, [this] { LeaveProgram(); });
+  BuildSplashFrame(*this, layout(), services().buttons,
+                   {.lblURL = [this] { splash_.openAddress(kAddress); },
+                    .cmdMini = [this] { showMinimized(); },
+                    .cmdQuit = [this] { LeaveProgram(); }});
 }
 
-QLineEdit* frmSplash::NewBox(QStringView control) {
-  auto* box = new QLineEdit(this);
-  box->setMaxLength(kNameLength);
-  Dress(control, *box);
-  return box;
-}
-
-PinBox* frmSplash::NewPinBox(QStringView control) {
-  auto* box = new PinBox(this);
-  Dress(control, *box);
-  return box;
-}
-
-void frmSplash::Dress(QStringView control, QLineEdit& box) {
-  const PropertyBag bag = layout().bag(control);
-  SkinWidget(box, bag);
-  box.setToolTip(bag.text(u"tooltip"));
-  layout().Place(control, box);
-}
-
-TextLink* frmSplash::NewLink(QStringView control) {
-  auto* link = new TextLink(this, layout().bag(control));
-  layout().Place(control, *link);
-  return link;
-}
-
-TitleButton* frmSplash::NewTitleButton(QStringView control, TitleButton::Sign sign) {
-  auto* button = new TitleButton(this, sign);
-  const PropertyBag bag = layout().bag(control);
-  const QColor idle = bag.colour(u"color");
-  const QColor hot = bag.colour(u"hover_color", idle.lighter(180));
-  button->setColor(idle);
-  button->setFocusPolicy(Qt::TabFocus);
-  button->Moved = [this, button, idle, hot] {
-    if (button->Color() != idle) return;
-    button->setColor(hot);
-    services().buttons.PlayHover();
-  };
-  button->Pressed = [button, pressed = bag.colour(u"pressed_color", Qt::white)] {
-    button->setColor(pressed);
-  };
-  button->Released = [button, idle] { button->setColor(idle); };
-  button->Left = button->Released;
-  layout().Place(control, *button);
-  return button;
-}
-
-void frmSplash::ShowView(View view) {
-  view_ = view;
-  const bool list = view == View::List;
+void frmSplash::ShowList(bool list) {
   for (QWidget* part : std::initializer_list<QWidget*>{lblPlayerHeader_, lstPlayers_, lblPINtitle_, txtPIN_,
                                                        cmdContinue_, cmdCreate_}) {
     part->setVisible(list);
   }
-  for (QWidget* part : std::initializer_list<QWidget*>{lblHeader_, lblCreateInfo_}) part->setVisible(!list);
-  for (QWidget* part : std::initializer_list<QWidget*>{txtPlayer_, cmdNewName_}) {
-    part->setVisible(view == View::PlayerName);
-  }
-  for (QWidget* part :
-       std::initializer_list<QWidget*>{txtName_, lblNewPIN_, txtNewPIN_, lblPINReveal_, cmdNewFile_}) {
-    part->setVisible(view == View::FileName);
-  }
+  StepChanged();
 }
 
 void frmSplash::Activate() {
@@ -187,16 +126,16 @@ void frmSplash::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      if (!event->isAutoRepeat()) cmdNew2();
+      if (!event->isAutoRepeat()) cmdNew2_->click();
       return;
     case Qt::Key_Escape:
       // The way back for someone who changed their mind; in the list there is nothing to go back to.
-      if (view_ != View::List) BackToList();
+      if (!event->isAutoRepeat() && creation_->StepButton() != nullptr) creation_->Back();
       return;
     case Qt::Key_Up:
     case Qt::Key_Down:
       // So that a player can be picked while the hands are at the PIN box.
-      if (view_ == View::List) MoveSelection(event->key() == Qt::Key_Up ? -1 : 1);
+      if (lstPlayers_->isVisible()) MoveSelection(event->key() == Qt::Key_Up ? -1 : 1);
       return;
     default:
       Screen::keyPressEvent(event);

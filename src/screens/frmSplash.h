@@ -2,32 +2,24 @@
 // creates player files; it never changes one that exists, and no player is current until a load succeeds.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "presentation/Screen.h"
-#include "presentation/TitleButton.h"
 #include "presentation/WindowDrag.h"
-#include "profile/clsPlayer.h"
+#include "screens/frmSplashServices.h"
 
 class QLabel;
-class QLineEdit;
 class QListWidget;
+class QPushButton;
 
 namespace kv {
 
 class PinBox;
-class TextLink;
+class frmSplashCreation;
 class frmSplashTitle;
-
-struct frmSplashServices {
-  std::string workingFolder;  // player files; empty for the current folder
-  std::function<std::unique_ptr<clsPlayer>()> newPlayer;
-  std::function<void(const std::string& address)> openAddress;
-};
 
 class frmSplash final : public Screen {
  public:
@@ -50,19 +42,12 @@ class frmSplash final : public Screen {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  // What the screen shows: the list, or one of the two steps of creating a player.
-  enum class View { List, PlayerName, FileName };
-
   void BuildList();
   void BuildCreation();
   void BuildFrame();
   void BuildTitle();
-  QLineEdit* NewBox(QStringView control);
-  PinBox* NewPinBox(QStringView control);
-  void Dress(QStringView control, QLineEdit& box);
-  TextLink* NewLink(QStringView control);
-  TitleButton* NewTitleButton(QStringView control, TitleButton::Sign sign);
-  void ShowView(View view);
+  /// The list with its controls, or the steps of creating a player in its place.
+  void ShowList(bool list);
 
   void RefreshPlayerList();
   void PlayerSelected();
@@ -75,23 +60,19 @@ class frmSplash final : public Screen {
   void LoadWatchTick();
 
   void Create();
-  void CheckPlayerName();
-  void NewName();
-  void CheckFileName();
-  void TrimFileName();
-  void NewFile();
   void BackToList();
 
   /// The button of the step that the Enter key performs.
   [[nodiscard]] ctlButton* StepButton() const;
-  void cmdNew2();
+  void StepChanged();
+  void EnterStep();
 
   const frmSplashServices splash_;
   std::vector<std::string> players_;  // the list's entries, in its order
-  View view_ = View::List;
-  bool loaded_ = false;  // the screen stands; the hand-over waits for it
+  bool loaded_ = false;               // the screen stands; the hand-over waits for it
   WindowDrag drag_;
   std::unique_ptr<frmSplashTitle> title_;
+  std::unique_ptr<frmSplashCreation> creation_;
   std::unique_ptr<Timer> tmrLoadWatch_;
 
   QLabel* lblPlayerHeader_ = nullptr;  // children, all that follow
@@ -100,15 +81,7 @@ class frmSplash final : public Screen {
   PinBox* txtPIN_ = nullptr;
   ctlButton* cmdContinue_ = nullptr;
   ctlButton* cmdCreate_ = nullptr;
-  QLabel* lblHeader_ = nullptr;
-  QLineEdit* txtPlayer_ = nullptr;
-  ctlButton* cmdNewName_ = nullptr;
-  QLineEdit* txtName_ = nullptr;
-  QLabel* lblNewPIN_ = nullptr;
-  PinBox* txtNewPIN_ = nullptr;
-  TextLink* lblPINReveal_ = nullptr;
-  ctlButton* cmdNewFile_ = nullptr;
-  QLabel* lblCreateInfo_ = nullptr;
+  QPushButton* cmdNew2_ = nullptr;  // hidden: what the Enter key presses
 };
 
 }  // namespace kv

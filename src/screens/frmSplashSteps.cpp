@@ -1,12 +1,12 @@
 // What the person does on the start screen: picking and loading a player, and creating one step by step.
-#include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
 #include <algorithm>
 
 #include "screens/PinBox.h"
 #include "screens/PlayerFiles.h"
 #include "screens/frmSplash.h"
+#include "screens/frmSplashCreation.h"
 #include "screens/frmSplashTitle.h"
 
 namespace kv {
@@ -14,30 +14,6 @@ namespace {
 
 constexpr const char* kLoadFailedText = "Player file corrupted, or incorrect PIN";
 constexpr const char* kErrorTitle = "Kelm Vantri: Error";
-
-/// Takes the blanks from the start of the box, and says whether there were any. The caret stays at its text.
-bool RemoveLeadingBlanks(QLineEdit& box) {
-  const QString text = box.text();
-  qsizetype blanks = 0;
-  while (blanks < text.size() && text.at(blanks) == u' ') ++blanks;
-  if (blanks == 0) return false;
-  const int caret = box.cursorPosition() - static_cast<int>(blanks);
-  box.setText(text.mid(blanks));
-  box.setCursorPosition(std::max(caret, 0));
-  return true;
-}
-
-QString Trimmed(const QLineEdit& box) {
-  QString text = box.text();
-  while (text.endsWith(u' ')) text.chop(1);
-  while (text.startsWith(u' ')) text.remove(0, 1);
-  return text;
-}
-
-QString MaxLengthLine(const QLineEdit& box) {
-  if (box.text().size() < box.maxLength()) return {};
-  return QStringLiteral("- max length reached (%1)\n").arg(box.maxLength());
-}
 
 }  // namespace
 
@@ -51,12 +27,14 @@ void frmSplash::RefreshPlayerList() {
   lstPlayers_->setEnabled(any);
   cmdContinue_->setEnabled(any);
   if (any) lstPlayers_->setCurrentRow(0);
+  StepChanged();
 }
 
 void frmSplash::PlayerSelected() {
   if (lstPlayers_->currentRow() < 0) return;
   txtPIN_->clear();
   cmdContinue_->setEnabled(true);
+  StepChanged();
 }
 
 void frmSplash::MoveSelection(int rows) {
@@ -78,6 +56,7 @@ void frmSplash::EnableList(bool enabled) {
   txtPIN_->setEnabled(enabled);
   cmdContinue_->setEnabled(enabled);
   cmdCreate_->setEnabled(enabled);
+  StepChanged();
 }
 
 void frmSplash::Continue() {
@@ -118,65 +97,8 @@ void frmSplash::LoadWatchTick() {
 
 void frmSplash::Create() {
   txtPIN_->clear();
-  lblHeader_->setText(QStringLiteral("Enter a player name:"));
-  ShowView(View::PlayerName);
-  CheckPlayerName();
-  txtPlayer_->setFocus();
-}
-
-void frmSplash::CheckPlayerName() {
-  if (RemoveLeadingBlanks(*txtPlayer_)) return;  // the change has been looked at already
-  cmdNewName_->setEnabled(!txtPlayer_->text().isEmpty());
-  lblCreateInfo_->setText(MaxLengthLine(*txtPlayer_));
-}
-
-void frmSplash::NewName() {
-  const QString name = Trimmed(*txtPlayer_);
-  txtPlayer_->setText(name);
-  lblHeader_->setText(QStringLiteral("Enter a filename for your player:"));
-  ShowView(View::FileName);
-  txtName_->setText(name.toLower());
-  CheckFileName();
-  txtName_->setFocus();
-  txtName_->deselect();
-  txtName_->end(false);
-}
-
-void frmSplash::CheckFileName() {
-  if (RemoveLeadingBlanks(*txtName_)) return;  // the change has been looked at already
-  // Blanks at the end are on their way to a further word, and go when the name is used.
-  const std::string name = Trimmed(*txtName_).toStdString();
-  const bool valid = IsValidFileName(name);
-  const bool exists = valid && !name.empty() && PlayerExists(splash_.workingFolder, name);
-  cmdNewFile_->setEnabled(valid && !name.empty() && !exists);
-  QString info;
-  if (exists) info += QStringLiteral("- file of already exists\n");
-  if (!valid) info += QStringLiteral("- invalid char: \\  /  :  *  ?  \"  <  >  |\n");
-  lblCreateInfo_->setText(info + MaxLengthLine(*txtName_));
-}
-
-void frmSplash::TrimFileName() {
-  if (const QString name = Trimmed(*txtName_); name != txtName_->text()) txtName_->setText(name);
-}
-
-void frmSplash::NewFile() {
-  cmdNewFile_->setEnabled(false);  // while a box about the saving is open
-  TrimFileName();
-  const std::string name = txtName_->text().toStdString();
-  std::unique_ptr<clsPlayer> player = splash_.newPlayer();
-  player->Name = txtPlayer_->text().toStdString();
-  player->PIN = txtNewPIN_->PIN();
-  const PlayerCreation created = CreatePlayerFile(*player, splash_.workingFolder, name);
-  if (closing()) return;
-  if (created == PlayerCreation::Exists) {  // it has appeared since the name was looked at
-    CheckFileName();
-    txtName_->setFocus();
-    return;
-  }
-  BackToList();
-  RefreshPlayerList();
-  if (created == PlayerCreation::Created) SelectPlayer(name, player->PIN);
-  FocusList();
+  ShowList(false);
+  creation_->Begin();
 }
 
 void frmSplash::SelectPlayer(const std::string& name, const std::string& pin) {
@@ -187,27 +109,28 @@ void frmSplash::SelectPlayer(const std::string& name, const std::string& pin) {
 }
 
 void frmSplash::BackToList() {
-  ShowView(View::List);
-  for (QLineEdit* box : {txtPlayer_, txtName_, static_cast<QLineEdit*>(txtNewPIN_)}) box->clear();
-  txtNewPIN_->setRevealed(false);
   cmdCreate_->setEnabled(true);
+  ShowList(true);
   FocusList();
 }
 
 ctlButton* frmSplash::StepButton() const {
-  if (view_ == View::PlayerName) return cmdNewName_;
-  if (view_ == View::FileName) return cmdNewFile_;
+  if (ctlButton* step = creation_->StepButton()) return step;
   return cmdContinue_->Enabled() ? cmdContinue_ : cmdCreate_;
 }
 
-// The hidden default button: it does what the button of the present step does, and only while that may.
-void frmSplash::cmdNew2() {
-  const ctlButton* step = StepButton();
-  if (!step->Enabled()) return;
-  if (step == cmdNewName_) NewName();
-  if (step == cmdNewFile_) NewFile();
-  if (step == cmdContinue_) Continue();
-  if (step == cmdCreate_) Create();
+void frmSplash::StepChanged() {
+  cmdNew2_->setEnabled(StepButton()->Enabled());
+}
+
+void frmSplash::EnterStep() {
+  if (creation_->StepButton() != nullptr) {
+    creation_->Next();
+  } else if (cmdContinue_->Enabled()) {
+    Continue();
+  } else {
+    Create();
+  }
 }
 
 }  // namespace kv

@@ -4,6 +4,8 @@
 #include <QAccessible>
 #include <QCheckBox>
 #include <QLabel>
+#include <QScreen>
+#include <filesystem>
 #include <set>
 
 #include "app/AccessibleRoles.h"
@@ -231,6 +233,65 @@ TEST_F(ProgramTest, EndsOnceAndLeavesNothingRunning) {
   EXPECT_EQ(quits, 1);
   EXPECT_EQ(program->screen(), nullptr);
   EXPECT_EQ(scheduler.RunningTimers(), 0);
+}
+
+TEST_F(ProgramTest, EndsAtOnceWithoutAQuestionAndKeepsTheRecord) {
+  for (const bool boxOpen : {false, true}) {
+    MakePlayer("ann", [](clsPlayer& player) { player.Arcade_Best = 20; });
+    Start();
+    EnterMenu("ann");
+    EnterArcade(10);
+    Click("cmdContinue");
+    Settle(6000);
+    quits = 0;
+    dialogs.boxes.clear();
+    if (boxOpen) {
+      dialogs.answers = {true};
+      dialogs.whileOpen = [this] { program->EndAtOnce(); };
+      Match().titlebar().Quit();
+      dialogs.whileOpen = {};
+    } else {
+      scheduler.At(200, [this] { program->EndAtOnce(); });
+      Match().engine().EndTurn();
+    }
+    Settle(6000);
+    EXPECT_EQ(quits, 1);
+    EXPECT_EQ(dialogs.boxes.size(), boxOpen ? 1u : 0u);
+    EXPECT_EQ(Stored("ann")->Arcade_Best, 90) << "what is left of the run without its open stake";
+    EXPECT_EQ(scheduler.RunningTimers(), 0);
+  }
+}
+
+TEST_F(ProgramTest, AFileThatCannotBeSavedHoldsUpNoEnd) {
+  MakePlayer("ann");
+  Start();
+  EnterMenu("ann");
+  EnterArcade(10);
+  std::filesystem::remove_all(folder.path());
+  program->EndAtOnce();
+  EXPECT_EQ(quits, 1);
+  EXPECT_TRUE(dialogs.boxes.empty());
+}
+
+TEST_F(ProgramTest, ScreensOpenInsideTheWorkAreaAndComeBackToTheirPlace) {
+  MakePlayer("ann", [](clsPlayer& player) { player.Interface_Opt = "Ember"; });
+  Start();
+  const QRect area = program->screen()->screen()->availableGeometry();
+  program->screen()->move(area.left() - 100, area.top() - 100);
+  EnterMenu("ann");
+  const QPoint menu = program->screen()->pos();
+  EXPECT_TRUE(area.contains(program->screen()->geometry()));
+  ASSERT_LT(area.width(), 1024) << "the card screen must be wider than the work area";
+  EnterArcade(10);
+  EXPECT_EQ(program->screen()->pos(), area.topLeft()) << "the title bar can be reached";
+  dialogs.answers = {true};
+  Control<ctlTitlebar>("ctlTitlebar").Quit();
+  Settle(1000);
+  Click("cmdEnd");
+  EXPECT_EQ(program->screen()->pos(), menu);
+  program->screen()->move(area.bottomRight());
+  Click("cmdOptions");
+  EXPECT_TRUE(area.contains(program->screen()->geometry()));
 }
 
 TEST_F(ProgramTest, EndsInTheMiddleOfAPause) {

@@ -151,6 +151,19 @@ TEST_F(CardDeskRulesTest, TheShopOffersWhatCanBePaidAndTakesWhatIsFree) {
   EXPECT_FALSE(desk.RemoveCard(1));
 }
 
+TEST_F(CardDeskRulesTest, WhatCannotBeCountedAsACardIsNobodysChange) {
+  player.Deck->setValue(2, CardCode("xx"));
+  CardDesk desk = DeckView();
+  EXPECT_TRUE(desk.Slot(2).empty());
+  EXPECT_FALSE(desk.Changed());
+  player.Cards->setValue(1, 1, 1);
+  CardDesk filled = DeckView();
+  filled.ClickBank({1, 1});
+  EXPECT_TRUE(filled.Changed());
+  filled.Store();
+  EXPECT_FALSE(filled.Changed());
+}
+
 TEST_F(CardDeskRulesTest, LimitsOfCreditsAndCounts) {
   player.Credits->Value = 1999999999;
   player.Cards->setValue(4, 5, 1);

@@ -41,6 +41,11 @@ class CardsScreenTest : public testing::TestWithParam<const char*> {
       Circuit circuit(game, stage.player);
       EXPECT_TRUE(circuit.Choose(1));
     }
+    if (mode == kModeDeckConfig) {
+      game.CreditsRef = stage.player.Credits;
+      game.DeckRef = stage.player.Deck;
+      game.CardsRef = stage.player.Cards;
+    }
     if (mode == kModeNetwork) {
       game.CreditsRef = stage.player.Credits_MP;
       game.DeckRef = stage.player.Deck_MP;
@@ -172,6 +177,24 @@ TEST_P(CardsScreenTest, TheShopTradesWithTheWorkingCopiesUntilContinue) {
   EXPECT_EQ(stage.player.Cards->Value(4, 5), 1);
 }
 
+TEST_P(CardsScreenTest, ACardThatTheDeckNeedsIsNotSoldAndTheScreenSaysWhy) {
+  stage.player.Cards->Fill(0);
+  stage.player.Credits->Value = 40;
+  for (int slot = 1; slot <= kDeckSize; ++slot) stage.player.Deck->setValue(slot, CardCode("ps6"));
+  Open(kModeCampaign);
+  SetStake("20");
+  Key(Qt::Key_3);
+  Click(screen->ctlDeck(1));
+  Click(*screen->Bank({1, 6}));
+  EXPECT_FALSE(Button("cmdTrade").Enabled());
+  EXPECT_EQ(screen->findChild<QLabel*>(QStringLiteral("lblRefusal"))->text(),
+            QStringLiteral("the deck needs this card"));
+  Key(Qt::Key_Space);
+  Key(Qt::Key_1);
+  Click(*screen->Bank({1, 6}));
+  EXPECT_TRUE(Button("cmdContinue").Enabled());
+}
+
 TEST_P(CardsScreenTest, TheTitleBarAsksOnlyWhenAMatchIsAtStake) {
   Open(kModeCampaign);
   SetStake("20");
@@ -190,6 +213,42 @@ TEST_P(CardsScreenTest, TheTitleBarAsksOnlyWhenAMatchIsAtStake) {
   EXPECT_TRUE(screen->wager().isHidden());
   Click(Button("cmdContinue"));
   EXPECT_EQ(asked(), std::vector<std::string>{"OpenCampaign"});
+}
+
+TEST_P(CardsScreenTest, TheDeckViewAsksBeforeItDropsWhatIsNotStored) {
+  Open(kModeDeckConfig);
+  Click(screen->ctlDeck(3));
+  stage.dialogs.answers = {false, false, true};
+  Key(Qt::Key_Escape);
+  screen->LeaveProgram();
+  EXPECT_TRUE(asked().empty());
+  EXPECT_TRUE(screen->titlebar().Enabled());
+  EXPECT_EQ(stage.dialogs.boxes.back().title, "Kelm Vantri: Discard Changes");
+  EXPECT_EQ(stage.dialogs.boxes.back().icon, DialogIcon::Exclamation);
+  screen->titlebar().Quit();
+  EXPECT_EQ(asked(), std::vector<std::string>{"OpenCampaign"});
+
+  const auto leaveAfter = [this](const std::vector<std::pair<Qt::Key, QWidget*>>& clicks) {
+    for (const auto& [view, card] : clicks) {
+      Key(view);
+      Click(*card);
+      Key(Qt::Key_Space);
+    }
+    stage.recorded.calls.clear();
+    stage.dialogs.boxes.clear();
+    stage.dialogs.answers = {true};
+    Key(Qt::Key_Escape);
+    EXPECT_EQ(asked(), std::vector<std::string>{"OpenCampaign"});
+    return stage.dialogs.boxes.size();
+  };
+  Open(kModeDeckConfig);
+  EXPECT_EQ(leaveAfter({}), 0U) << "nothing was changed";
+  Open(kModeDeckConfig);
+  EXPECT_EQ(leaveAfter({{Qt::Key_2, screen->Bank({1, 6})}}), 1U) << "a purchase would be lost";
+  Open(kModeDeckConfig);
+  const std::string code = screen->ctlDeck(3).Card();
+  Click(screen->ctlDeck(3));
+  EXPECT_EQ(leaveAfter({{Qt::Key_1, screen->Bank(CardKindValue(CardCode(code)))}}), 0U) << "all as it was";
 }
 
 TEST_P(CardsScreenTest, AWarningThatIsAnsweredNoLeavesTheButtonInUse) {

@@ -46,6 +46,20 @@ TEST_F(MatchKeysTest, ModifiersTurnAPlayKeyIntoAFlip) {
   EXPECT_EQ(Press(KeySpace, {.shift = true}), (KeyAction{KeyCommand::EndTurn}));
 }
 
+TEST_F(MatchKeysTest, AModifierFlipsTheCardOfThePlayKeyWhateverTheFlipKeysAre) {
+  for (const std::int16_t flipKey : {std::int16_t{0}, std::int16_t{kKeyQ}}) {  // cleared, and one for all
+    for (int slot = 1; slot <= 4; ++slot) {
+      keys.setValue(3, slot, flipKey);
+      keys.setValue(4, slot, flipKey);
+    }
+    EXPECT_EQ(Press('3', {.shift = true}, all), (KeyAction{KeyCommand::FirstFlip, 3}));
+    EXPECT_EQ(Press('3', {.control = true}, all), (KeyAction{KeyCommand::SecondFlip, 3}));
+    const FlipsShown others{{true, true, false, true}, {true, true, false, true}};
+    EXPECT_EQ(Press('3', {.alt = true}, others), KeyAction{});
+    EXPECT_EQ(Press('3', {.control = true}, others), KeyAction{});
+  }
+}
+
 TEST_F(MatchKeysTest, ABoundModifierIsAKeyLikeAnyOther) {
   keys.setValue(1, 1, KeyShift);
   EXPECT_EQ(Press(KeyShift, {.shift = true}, all), (KeyAction{KeyCommand::EndTurn}));

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <csignal>
 #include <cstdlib>
 #include <thread>
 
@@ -46,6 +47,18 @@ class SdlSoundDeviceTest : public testing::Test {
   const test::TempFolder folder;
   test::HandScheduler scheduler;
 };
+
+TEST_F(SdlSoundDeviceTest, TheSignalsThatEndTheProgramStayItsOwn) {
+  UseDriver("dummy");
+  SdlSoundDevice device(scheduler);
+  device.PlayBuffer(device.LoadBuffer(PutWave("a.wav")));
+  ASSERT_TRUE(device.Awake());
+  for (const int signal : {SIGTERM, SIGINT}) {
+    struct sigaction now {};
+    sigaction(signal, nullptr, &now);
+    EXPECT_EQ(now.sa_handler, SIG_DFL) << signal;
+  }
+}
 
 TEST_F(SdlSoundDeviceTest, APlayedBufferComesOutAndTheDeviceThenSleeps) {
   UseDiskDriver();

@@ -162,11 +162,13 @@ TEST_F(frmSplashTest, AnotherFileIsNeverReplacedAndAFailedSaveLeavesNothing) {
   EXPECT_FALSE(Button("cmdNewFile").Enabled());
   EXPECT_THAT(stage.dialogs.boxes, IsEmpty());
   hand->Key(Qt::Key_Escape);
+  hand->Key(Qt::Key_Escape);
   EXPECT_TRUE(List().isVisible());
   EXPECT_EQ(Text("txtPlayer"), "");
 
   std::filesystem::remove(folder / "bob.vnt");
   toFileName();
+  hand->Key(Qt::Key_Escape);
   hand->Key(Qt::Key_Escape);
   hand->Click(Button("cmdCreate"));
   Type("bob");
@@ -178,6 +180,52 @@ TEST_F(frmSplashTest, AnotherFileIsNeverReplacedAndAFailedSaveLeavesNothing) {
   EXPECT_THAT(Entries(), IsEmpty());
   EXPECT_TRUE(Button("cmdCreate").Enabled());
   EXPECT_FALSE(Button("cmdContinue").Enabled());
+}
+
+TEST_F(frmSplashTest, BackLeadsThroughTheStepsToTheListAndItsSelection) {
+  for (const char* name : {"ann.vnt", "bob.vnt"}) folder.Put(name, "");
+  Open();
+  List().setCurrentRow(1);
+  auto& enter = Find<QAbstractButton>("cmdNew2");
+  EXPECT_FALSE(enter.isVisible());
+  EXPECT_TRUE(enter.isEnabled());
+  hand->Click(Button("cmdCreate"));
+  EXPECT_FALSE(enter.isEnabled()) << "there is no name yet";
+  Type("Cleo");
+  EXPECT_TRUE(enter.isEnabled());
+  enter.click();
+  Find("txtName").setText(QStringLiteral("ann"));
+  EXPECT_FALSE(enter.isEnabled());
+  hand->Click(Button("cmdBack"));
+  EXPECT_TRUE(Find("txtPlayer").isVisible() && Find("txtPlayer").hasFocus());
+  EXPECT_EQ(Text("txtPlayer"), "Cleo");
+  EXPECT_EQ(Find<QLabel>("lblHeader").text().toStdString(), "Enter a player name:");
+  EXPECT_EQ(Info(), "");
+  EXPECT_TRUE(Button("cmdNewName").Enabled());
+  hand->Click(Button("cmdBack"));
+  EXPECT_TRUE(List().isVisible());
+  EXPECT_FALSE(Button("cmdBack").isVisible());
+  EXPECT_EQ(List().currentRow(), 1);
+  hand->Click(Button("cmdCreate"));
+  EXPECT_EQ(Text("txtPlayer"), "");
+}
+
+TEST_F(frmSplashTest, ALetterThatCannotBeStoredIsRefusedWithALine) {
+  Open();
+  hand->Click(Button("cmdCreate"));
+  Find("txtPlayer").insert(QStringLiteral("\u0141"));
+  EXPECT_FALSE(Button("cmdNewName").Enabled());
+  EXPECT_EQ(Info(), "- cannot be stored: \xC5\x81\n");
+  Type("ukasz");
+  EXPECT_EQ(Info(), "- cannot be stored: \xC5\x81\n") << "it is still there when the person looks up";
+  Find("txtPlayer").insert(QStringLiteral("\u0105"));
+  Type(" the Great of Kel");
+  EXPECT_EQ(Info(), "- cannot be stored: \xC5\x81\xC4\x85\n- max length reached (20)\n");
+  Enter();
+  EXPECT_EQ(Info(), "- max length reached (20)\n");
+  hand->Click(Button("cmdBack"));
+  Find("txtPlayer").setText(QStringLiteral("J\u00FCrg"));
+  EXPECT_EQ(Info(), "");
 }
 
 TEST_F(frmSplashTest, AFileThatCannotBeLoadedLeavesTheScreenUsable) {

@@ -15,11 +15,13 @@ constexpr int kOpponent = 3;        // with a stake that matters
 struct QuietNetwork final : MatchNetwork {};
 
 struct Desk {
-  Desk(const Gallery& gallery, std::string_view mode) : stage(gallery.style(), gallery.scale()) {
+  Desk(const Gallery& gallery, std::string_view mode, const std::function<void(PlayerFields&)>& change = {})
+      : stage(gallery.style(), gallery.scale()) {
     FillSamplePlayer(stage.player);
     for (int value = 1; value <= kCardNumbers; ++value) {
       stage.player.Cards->setValue(1 + value % 4, 7 - value, static_cast<std::int16_t>(value % 3 + 1));
     }
+    if (change) change(stage.player);
     game.OppName = "Orrin Vaal";
     if (mode == kModeCampaign || mode == kModeDeckConfig) {
       Circuit circuit(game, stage.player);
@@ -76,6 +78,18 @@ void Shop(Gallery& gallery) {
   gallery.Save(*desk.screen, "cards-sell");
 }
 
+void Refusal(Gallery& gallery) {
+  Desk desk(gallery, kModeDeckConfig, [](PlayerFields& player) {
+    player.Cards->Fill(0);
+    player.Credits->Value = 0;
+    for (int slot = 1; slot <= kDeckSize; ++slot) player.Deck->setValue(slot, CardCode("ps6"));
+  });
+  desk.Key(Qt::Key_3);
+  desk.hand->Click(desk.screen->ctlDeck(4));
+  desk.hand->Click(*desk.screen->Bank({1, 6}));
+  gallery.Save(*desk.screen, "cards-refused");
+}
+
 }  // namespace
 
 void RenderDesk(Gallery& gallery) {
@@ -87,6 +101,7 @@ void RenderDesk(Gallery& gallery) {
   }
   Match(gallery);
   Shop(gallery);
+  Refusal(gallery);
 }
 
 }  // namespace kv

@@ -60,6 +60,7 @@ void RenderStart(Gallery& gallery) {
   gallery.Save(splash, "start-list");
   Click(stage, splash, "cmdCreate");
   Child<QLineEdit>(splash, "txtPlayer").setText(QStringLiteral("Lior"));
+  Child<QLineEdit>(splash, "txtPlayer").insert(QStringLiteral("\u0142"));
   gallery.Save(splash, "start-name");
   Click(stage, splash, "cmdNewName");
   gallery.Save(splash, "start-file");

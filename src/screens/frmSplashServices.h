@@ -1,0 +1,18 @@
+// What the start screen needs besides the services of every screen.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "profile/clsPlayer.h"
+
+namespace kv {
+
+struct frmSplashServices {
+  std::string workingFolder;  // player files; empty for the current folder
+  std::function<std::unique_ptr<clsPlayer>()> newPlayer;
+  std::function<void(const std::string& address)> openAddress;
+};
+
+}  // namespace kv
