@@ -78,6 +78,7 @@ void RenderMenu(Gallery& gallery) {
   constexpr State kStates[] = {{"menu", [](clsPlayer&) {}},
                                {"menu-defeated", [](clsPlayer& player) { player.Credits->Value = 0; }},
                                {"menu-victory", [](clsPlayer& player) {
+                                  player.Name = "WWWWWWWWWWWWWWWWWWWW";
                                   player.Orrin_Wins->Value = 10;
                                   player.Arcade_Best = 2'000'000'000;
                                 }}};
