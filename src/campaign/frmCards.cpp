@@ -33,6 +33,8 @@ frmCards::frmCards(const ScreenServices& services, const frmCardsServices& cards
   ctlWager_ = new ctlWager(this, layout(), services.buttons, entry_);
   ctlWager_->WagerClick = [this] { ctlWager_WagerClick(); };
   ctlWager_->EndClick = [this] { EndClick(); };
+  ctlWager_->CreditsClick = [this] { ctlWager_->ShowFilled(entry_.FillFromCredits()); };
+  ctlWager_->WagerInfoClick = [this] { ctlWager_->ShowFilled(entry_.FillFromInfo()); };
   if (cards_.game.isNetwork()) {
     GrowBelow(layout().rect(u"ctlChat").height());
     chat_ = new ctlChat(this, layout(), cards_.network);

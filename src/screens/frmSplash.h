@@ -12,6 +12,7 @@
 #include "presentation/TitleButton.h"
 #include "presentation/WindowDrag.h"
 #include "profile/clsPlayer.h"
+#include "screens/PlayerFiles.h"
 
 class QLabel;
 class QLineEdit;
@@ -87,7 +88,7 @@ class frmSplash final : public Screen {
   void cmdNew2();
 
   const frmSplashServices splash_;
-  std::vector<std::string> players_;  // the list's entries, in its order
+  PlayerFileList lstFiles_;  // behind lstPlayers, entry by entry
   View view_ = View::List;
   bool loaded_ = false;  // the screen stands; the hand-over waits for it
   WindowDrag drag_;
