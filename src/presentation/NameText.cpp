@@ -10,8 +10,9 @@ namespace {
 constexpr double kSmallestPart = 0.68;  // of the font's size
 constexpr int kSmallest = 10;           // layout pixels
 
-bool Fits(const QFont& font, const QString& text, int width) {
-  return QFontMetrics(font).horizontalAdvance(text) <= width;
+// Asked of what cuts it: a name that just fits by its width may still be cut.
+QString Cut(const QFont& font, const QString& text, int width) {
+  return QFontMetrics(font).elidedText(text, Qt::ElideRight, width);
 }
 
 }  // namespace
@@ -20,9 +21,9 @@ void ShowName(QLabel& label, const PropertyBag& look, const QString& name) {
   QFont font = look.font(u"font", label.font());
   const int least = std::max(kSmallest, qRound(font.pixelSize() * kSmallestPart));
   const int room = label.contentsRect().width();
-  while (font.pixelSize() > least && !Fits(font, name, room)) font.setPixelSize(font.pixelSize() - 1);
+  while (font.pixelSize() > least && Cut(font, name, room) != name) font.setPixelSize(font.pixelSize() - 1);
   label.setFont(font);
-  label.setText(QFontMetrics(font).elidedText(name, Qt::ElideRight, room));
+  label.setText(Cut(font, name, room));
   const bool cut = label.text() != name;
   label.setToolTip(cut ? name.toHtmlEscaped() : QString());  // a name is never read as markup
   // A label lets the pointer through, unless it has something to tell it.
