@@ -79,9 +79,11 @@ QImage ReduceBmp(std::span<const std::byte> bytes, int times) {
   const std::size_t bandLength = rows.length * static_cast<std::size_t>(times);
   QByteArray band(reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(rows.begin));
   for (std::size_t i = 0; i < 4; ++i) {
-    band[static_cast<qsizetype>(kHeightAt + i)] = static_cast<char>(static_cast<unsigned>(times) >> 8 * i);
+    band[static_cast<qsizetype>(kHeightAt) + static_cast<qsizetype>(i)] =
+        static_cast<char>(static_cast<unsigned>(times) >> 8 * i);
   }
-  band.resize(static_cast<qsizetype>(rows.begin + bandLength));
+  const std::size_t bandEnd = rows.begin + bandLength;
+  band.resize(static_cast<qsizetype>(bandEnd));
   for (int i = 0; i < reduced.height(); ++i) {
     std::memcpy(band.data() + rows.begin,
                 bytes.data() + rows.begin + bandLength * static_cast<std::size_t>(i), bandLength);

@@ -58,9 +58,10 @@ bool JpegBlocks::Visit(std::span<Component* const> scan, int interval, Block blo
     const int wide = single ? 1 : c.across;
     const int high = single ? 1 : c.down;
     for (int i = 0; i < wide * high; ++i) {
-      const auto y = static_cast<std::size_t>(row * high + i / wide);
-      const auto x = static_cast<std::size_t>(column * wide + i % wide);
-      if (!block(number, c.means[y * c.stride + x])) return false;
+      const int x = column * wide + i % wide;
+      const int y = row * high + i / wide;
+      const std::size_t place = static_cast<std::size_t>(y) * c.stride + static_cast<std::size_t>(x);
+      if (!block(number, c.means[place])) return false;
     }
     return true;
   };
