@@ -11,6 +11,7 @@
 #include <span>
 #include <string>
 
+#include "presentation/BmpBands.h"
 #include "presentation/PictureDecoder.h"
 
 extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t maxSize);
@@ -54,6 +55,15 @@ std::string WholePicture(unsigned which) {
   }
 }
 
+void Check(const kv::SquarePicture& square, int side) {
+  const QImage& image = square.image;
+  if (image.isNull() != (square.fault != kv::PictureFault::None)) std::abort();
+  if (image.isNull()) return;
+  const bool known =
+      image.format() == QImage::Format_RGB32 || image.format() == QImage::Format_ARGB32_Premultiplied;
+  if (!known || image.width() != image.height() || image.width() > side) std::abort();
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
@@ -72,10 +82,10 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const QImage square = kv::DecodeSquare(std::as_bytes(std::span(data, size)), kSide);
-  if (square.isNull()) return 0;
-  const bool known =
-      square.format() == QImage::Format_RGB32 || square.format() == QImage::Format_ARGB32_Premultiplied;
-  if (!known || square.width() != square.height() || square.width() > kSide) std::abort();
+  constexpr int kPhotoSide = 3;  // makes a large photo of these pictures: reduced to an eighth
+  const auto bytes = std::as_bytes(std::span(data, size));
+  Check(kv::DecodeSquare(bytes, kSide), kSide);
+  Check(kv::DecodeSquare(bytes, kPhotoSide), kPhotoSide);
+  (void)kv::ReduceBmp(bytes, 2);  // such an input is never large enough for it
   return 0;
 }

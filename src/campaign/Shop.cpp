@@ -60,8 +60,7 @@ CardCode CollectionCode(const CardPlace& place) {
 }
 
 std::int32_t SellValue(const CardPlace& place) {
-  // 40 % for plus cards, a tenth more for each kind after it.
-  return place.inTable() ? CardPrice(place.kind, place.value) * (place.kind + 3) / 10 : 0;
+  return place.inTable() ? CardPrice(place.kind, place.value) * SellFactor(place.kind) / 100 : 0;
 }
 
 bool Affordable(const CardPlace& place, std::int32_t credits) {

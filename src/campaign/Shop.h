@@ -28,6 +28,11 @@ struct CardPlace {
 /// The card on a place of the collection; the empty code for a place that holds none.
 [[nodiscard]] CardCode CollectionCode(const CardPlace& place);
 
+/// What the shop pays for cards of a kind, in hundredths of their price: 40 for plus cards, ten more for each
+/// kind after them.
+[[nodiscard]] constexpr std::int32_t SellFactor(int kind) {
+  return (kind - 1) * 10 + 40;
+}
 /// What the shop pays for a card, in credits; 0 where there is none.
 [[nodiscard]] std::int32_t SellValue(const CardPlace& place);
 /// Whether these credits can pay for the card.

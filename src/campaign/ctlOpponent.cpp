@@ -9,6 +9,7 @@ namespace {
 
 constexpr std::int16_t kNewTilePortrait = 7;
 constexpr std::int16_t kNoWinsShown = -1;
+// The normal colours; a layout may give warmer ones.
 constexpr QColor kFrame(128, 128, 255);
 constexpr QColor kName(255, 255, 255);
 constexpr QColor kHeading(128, 128, 255);
@@ -104,11 +105,13 @@ void ctlOpponent::Color(const QColor& color) {
 }
 
 void ctlOpponent::unColor() {
-  Paint(*lblOppName_, kName);
-  for (QLabel* heading : {lblMinWager_, lblMaxWager_, lblWinsAgainst_}) Paint(*heading, kHeading);
-  for (QLabel* value : {lblMin_, lblMax_, lblWins_}) Paint(*value, kValue);
-  outerFrame_ = kFrame;
-  innerFrame_ = kGrey;
+  Paint(*lblOppName_, look_.colour(u"name_color", kName));
+  const QColor heading = look_.colour(u"heading_color", kHeading);
+  for (QLabel* label : {lblMinWager_, lblMaxWager_, lblWinsAgainst_}) Paint(*label, heading);
+  const QColor value = look_.colour(u"value_color", kValue);
+  for (QLabel* label : {lblMin_, lblMax_, lblWins_}) Paint(*label, value);
+  outerFrame_ = look_.colour(u"frame_color", kFrame);
+  innerFrame_ = look_.colour(u"picture_frame", kGrey);
   update();
 }
 

@@ -20,8 +20,9 @@ class ctlOpponent final : public QWidget {
   /// Gives the portrait of a number.
   using PortraitSource = std::function<Picture(int number)>;
 
-  /// Lays itself out by the layout's control "ctlOpponent" (size and colours) and those whose names begin
-  /// with "ctlOpponent.". The owner gives it its place.
+  /// Lays itself out by the layout's control "ctlOpponent" (size and colours, its normal ones among them
+  /// where a style has its own) and those whose names begin with "ctlOpponent.". The owner gives it its
+  /// place.
   ctlOpponent(QWidget* parent, Layout& layout, PortraitSource portraits);
 
   /// Takes "enabled", "maxwager", "minwager", "oppname", "opppic" and "wins".

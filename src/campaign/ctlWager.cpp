@@ -21,44 +21,62 @@ constexpr QColor kStandsOut(255, 90, 90);
 }  // namespace
 
 ctlWager::ctlWager(QWidget* parent, Layout& layout, ButtonContext& context, WagerEntry& entry)
-    : QWidget(parent),
-      context_(context),
-      entry_(entry),
-      look_(layout.bag(u"ctlWager")),
-      drgWTitlebar_(layout.rect(u"drgWTitlebar")),
-      highest_(layout.rect(u"ctlTitlebar").height()) {
+    : QWidget(parent), context_(context), entry_(entry) {
   setMouseTracking(true);
-  layout.Place(u"ctlWager", *this);
-  layout.NewLabel(u"lblPrompt", this);
-  lblCredits_ = NewFill(u"lblWagerCredits", layout);
-  lblWagerInfo_ = NewFill(u"lblWagerInfo", layout);
+  lblPrompt_ = new QLabel(this);
+  lblCredits_ = NewFill();
+  lblWagerInfo_ = NewFill();
   txtWager_ = new QLineEdit(this);
-  SkinWidget(*txtWager_, layout.bag(u"txtWager"));
   txtWager_->setMaxLength(kLongestText);
   txtWager_->setAlignment(Qt::AlignCenter);
-  layout.Place(u"txtWager", *txtWager_);
   txtWager_->installEventFilter(this);
   connect(txtWager_, &QLineEdit::textChanged, this, [this] { TextChanged(); });
-  cmdWager_ = NewButton(u"cmdWager", layout, [this] {
+  cmdWager_ = NewButton([this] {
     if (WagerClick) WagerClick();
   });
-  cmdEnd_ = NewButton(u"cmdEnd", layout, [this] {
+  cmdEnd_ = NewButton([this] {
     if (EndClick) EndClick();
   });
+  TakeLayout(layout);
+}
+
+void ctlWager::TakeLayout(Layout& layout) {
+  look_ = layout.bag(u"ctlWager");
+  style_ = look_.text(u"style", style_);
+  drgWTitlebar_ = layout.rect(u"drgWTitlebar");
+  highest_ = layout.rect(u"ctlTitlebar").height();
+  layout.Place(u"ctlWager", *this);
+  layout.Dress(u"lblPrompt", *lblPrompt_);
+  layout.Dress(u"lblWagerCredits", *lblCredits_);
+  layout.Dress(u"lblWagerInfo", *lblWagerInfo_);
+  for (QLabel* label : {lblCredits_, lblWagerInfo_}) {
+    label->setAttribute(Qt::WA_TransparentForMouseEvents, false);
+  }
+  SkinWidget(*txtWager_, layout.bag(u"txtWager"));
+  layout.Place(u"txtWager", *txtWager_);
+  const std::pair<QStringView, ctlButton*> buttons[] = {{u"cmdWager", cmdWager_}, {u"cmdEnd", cmdEnd_}};
+  for (const auto& [control, button] : buttons) {
+    button->ReadProperties(layout.bag(control));
+    layout.Place(control, *button);
+  }
   Refresh();
 }
 
-ctlButton* ctlWager::NewButton(QStringView control, Layout& layout, const std::function<void()>& click) {
+void ctlWager::setStyle(const QString& style) {
+  if (style == style_ || (style != QLatin1String("Slate") && style != QLatin1String("Ember"))) return;
+  Layout layout("frmCards", style.toStdString());
+  TakeLayout(layout);
+  update();
+}
+
+ctlButton* ctlWager::NewButton(const std::function<void()>& click) {
   auto* button = new ctlButton(this, context_);
-  button->ReadProperties(layout.bag(control));
-  layout.Place(control, *button);
   button->Click = click;
   return button;
 }
 
-QLabel* ctlWager::NewFill(QStringView control, Layout& layout) {
-  QLabel* label = layout.NewLabel(control, this);
-  label->setAttribute(Qt::WA_TransparentForMouseEvents, false);
+QLabel* ctlWager::NewFill() {
+  auto* label = new QLabel(this);
   label->setFocusPolicy(Qt::TabFocus);
   label->setCursor(Qt::PointingHandCursor);
   label->installEventFilter(this);
@@ -101,6 +119,11 @@ void ctlWager::ShowBox(const BoxText& box) {
   txtWager_->setCursorPosition(box.cursor);
 }
 
+void ctlWager::ShowFilled(const BoxText& box) {
+  ShowBox(box);
+  txtWager_->setFocus();
+}
+
 bool ctlWager::eventFilter(QObject* watched, QEvent* event) {
   const QEvent::Type type = event->type();
   const bool key = type == QEvent::KeyPress;
@@ -116,8 +139,7 @@ bool ctlWager::eventFilter(QObject* watched, QEvent* event) {
   }
   const bool pressed = type == QEvent::MouseButtonPress || IsEnter(code) || code == Qt::Key_Space;
   if (!pressed || !entry_.boxEnabled()) return key && pressed;
-  ShowBox(watched == lblCredits_ ? entry_.FillFromCredits() : entry_.FillFromInfo());
-  txtWager_->setFocus();
+  if (const std::function<void()> click = watched == lblCredits_ ? CreditsClick : WagerInfoClick) click();
   return true;
 }
 

@@ -22,9 +22,18 @@ class ctlWager final : public QWidget {
 
   std::function<void()> WagerClick;
   std::function<void()> EndClick;
+  /// The credits label and the info label were clicked: each may fill the amount.
+  std::function<void()> CreditsClick;
+  std::function<void()> WagerInfoClick;
+
+  /// "Slate" or "Ember": the layout that the panel has; any other text keeps the style.
+  [[nodiscard]] const QString& Style() const { return style_; }
+  void setStyle(const QString& style);
 
   /// Shows what the entry holds now.
   void Refresh();
+  /// The same after the amount was filled in; the caret goes where the box says, and typing goes on there.
+  void ShowFilled(const BoxText& box);
 
   [[nodiscard]] QLineEdit& gettxtWager() { return *txtWager_; }
   [[nodiscard]] ctlButton& getcmdWager() { return *cmdWager_; }
@@ -40,18 +49,21 @@ class ctlWager final : public QWidget {
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
-  ctlButton* NewButton(QStringView control, Layout& layout, const std::function<void()>& click);
-  QLabel* NewFill(QStringView control, Layout& layout);
+  ctlButton* NewButton(const std::function<void()>& click);
+  QLabel* NewFill();
+  void TakeLayout(Layout& layout);
   void TextChanged();
   void ShowBox(const BoxText& box);
 
   ButtonContext& context_;
   WagerEntry& entry_;
+  QString style_ = QStringLiteral("Slate");
   PropertyBag look_;
   QRect drgWTitlebar_;
-  int highest_;                   // the title bar of the screen stays free
-  std::optional<QPoint> grip_;    // where the drag bar is held
-  QLabel* lblCredits_ = nullptr;  // children
+  int highest_ = 0;              // the title bar of the screen stays free
+  std::optional<QPoint> grip_;   // where the drag bar is held
+  QLabel* lblPrompt_ = nullptr;  // children
+  QLabel* lblCredits_ = nullptr;
   QLabel* lblWagerInfo_ = nullptr;
   QLineEdit* txtWager_ = nullptr;
   ctlButton* cmdWager_ = nullptr;

@@ -5,6 +5,7 @@
 
 #include "match/clsGame.h"
 #include "platform/QtText.h"
+#include "presentation/NameText.h"
 #include "presentation/PanelPainter.h"
 
 namespace kv {
@@ -65,7 +66,8 @@ void frmCampaign::BuildPortrait() {
   layout().Place(u"imgYourPic", *imgYourPic);
   imgYourPic->setPicture(services().portraits.GetPortrait(kOwnPortrait, {}, found));
   imgYourPic->MouseMove = [this] { PlainHighlights(); };
-  imgYourPic->setVisible(!circuit_.Finished());  // the last tile shows it then
+  portraitShown_ = !circuit_.Finished() && !imgYourPic->picture().empty();  // the last tile shows it then
+  imgYourPic->setVisible(portraitShown_);
 }
 
 void frmCampaign::BuildTile(int index) {
@@ -121,7 +123,7 @@ void frmCampaign::Activate() {
 
 void frmCampaign::ShowAccount() {
   const QString name = QString::fromStdString(player_.Name);
-  lblPName_->setText(lblPName_->fontMetrics().elidedText(name, Qt::ElideRight, lblPName_->width()));
+  ShowName(*lblPName_, layout().bag(u"lblPName"), name);
   lblPName_->setAccessibleName(QStringLiteral("Name: ") + name);
   const auto show = [](QLabel& label, const QString& heading, int value) {
     label.setText(QString::number(value));
@@ -198,7 +200,7 @@ void frmCampaign::paintEvent(QPaintEvent* event) {
   PaintPanel(painter, layout().rect(account), layout().bag(account));
   if (circuit_.Finished()) {
     PaintPanel(painter, layout().rect(u"panelDeckWide"), layout().bag(u"panelDeckWide"));
-  } else {
+  } else if (portraitShown_) {
     painter.setPen(layout().bag(u"imgYourPic").colour(u"border_color"));
     painter.drawRect(layout().rect(u"imgYourPic").adjusted(-1, -1, 0, 0));
   }

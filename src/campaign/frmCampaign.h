@@ -56,6 +56,7 @@ class frmCampaign final : public Screen {
   clsPlayer& player_;
   Circuit circuit_;
   bool busy_ = false;  // the next screen is being opened, or the bankruptcy is being told
+  bool portraitShown_ = false;
   std::array<ctlOpponent*, kCircuitTiles> tiles_{};  // children
   std::array<frmCampaignTarget*, kCircuitTiles> targets_{};
   ctlButton* cmdDeck_ = nullptr;

@@ -30,6 +30,8 @@ frmCards::frmCards(const ScreenServices& services, const frmCardsServices& cards
   ctlWager_ = new ctlWager(this, layout(), services.buttons, round_.entry());
   ctlWager_->WagerClick = [this] { round_.ctlWager_WagerClick(); };
   ctlWager_->EndClick = [this] { round_.EndClick(); };
+  ctlWager_->CreditsClick = [this] { ctlWager_->ShowFilled(round_.entry().FillFromCredits()); };
+  ctlWager_->WagerInfoClick = [this] { ctlWager_->ShowFilled(round_.entry().FillFromInfo()); };
   if (cards_.game.isNetwork()) {
     GrowBelow(layout().rect(u"ctlChat").height());
     chat_ = new ctlChat(this, layout(), cards_.network);

@@ -6,6 +6,7 @@
 #include <QColor>
 #include <functional>
 
+#include "platform/Picture.h"
 #include "platform/QtPropertyBag.h"
 
 namespace kv {
@@ -16,8 +17,12 @@ class ctlFlip final : public QAbstractButton {
     Sign,      // imgFlip: plus and minus
     OneOrTwo,  // imgFlip2
   };
-  /// Colours from the bag: "color", "hover_color", "fill_color".
-  ctlFlip(QWidget* parent, Kind kind, const PropertyBag& bag);
+  /// Colours from the bag: "color", "hover_color", "fill_color". `hoverPicture` is what it shows while the
+  /// pointer is over it.
+  ctlFlip(QWidget* parent, Kind kind, const PropertyBag& bag, Picture hoverPicture);
+
+  /// The hover picture of all buttons of a kind, `size` layout pixels large on a screen of this density.
+  [[nodiscard]] static Picture HoverPicture(Kind kind, const PropertyBag& bag, QSize size, double pixelRatio);
 
   std::function<void()> Click;
 
@@ -35,6 +40,7 @@ class ctlFlip final : public QAbstractButton {
   [[nodiscard]] QColor Line() const;
 
   Kind kind_;
+  Picture hoverPicture_;
   QColor color_;
   QColor hoverColor_;
   QColor fillColor_;

@@ -41,6 +41,31 @@ void DrawFrame(QPainter& painter, const QRectF& area, const QColor& color) {
   painter.drawRect(area.adjusted(half, half, -half, -half));
 }
 
+/// Slats of metal, closed, with light from above.
+void DrawShutter(QPainter& painter, const QRectF& area, const QColor& metal) {
+  constexpr double kCorner = 5;
+  constexpr double kRim = 5;
+  constexpr int kSlats = 9;
+  QLinearGradient rim(area.topLeft(), area.bottomRight());
+  rim.setColorAt(0, metal.lighter(150));
+  rim.setColorAt(1, metal.darker(190));
+  painter.setPen(QPen(metal.darker(330), 1));
+  painter.setBrush(rim);
+  painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), kCorner, kCorner);
+  const QRectF inner = area.adjusted(kRim, kRim, -kRim, -kRim);
+  const double height = inner.height() / kSlats;
+  for (int i = 0; i < kSlats; ++i) {
+    const QRectF slat(inner.left(), inner.top() + i * height, inner.width(), height);
+    QLinearGradient light(slat.topLeft(), slat.bottomLeft());
+    light.setColorAt(0, metal.lighter(112));
+    light.setColorAt(0.75, metal.darker(160));
+    light.setColorAt(1, metal.darker(360));
+    painter.fillRect(slat, light);
+  }
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(inner);
+}
+
 }  // namespace
 
 ctlShape::ctlShape(QWidget* parent, Kind kind, const QColor& color)
@@ -55,6 +80,7 @@ void ctlShape::paintEvent(QPaintEvent*) {
   if (kind_ == Kind::Marker) DrawMarker(painter, area, color_);
   if (kind_ == Kind::Footer) DrawFooter(painter, area, color_);
   if (kind_ == Kind::Frame) DrawFrame(painter, area, color_);
+  if (kind_ == Kind::Shutter) DrawShutter(painter, area, color_);
 }
 
 }  // namespace kv

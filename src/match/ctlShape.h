@@ -12,6 +12,7 @@ class ctlShape final : public QWidget {
     Marker,  // a won set
     Footer,  // the line under a row of flip buttons
     Frame,   // around a portrait; drawn outside of it, on all four sides
+    Shutter  // closes the place of a portrait that is hidden, so that no lit frame stands empty
   };
   ctlShape(QWidget* parent, Kind kind, const QColor& color);
 

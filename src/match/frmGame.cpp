@@ -18,6 +18,7 @@ frmGame::frmGame(const frmGameServices& services)
       engine_(services.game, MatchOptionsOf(services.player), *this, services.network, services.booking,
               services.dialogs, services.random) {
   BuildTimers();
+  BuildPanel();
   BuildControls();
   ConnectHand();
   for (int slot = 1; slot <= kHandSize; ++slot) {
@@ -37,12 +38,20 @@ void frmGame::BuildTimers() {
              NewTimer(kQuietInterval, [this] { engine_.QuietTick(); })};
 }
 
+/// Its picture is the window's own, so it draws nothing: the pointer over it is over nothing in particular.
+void frmGame::BuildPanel() {
+  panel_ = new FadeTarget(this);
+  panel_->setObjectName(styleIndex_ == 0 ? QStringLiteral("picSlate") : QStringLiteral("picEmber"));
+  panel_->setGeometry(QRect(QPoint(0, 0), layout().size()));
+  panel_->MouseMove = [this] { PlainHighlights(); };
+}
+
 void frmGame::BuildControls() {
   const MatchGrid& grid = kMatchGrids.at(static_cast<std::size_t>(styleIndex_));
-  player_ = std::make_unique<frmGameSide>(Seat::Player, *this, layout(), services_, grid);
-  opponent_ = std::make_unique<frmGameSide>(Seat::Opponent, *this, layout(), services_, grid);
-  lblWager_ = layout().NewLabel(u"lblWager", this);
-  hand_ = std::make_unique<frmGameHand>(*this, layout(), services_.look, grid);
+  player_ = std::make_unique<frmGameSide>(Seat::Player, *panel_, layout(), services_, grid);
+  opponent_ = std::make_unique<frmGameSide>(Seat::Opponent, *panel_, layout(), services_, grid);
+  lblWager_ = layout().NewLabel(u"lblWager", panel_);
+  hand_ = std::make_unique<frmGameHand>(*panel_, layout(), services_.look, grid);
   cmdTurn_ = NewMatchButton(u"cmdTurn", [this] { engine_.EndTurn(); });
   cmdStand_ = NewMatchButton(u"cmdStand", [this] { engine_.Stand(); });
   cmdForfeit_ = NewMatchButton(u"cmdForfeit", [this] { engine_.Forfeit(); });
@@ -73,7 +82,12 @@ void frmGame::ConnectHand() {
   hand_->Play = [this](int slot) { engine_.PlayHandCard(slot); };
   hand_->FirstFlip = [this](int slot) { engine_.FirstFlip(slot); };
   hand_->SecondFlip = [this](int slot) { engine_.SecondFlip(slot); };
-  hand_->DragStarted = [this] { services_.effects.StopCardPulse(); };
+  // A dragged card goes over the buttons beside the panel, too.
+  hand_->DragStarted = [this] {
+    services_.effects.StopCardPulse();
+    panel_->raise();
+  };
+  hand_->DragEnded = [this] { panel_->lower(); };
   hand_->Hover = [this](ctlCard& card) {
     if (ctlBust_->isHidden()) services_.effects.StartCardPulse(&card);
   };

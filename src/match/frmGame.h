@@ -27,6 +27,9 @@ class frmGame final : public Screen, private MatchView {
 
   [[nodiscard]] MatchEngine& engine() { return engine_; }
   [[nodiscard]] int StyleIndex() const { return styleIndex_; }
+  /// The panel of the style in use, on which cards, names and portraits lie; the other one is null.
+  [[nodiscard]] FadeTarget* picSlate() const { return styleIndex_ == 0 ? panel_ : nullptr; }
+  [[nodiscard]] FadeTarget* picEmber() const { return styleIndex_ == 1 ? panel_ : nullptr; }
   [[nodiscard]] frmGameHand& hand() { return *hand_; }
   [[nodiscard]] frmGameSide& side(Seat seat) { return seat == Seat::Player ? *player_ : *opponent_; }
   [[nodiscard]] ctlButton& cmdTurn() { return *cmdTurn_; }
@@ -57,6 +60,7 @@ class frmGame final : public Screen, private MatchView {
   void Leave() override;
 
   void BuildTimers();
+  void BuildPanel();
   void BuildControls();
   void LeaveNetwork();
   void ConnectHand();
@@ -74,7 +78,8 @@ class frmGame final : public Screen, private MatchView {
   std::unique_ptr<frmGameHand> hand_;
   std::unique_ptr<frmGameSide> player_;
   std::unique_ptr<frmGameSide> opponent_;
-  ctlButton* cmdTurn_ = nullptr;  // children
+  FadeTarget* panel_ = nullptr;  // children, all that follow
+  ctlButton* cmdTurn_ = nullptr;
   ctlButton* cmdStand_ = nullptr;
   ctlButton* cmdForfeit_ = nullptr;
   ctlTitlebar* ctlTitlebar_ = nullptr;

@@ -10,6 +10,11 @@ ctlShape* NewFooter(QStringView control, QWidget& container, Layout& layout) {
   return footer;
 }
 
+Picture NewHoverPicture(QStringView control, ctlFlip::Kind kind, const QWidget& container, Layout& layout) {
+  return ctlFlip::HoverPicture(kind, layout.bag(control), layout.rect(control).size(),
+                               container.devicePixelRatioF());
+}
+
 QPoint PointOf(Spot spot) {
   return {qRound(spot.left), qRound(spot.top)};
 }
@@ -18,6 +23,8 @@ QPoint PointOf(Spot spot) {
 
 frmGameHand::frmGameHand(QWidget& container, Layout& layout, const CardLook& look, const MatchGrid& grid)
     : grid_(grid),
+      imgFlip_On_(NewHoverPicture(u"imgFlip", ctlFlip::Kind::Sign, container, layout)),
+      imgFlip2_On_(NewHoverPicture(u"imgFlip2", ctlFlip::Kind::OneOrTwo, container, layout)),
       footer_(NewFooter(u"imgFlipFooter", container, layout)),
       footer2_(NewFooter(u"imgFlip2Footer", container, layout)) {
   for (int slot = 1; slot <= kHandSize; ++slot) Build(slot, container, layout, look);
@@ -39,7 +46,8 @@ void frmGameHand::Build(int slot, QWidget& container, Layout& layout, const Card
   card->MouseUp = [this, slot](Qt::MouseButton, Qt::KeyboardModifiers, QPoint) { Release(slot); };
 
   const auto newFlip = [&](QStringView control, ctlFlip::Kind kind, const QString& name) {
-    auto* flip = new ctlFlip(&container, kind, layout.bag(control));
+    const Picture& hover = kind == ctlFlip::Kind::Sign ? imgFlip_On_ : imgFlip2_On_;
+    auto* flip = new ctlFlip(&container, kind, layout.bag(control), hover);
     flip->setGeometry(layout.rect(control).translated(card->x(), 0));
     flip->setObjectName(QStringLiteral("%1_%2").arg(control).arg(slot));
     flip->setAccessibleName(name + QStringLiteral(" of ") + place);
@@ -135,6 +143,7 @@ void frmGameHand::PutBack() {
   if (dragged_ == 0) return;
   ctlYourDeck(dragged_).move(home_);
   dragged_ = 0;
+  if (DragEnded) DragEnded();
 }
 
 }  // namespace kv

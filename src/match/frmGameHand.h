@@ -27,6 +27,7 @@ class frmGameHand {
   /// The pointer moves over a card that is not being dragged.
   std::function<void(ctlCard& card)> Hover;
   std::function<void()> DragStarted;
+  std::function<void()> DragEnded;
 
   /// Shows the code in its slot and the flip buttons it needs; an empty code hides both.
   void ShowCard(int slot, const CardCode& code);
@@ -43,6 +44,9 @@ class frmGameHand {
   [[nodiscard]] ctlCard& ctlYourDeck(int slot) const { return *At(slot).card; }
   [[nodiscard]] ctlFlip& imgFlip(int slot) const { return *At(slot).first; }
   [[nodiscard]] ctlFlip& imgFlip2(int slot) const { return *At(slot).second; }
+  /// What a flip button of each row shows while the pointer is over it.
+  [[nodiscard]] const Picture& imgFlip_On() const { return imgFlip_On_; }
+  [[nodiscard]] const Picture& imgFlip2_On() const { return imgFlip2_On_; }
   [[nodiscard]] ctlShape& imgFlipFooter() const { return *footer_; }
   [[nodiscard]] ctlShape& imgFlip2Footer() const { return *footer2_; }
 
@@ -60,6 +64,8 @@ class frmGameHand {
   void Release(int slot);
 
   const MatchGrid& grid_;
+  Picture imgFlip_On_;
+  Picture imgFlip2_On_;
   std::array<Slot, kHandSize> slots_;
   ctlShape* footer_;
   ctlShape* footer2_;

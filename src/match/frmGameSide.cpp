@@ -1,9 +1,12 @@
 #include "match/frmGameSide.h"
 
+#include "presentation/NameText.h"
+
 namespace kv {
 namespace {
 
 constexpr std::string_view kFaceDown = "un";
+constexpr int kLitEdge = 8;  // layout pixels beside a portrait in which the scene shines
 
 QPoint PointOf(Spot spot) {
   return {qRound(spot.left), qRound(spot.top)};
@@ -25,11 +28,11 @@ frmGameSide::frmGameSide(Seat seat, QWidget& container, Layout& layout, const fr
 
 void frmGameSide::BuildLabels(Layout& layout, const frmGameServices& services) {
   const bool player = seat_ == Seat::Player;
-  QLabel* name = layout.NewLabel(player ? u"lblYourName" : u"lblOppName", &container_);
-  // Labels of plain text: a name is never read as markup.
-  name->setTextFormat(Qt::PlainText);
-  name->setText(QString::fromStdString(player ? services.player.Name : services.game.OppName));
-  name->setAccessibleName(name->accessibleName() + QStringLiteral(": ") + name->text());
+  const QStringView control = player ? QStringView(u"lblYourName") : u"lblOppName";
+  const QString shown = QString::fromStdString(player ? services.player.Name : services.game.OppName);
+  QLabel* name = layout.NewLabel(control, &container_);
+  ShowName(*name, layout.bag(control), shown);
+  name->setAccessibleName(name->accessibleName() + QStringLiteral(": ") + shown);
   total_ = layout.NewLabel(player ? u"lblYourTotal" : u"lblOppTotal", &container_);
   ShowTotal(0);
 }
@@ -37,7 +40,11 @@ void frmGameSide::BuildLabels(Layout& layout, const frmGameServices& services) {
 void frmGameSide::BuildPortrait(Layout& layout, const frmGameServices& services) {
   const bool player = seat_ == Seat::Player;
   const QStringView control = player ? QStringView(u"imgYourPic") : QStringView(u"imgOppPic");
-  frame_ = new ctlShape(&container_, ctlShape::Kind::Frame, layout.bag(control).colour(u"color"));
+  const PropertyBag bag = layout.bag(control);
+  shutter_ = new ctlShape(&container_, ctlShape::Kind::Shutter, bag.colour(u"shutter_color"));
+  shutter_->setGeometry(layout.rect(control).adjusted(-kLitEdge, -kLitEdge, kLitEdge, kLitEdge));
+  shutter_->hide();
+  frame_ = new ctlShape(&container_, ctlShape::Kind::Frame, bag.colour(u"color"));
   frame_->setGeometry(layout.rect(control).adjusted(-kFrameWidth, -kFrameWidth, kFrameWidth, kFrameWidth));
   portrait_ = new FadeTarget(&container_);
   portrait_->setPicture(player ? services.game.YourPic : services.game.OppPic);
@@ -137,6 +144,7 @@ void frmGameSide::setHandEnabled(bool enabled) {
 void frmGameSide::HidePortrait() {
   portrait_->hide();
   frame_->hide();
+  shutter_->show();
 }
 
 void frmGameSide::RepaintLight() {

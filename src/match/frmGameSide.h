@@ -31,6 +31,7 @@ class frmGameSide {
   /// Shows or hides a card of the opponent's hand.
   void ShowHandCard(int slot, bool shown);
   void setHandEnabled(bool enabled);
+  /// Closes its place, so that nothing of it is missed.
   void HidePortrait();
   /// Draws the turn light unlit; the lit picture fades over it while it is on.
   void RepaintLight();
@@ -38,6 +39,7 @@ class frmGameSide {
 
   [[nodiscard]] FadeTarget& light() const { return *light_; }
   [[nodiscard]] FadeTarget& portrait() const { return *portrait_; }
+  [[nodiscard]] bool shuttered() const { return !shutter_->isHidden(); }
   [[nodiscard]] QLabel& lblTotal() const { return *total_; }
   [[nodiscard]] const std::vector<ctlCard*>& table() const { return table_; }
   [[nodiscard]] int SetWinsShown() const { return static_cast<int>(markers_.size()); }
@@ -59,6 +61,7 @@ class frmGameSide {
   FadeTarget* light_ = nullptr;
   FadeTarget* portrait_ = nullptr;
   ctlShape* frame_ = nullptr;
+  ctlShape* shutter_ = nullptr;
   Picture lit_;
   Picture unlit_;
   std::vector<ctlCard*> table_;

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "platform/QtText.h"
+#include "presentation/NameText.h"
 #include "presentation/PanelPainter.h"
 #include "presentation/WidgetSkin.h"
 
@@ -105,6 +106,7 @@ void frmNetwork::ShowPlayer() {
     label->setAccessibleName(heading + QStringLiteral(": ") + value);
   };
   show(lblName_, QStringLiteral("Name"), QString::fromStdString(player.Name));
+  ShowName(*lblName_, layout().bag(u"lblName"), QString::fromStdString(player.Name));
   show(lblCredits_, QStringLiteral("Credits"), QString::number(player.Credits_MP->Value));
   show(lblWins_, QStringLiteral("Wins"), QString::number(player.Wins_MP->Value));
   show(lblLosses_, QStringLiteral("Losses"), QString::number(player.Losses_MP->Value));

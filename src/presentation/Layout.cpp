@@ -72,19 +72,23 @@ void Layout::Place(QStringView control, QWidget& widget) {
 }
 
 QLabel* Layout::NewLabel(QStringView control, QWidget* parent) {
-  const PropertyBag properties = bag(control);
   auto* label = new QLabel(parent);
-  label->setTextFormat(Qt::PlainText);
-  label->setText(properties.text(u"caption"));
-  label->setFont(properties.font(u"font", label->font()));
-  label->setAlignment(AlignmentOf(properties.text(u"align")));
-  label->setWordWrap(properties.flag(u"wrap"));
-  label->setAttribute(Qt::WA_TransparentForMouseEvents);
-  QPalette palette = label->palette();
-  palette.setColor(QPalette::WindowText, properties.colour(u"color", Qt::white));
-  label->setPalette(palette);
-  Place(control, *label);
+  Dress(control, *label);
   return label;
+}
+
+void Layout::Dress(QStringView control, QLabel& label) {
+  const PropertyBag properties = bag(control);
+  label.setTextFormat(Qt::PlainText);
+  label.setText(properties.text(u"caption"));
+  label.setFont(properties.font(u"font", label.font()));
+  label.setAlignment(AlignmentOf(properties.text(u"align")));
+  label.setWordWrap(properties.flag(u"wrap"));
+  label.setAttribute(Qt::WA_TransparentForMouseEvents);
+  QPalette palette = label.palette();
+  palette.setColor(QPalette::WindowText, properties.colour(u"color", Qt::white));
+  label.setPalette(palette);
+  Place(control, label);
 }
 
 }  // namespace kv

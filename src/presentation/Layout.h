@@ -34,6 +34,8 @@ class Layout {
   /// A label with the caption, font, colour and alignment of the bag, placed; owned by `parent`. The pointer
   /// goes through it to what lies below.
   QLabel* NewLabel(QStringView control, QWidget* parent);
+  /// The same for a label of another kind, which exists already.
+  void Dress(QStringView control, QLabel& label);
 
  private:
   QSize size_;

@@ -22,6 +22,13 @@ struct PortraitOwner {
   int portrait = kDefaultPortrait;
 };
 
+/// What a player's own picture comes to.
+struct OwnPicture {
+  Picture picture;
+  /// Why the file of that name is not shown, as a sentence for the player; empty when it is or there is none.
+  std::string refusal;
+};
+
 class Portraits {
  public:
   /// `folder` is where own pictures lie; `owner` is asked at every call.
@@ -37,8 +44,12 @@ class Portraits {
   [[nodiscard]] std::vector<Picture> GetReduced(std::span<const int> numbers, std::string_view name,
                                                 int side) const;
 
+  /// The own picture for a player file named `name` (without extension; the current player's when empty), or
+  /// why it is refused.
+  [[nodiscard]] OwnPicture LookUp(std::string_view name) const;
+
  private:
-  [[nodiscard]] Picture OwnPicture(std::string_view name) const;
+  [[nodiscard]] OwnPicture ReadOwn(const std::string& file) const;
 
   Pictures& pictures_;
   std::string folder_;

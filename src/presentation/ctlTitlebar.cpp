@@ -1,11 +1,12 @@
 #include "presentation/ctlTitlebar.h"
 
-#include <QMouseEvent>
+#include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
 
 #include "presentation/RoundWindow.h"
 #include "presentation/TitleButton.h"
+#include "presentation/TitleDrag.h"
 #include "profile/clsPlayer.h"
 
 namespace kv {
@@ -38,16 +39,25 @@ QPainterPath Outline(const QRectF& r, double radius) {
 ctlTitlebar::ctlTitlebar(QWidget* parent, ButtonContext& context)
     : QWidget(parent),
       context_(context),
+      lblTitlebar_(new QLabel(this)),
+      drgTitlebar_(new TitleDrag(this)),
       quit_(new TitleButton(this, TitleButton::Sign::Close)),
       mini_(new TitleButton(this, TitleButton::Sign::Minimise)) {
-  setMouseTracking(true);
+  lblTitlebar_->setObjectName(QStringLiteral("lblTitlebar"));
+  lblTitlebar_->setTextFormat(Qt::PlainText);
+  lblTitlebar_->setAlignment(Qt::AlignCenter);
+  drgTitlebar_->setObjectName(QStringLiteral("drgTitlebar"));
   quit_->setObjectName(QStringLiteral("cmdQuit"));
   quit_->setAccessibleName(QStringLiteral("Close"));
   mini_->setObjectName(QStringLiteral("cmdMini"));
   mini_->setAccessibleName(QStringLiteral("Minimize"));
   quit_->setColor(kQuitIdle);
   setBorder_Color(kDefaultBorder);
+  ConnectParts();
+}
 
+void ctlTitlebar::ConnectParts() {
+  drgTitlebar_->Moved = [this] { PointerMoved(); };
   quit_->Moved = [this] {
     if (QuitColor() != QColor(kQuitIdle)) return;
     quit_->setColor(kQuitHot);
@@ -71,14 +81,20 @@ void ctlTitlebar::unColorQuit() {
 }
 
 void ctlTitlebar::setCaption(const QString& caption) {
-  caption_ = caption;
+  lblTitlebar_->setText(caption);
   setAccessibleName(caption);
-  update();
+}
+
+QString ctlTitlebar::Caption() const {
+  return lblTitlebar_->text();
 }
 
 void ctlTitlebar::setBorder_Color(const QColor& color) {
   borderColor_ = color;
   mini_->setColor(color);
+  QPalette palette = lblTitlebar_->palette();
+  palette.setColor(QPalette::WindowText, color.lighter(210));
+  lblTitlebar_->setPalette(palette);
   update();
 }
 
@@ -92,6 +108,8 @@ void ctlTitlebar::ReadProperties(const PropertyBag& bag) {
 }
 
 void ctlTitlebar::Relayout() {
+  lblTitlebar_->setGeometry(rect());
+  drgTitlebar_->setGeometry(rect());
   const int top = (height() - kButtonSize) / 2;
   quit_->setGeometry(width() - kRightMargin - kButtonSize, top, kButtonSize, kButtonSize);
   mini_->setGeometry(quit_->x() - kGap - kButtonSize, top, kButtonSize, kButtonSize);
@@ -103,6 +121,10 @@ void ctlTitlebar::Relayout() {
 void ctlTitlebar::setButtonFocus(Qt::FocusPolicy policy) {
   quit_->setFocusPolicy(policy);
   mini_->setFocusPolicy(policy);
+}
+
+QWidget& ctlTitlebar::drgTitlebar() const {
+  return *drgTitlebar_;
 }
 
 QAbstractButton& ctlTitlebar::cmdQuit() const {
@@ -133,8 +155,6 @@ void ctlTitlebar::paintEvent(QPaintEvent*) {
   inner.setAlpha(90);
   painter.setPen(QPen(inner, 1));
   painter.drawPath(Outline(bar.adjusted(2, 2, -2, -2), kCornerRadius - 2));
-  painter.setPen(borderColor_.lighter(210));
-  painter.drawText(rect(), Qt::AlignCenter, caption_);
 }
 
 void ctlTitlebar::resizeEvent(QResizeEvent*) {
@@ -149,19 +169,6 @@ void ctlTitlebar::showEvent(QShowEvent*) {
 void ctlTitlebar::PointerMoved() {
   unColorQuit();
   if (MouseMove) MouseMove();
-}
-
-void ctlTitlebar::mousePressEvent(QMouseEvent* event) {
-  drag_.Press(*window(), *event);
-}
-
-void ctlTitlebar::mouseMoveEvent(QMouseEvent* event) {
-  drag_.Move(*window(), *event);
-  PointerMoved();
-}
-
-void ctlTitlebar::mouseReleaseEvent(QMouseEvent*) {
-  drag_.Release();
 }
 
 }  // namespace kv

@@ -7,13 +7,14 @@
 
 #include "platform/QtPropertyBag.h"
 #include "presentation/ButtonContext.h"
-#include "presentation/WindowDrag.h"
 
 class QAbstractButton;
+class QLabel;
 
 namespace kv {
 
 class TitleButton;
+class TitleDrag;
 
 class ctlTitlebar final : public QWidget {
  public:
@@ -27,7 +28,7 @@ class ctlTitlebar final : public QWidget {
   /// The close button back to idle. Call it when the pointer moves over the window's background.
   void unColorQuit();
 
-  [[nodiscard]] QString Caption() const { return caption_; }
+  [[nodiscard]] QString Caption() const;
   void setCaption(const QString& caption);
   [[nodiscard]] bool Enabled() const { return isEnabled(); }
   [[nodiscard]] QFont Font() const { return font(); }
@@ -41,7 +42,10 @@ class ctlTitlebar final : public QWidget {
   /// The close and the minimise button are not reached by Tab unless this is set.
   void setButtonFocus(Qt::FocusPolicy policy);
 
-  /// The parts, for the keyboard and for tests.
+  /// The parts, for the keyboard and for tests: what is written on the bar, the area over it by which the
+  /// window is dragged, and the two buttons at its right end.
+  [[nodiscard]] QLabel& lblTitlebar() const { return *lblTitlebar_; }
+  [[nodiscard]] QWidget& drgTitlebar() const;
   [[nodiscard]] QAbstractButton& cmdQuit() const;
   [[nodiscard]] QAbstractButton& cmdMini() const;
   /// The colour of the close button at this moment.
@@ -51,18 +55,16 @@ class ctlTitlebar final : public QWidget {
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override;
-  void mouseMoveEvent(QMouseEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
+  void ConnectParts();
   void PointerMoved();
 
   ButtonContext& context_;
-  WindowDrag drag_;
-  QString caption_;
   QColor borderColor_;
-  TitleButton* quit_;  // children, owned by the bar
+  QLabel* lblTitlebar_;  // children, owned by the bar; the later ones lie over the others
+  TitleDrag* drgTitlebar_;
+  TitleButton* quit_;
   TitleButton* mini_;
   bool miniInLayout_ = true;
 };

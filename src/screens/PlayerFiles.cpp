@@ -24,10 +24,13 @@ std::string PlayerPath(const std::string& folder, std::string_view name) {
   return (folder.empty() ? std::string() : folder + "/") + std::string(name) + std::string(kEnding);
 }
 
-std::vector<std::string> ListPlayers(const std::string& folder) {
-  std::vector<std::string> names = List(folder, "*" + std::string(kEnding));
-  for (std::string& name : names) name.resize(name.size() - kEnding.size());
-  return names;
+void PlayerFileList::Refresh() {
+  files_ = List(folder_, "*" + std::string(kEnding));
+}
+
+std::string PlayerFileList::Player(std::size_t index) const {
+  const std::string& file = files_.at(index);
+  return file.substr(0, file.size() - kEnding.size());
 }
 
 bool IsValidFileName(std::string_view name) {

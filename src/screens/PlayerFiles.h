@@ -13,9 +13,22 @@ namespace kv {
 /// The file of a player in `folder` (empty: the current one).
 [[nodiscard]] std::string PlayerPath(const std::string& folder, std::string_view name);
 
-/// The names of all player files in `folder`, in the order of an index. Whether they can be loaded is not
-/// known.
-[[nodiscard]] std::vector<std::string> ListPlayers(const std::string& folder);
+/// The player files of a folder, as they were when it was read last. Whether they can be loaded is not known.
+class PlayerFileList {
+ public:
+  explicit PlayerFileList(std::string folder) : folder_(std::move(folder)) {}
+
+  /// Reads the folder again.
+  void Refresh();
+  /// File names with their ending, in the order of an index.
+  [[nodiscard]] const std::vector<std::string>& files() const { return files_; }
+  /// The name of the player in file `index`: less its ending.
+  [[nodiscard]] std::string Player(std::size_t index) const;
+
+ private:
+  std::string folder_;
+  std::vector<std::string> files_;
+};
 
 /// False for a text with one of the nine characters \ / : * ? " < > | and for every other name that cannot
 /// stand in the folder: with a control character, too long, or ending in a dot or blank ("." and ".." are

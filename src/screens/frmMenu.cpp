@@ -7,6 +7,7 @@
 
 #include "match/clsGame.h"
 #include "presentation/PanelPainter.h"
+#include "screens/CountLabel.h"
 #include "screens/MenuTexts.h"
 
 namespace kv {
@@ -46,9 +47,12 @@ void frmMenu::BuildControls() {
   ctlTitlebar_ = NewTitlebar();
   ctlTitlebar_->Quit = [this] { LeaveProgram(); };
   for (const char16_t* description : kDescriptions) layout().NewLabel(description, this);
-  lblArcadeHigh_ = layout().NewLabel(u"lblArcadeHigh", this);
-  lblSPStats_ = layout().NewLabel(u"lblSPStats", this);
-  lblMPStats_ = layout().NewLabel(u"lblMPStats", this);
+  const std::pair<QStringView, QLabel**> counts[] = {
+      {u"lblArcadeHigh", &lblArcadeHigh_}, {u"lblSPStats", &lblSPStats_}, {u"lblMPStats", &lblMPStats_}};
+  for (const auto& [control, label] : counts) {
+    *label = new CountLabel(this);
+    layout().Dress(control, **label);
+  }
 }
 
 ctlButton* frmMenu::NewMenuButton(QStringView control, void (frmMenu::*open)()) {

@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "platform/QtKeys.h"
+#include "platform/QtText.h"
 #include "presentation/PanelPainter.h"
 #include "presentation/PictureSizes.h"
 
@@ -91,6 +92,7 @@ void frmPortraits::BuildControls() {
   layout().NewLabel(u"lblKeys", this);
   lblOverride_ = layout().NewLabel(u"lblOverride", this);
   lblHint_ = layout().NewLabel(u"lblHint", this);
+  lblRefusal_ = layout().NewLabel(u"lblRefusal", this);
   cmdOK_ = NewButton(u"cmdOK", [this] { Confirm(); });
   ctlTitlebar_ = NewTitlebar();
   ctlTitlebar_->Quit = [this] { LeaveProgram(); };
@@ -98,12 +100,15 @@ void frmPortraits::BuildControls() {
 }
 
 void frmPortraits::ShowOverride() {
-  bool found = false;
-  const Picture own = services().portraits.GetPortrait(kOwnPortrait, "", found);
-  if (found) imgOverride_->setPicture(own);
+  const OwnPicture own = services().portraits.LookUp("");
+  const bool found = !own.picture.empty();
+  if (found) imgOverride_->setPicture(own.picture);
   imgOverride_->setVisible(found);
   lblOverride_->setVisible(found);
-  lblHint_->setVisible(!found);
+  lblHint_->setVisible(!found && own.refusal.empty());
+  lblRefusal_->setVisible(!own.refusal.empty());
+  lblRefusal_->setText(ToQString(own.refusal));
+  lblRefusal_->setAccessibleName(lblRefusal_->text());
 }
 
 void frmPortraits::Activate() {

@@ -36,6 +36,7 @@ class frmPortraits final : public Screen {
   [[nodiscard]] FadeTarget& imgSelected() { return *imgSelected_; }
   [[nodiscard]] FadeTarget& imgOverride() { return *imgOverride_; }
   [[nodiscard]] QLabel& lblOverride() { return *lblOverride_; }
+  [[nodiscard]] QLabel& lblRefusal() { return *lblRefusal_; }
   [[nodiscard]] ctlButton& cmdOK() { return *cmdOK_; }
   [[nodiscard]] ctlTitlebar& titlebar() { return *ctlTitlebar_; }
 
@@ -62,6 +63,7 @@ class frmPortraits final : public Screen {
   FadeTarget* imgOverride_ = nullptr;
   QLabel* lblOverride_ = nullptr;
   QLabel* lblHint_ = nullptr;
+  QLabel* lblRefusal_ = nullptr;  // why the own picture is not shown
   ctlButton* cmdOK_ = nullptr;
   ctlTitlebar* ctlTitlebar_ = nullptr;
 };

@@ -26,6 +26,7 @@ constexpr const char* kAddress = "http://kelm-vantri.example";
 frmSplash::frmSplash(const ScreenServices& services, const frmSplashServices& splash, std::string_view style)
     : Screen(services, "frmSplash", style),
       splash_(splash),
+      lstFiles_(splash.workingFolder),
       tmrLoadWatch_(NewTimer(kLoadWatchInterval, [this] { LoadWatchTick(); })) {
   setWindowTitle(QStringLiteral("Kelm Vantri"));
   BuildList();

@@ -10,6 +10,7 @@
 #include "presentation/Screen.h"
 #include "presentation/WindowDrag.h"
 #include "screens/frmSplashServices.h"
+#include "screens/PlayerFiles.h"
 
 class QLabel;
 class QListWidget;
@@ -68,8 +69,8 @@ class frmSplash final : public Screen {
   void EnterStep();
 
   const frmSplashServices splash_;
-  std::vector<std::string> players_;  // the list's entries, in its order
-  bool loaded_ = false;               // the screen stands; the hand-over waits for it
+  PlayerFileList lstFiles_;  // behind lstPlayers, entry by entry
+  bool loaded_ = false;      // the screen stands; the hand-over waits for it
   WindowDrag drag_;
   std::unique_ptr<frmSplashTitle> title_;
   std::unique_ptr<frmSplashCreation> creation_;

@@ -18,12 +18,14 @@ constexpr const char* kErrorTitle = "Kelm Vantri: Error";
 }  // namespace
 
 void frmSplash::RefreshPlayerList() {
-  players_ = ListPlayers(splash_.workingFolder);
+  lstFiles_.Refresh();
   QStringList entries;
-  for (const std::string& name : players_) entries.append(QString::fromStdString(name));
+  for (std::size_t i = 0; i < lstFiles_.files().size(); ++i) {
+    entries.append(QString::fromStdString(lstFiles_.Player(i)));
+  }
   lstPlayers_->clear();
   lstPlayers_->addItems(entries);
-  const bool any = !players_.empty();
+  const bool any = !lstFiles_.files().empty();
   lstPlayers_->setEnabled(any);
   cmdContinue_->setEnabled(any);
   if (any) lstPlayers_->setCurrentRow(0);
@@ -67,8 +69,8 @@ void frmSplash::Continue() {
   // A fresh record each time: nothing of a failed attempt can be left in it.
   std::unique_ptr<clsPlayer> player = splash_.newPlayer();
   player->PIN = txtPIN_->PIN();
-  const bool failed =
-      player->LoadPlayerFile(PlayerPath(splash_.workingFolder, players_[static_cast<std::size_t>(row)]));
+  const bool failed = player->LoadPlayerFile(
+      PlayerPath(splash_.workingFolder, lstFiles_.Player(static_cast<std::size_t>(row))));
   if (closing()) return;
   if (failed) {
     LoadFailed();
@@ -102,9 +104,11 @@ void frmSplash::Create() {
 }
 
 void frmSplash::SelectPlayer(const std::string& name, const std::string& pin) {
-  const auto found = std::ranges::find(players_, name);
-  if (found == players_.end()) return;
-  lstPlayers_->setCurrentRow(static_cast<int>(found - players_.begin()));
+  const auto& files = lstFiles_.files();
+  std::size_t row = 0;
+  while (row < files.size() && lstFiles_.Player(row) != name) ++row;
+  if (row == files.size()) return;
+  lstPlayers_->setCurrentRow(static_cast<int>(row));
   txtPIN_->setPIN(pin);
 }
 

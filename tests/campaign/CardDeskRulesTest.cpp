@@ -45,6 +45,7 @@ TEST_F(CardDeskRulesTest, PlacesAndPricesOfEveryCard) {
     EXPECT_EQ(place, row.place) << row.code;
     EXPECT_EQ(CardPrice(place.kind, place.value), row.buy) << row.code;
     EXPECT_EQ(SellValue(place), row.sell) << row.code;
+    EXPECT_EQ(row.buy * SellFactor(place.kind) / 100, row.sell) << row.code;
     EXPECT_EQ(Affordable(place, row.buy), row.buy > 0) << row.code;
     EXPECT_FALSE(Affordable(place, row.buy - 1)) << row.code;
   }

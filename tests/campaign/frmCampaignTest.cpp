@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QLabel>
+
 #include "campaign/frmCampaign.h"
 #include "match/clsGame.h"
 #include "support/ScreenHand.h"
@@ -113,6 +115,39 @@ TEST_F(frmCampaignTest, DeckButtonAndCloseButtonLeave) {
   hand->Click(screen->titlebar().cmdQuit());
   hand->Click(*screen->cmdOpp(0));
   EXPECT_THAT(stage.recorded.calls, ElementsAre("OpenMenu"));
+}
+
+TEST_F(frmCampaignTest, ATileHasTheColoursOfItsStyle) {
+  const auto colour = [this](const char* label) {
+    const auto& tile = screen->ctlOpp(0);
+    return tile.findChild<QLabel*>(QString::fromLatin1(label))->palette().color(QPalette::WindowText);
+  };
+  Open(100);
+  EXPECT_EQ(screen->ctlOpp(0).FrameColor(), QColor(128, 128, 255));
+  EXPECT_EQ(colour("lblMaxWager"), QColor(128, 128, 255));
+  EXPECT_EQ(colour("lblMax"), QColor(0, 169, 251));
+  stage.player.Interface_Opt = "Ember";
+  Open(100);
+  for (const QColor& warm :
+       {screen->ctlOpp(0).FrameColor(), colour("lblMaxWager"), colour("lblMax"), colour("lblWins")}) {
+    EXPECT_GT(warm.red(), warm.blue() + 50);
+  }
+}
+
+TEST_F(frmCampaignTest, TheAccountHasRoomForTheLargestNumbersAndTheLongestName) {
+  stage.player.Name = std::string(20, 'W');
+  stage.player.Losses->Value = stage.player.Wins->Value = 32767;
+  for (const char* style : {"Slate", "Ember"}) {
+    stage.player.Interface_Opt = style;
+    for (const int orrin : {0, 10}) {
+      Open(2'000'000'000, {0, 0, 0, 0, orrin});
+      for (const char* name : {"lblPName", "lblPCredits", "lblPWins", "lblPLosses", "lblLosses", "lblWins"}) {
+        const auto& label =
+            *screen->findChild<QLabel*>(QString::fromLatin1(name), Qt::FindDirectChildrenOnly);
+        EXPECT_LE(label.fontMetrics().horizontalAdvance(label.text()), label.width()) << style << name;
+      }
+    }
+  }
 }
 
 TEST_F(frmCampaignTest, HighlightFollowsThePointerAndTheFocus) {

@@ -111,6 +111,25 @@ TEST_P(CardsScreenTest, TheAmountBoxTakesWhatMayBeStakedAndNothingElse) {
   EXPECT_NE(game.SideDeck, nullptr);
 }
 
+TEST_P(CardsScreenTest, TheWagerPanelTellsOfClicksAndTakesTheLayoutOfItsStyle) {
+  Open(kModeArcade);
+  ctlWager& panel = screen->wager();
+  EXPECT_EQ(panel.Style(), QString::fromLatin1(GetParam()));
+  std::string clicks;
+  panel.CreditsClick = [&clicks] { clicks += "credits "; };
+  panel.WagerInfoClick = [&clicks] { clicks += "info"; };
+  Click(panel.getlblCredits());
+  Click(panel.getlblWagerInfo());
+  EXPECT_EQ(clicks, "credits info");
+  EXPECT_TRUE(panel.gettxtWager().text().isEmpty()) << "the panel decides nothing";
+  panel.gettxtWager().setText(QStringLiteral("12"));
+  const bool ember = panel.Style() == QStringLiteral("Ember");
+  panel.setStyle(QStringLiteral("Marble"));
+  panel.setStyle(ember ? QStringLiteral("Slate") : QStringLiteral("Ember"));
+  EXPECT_EQ(panel.width(), Layout("frmCards", ember ? "Slate" : "Ember").rect(u"ctlWager").width());
+  EXPECT_EQ(panel.gettxtWager().text(), QStringLiteral("12"));
+}
+
 TEST_P(CardsScreenTest, CardsGoIntoTheDeckAndBackAndOnlyAFullOneContinues) {
   Open(kModeArcade);
   Click(*screen->Bank({1, 1}));  // no stake yet: nothing happens, and the amount is still what is typed

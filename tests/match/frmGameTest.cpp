@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QPainter>
 
 #include "match/MatchScreenTest.h"
 #include "match/frmGame.h"
@@ -38,12 +39,55 @@ TEST_P(frmGameTest, OpensAsItsLayoutSays) {
 
 TEST_P(frmGameTest, NothingIsCutOffOrOutside) {
   MatchScreen match(Setup());
-  for (const QWidget* child : match.screen->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
-    EXPECT_TRUE(match.screen->rect().contains(child->geometry())) << child->objectName().toStdString();
+  for (const QWidget* child : match.screen->findChildren<QWidget*>()) {
+    const QRect place(child->mapTo(match.screen.get(), QPoint(0, 0)), child->size());
+    EXPECT_TRUE(match.screen->rect().contains(place)) << child->objectName().toStdString();
   }
   for (const QLabel* label : match.screen->findChildren<QLabel*>()) {
     EXPECT_LE(label->fontMetrics().height(), label->height() + 2) << label->objectName().toStdString();
   }
+}
+
+TEST_P(frmGameTest, ALongNameIsSetSmallerOrCutAtItsEndWithTheWholeToBeAskedFor) {
+  const struct {
+    QString name;
+    bool cut;
+  } cases[] = {{QStringLiteral("Ann"), false},
+               {QStringLiteral("Alexandra Hohenstein"), false},
+               {QStringLiteral("WWWWWWWWWWWWWWWWWWW<"), true}};
+  for (const auto& [name, cut] : cases) {
+    MatchScreenSetup setup = Setup({4});
+    setup.options = [&name = name](clsPlayer& player) { player.Name = name.toStdString(); };
+    MatchScreen match(setup);
+    match.Begin();
+    const auto& label = *match.screen->findChild<QLabel*>(QStringLiteral("lblYourName"));
+    EXPECT_LE(label.fontMetrics().horizontalAdvance(label.text()), label.width()) << name.toStdString();
+    EXPECT_EQ(label.text() != name, cut) << name.toStdString();
+    EXPECT_EQ(label.text().front(), name.front());
+    EXPECT_EQ(label.toolTip(), cut ? name.toHtmlEscaped() : QString());
+    EXPECT_TRUE(label.accessibleName().endsWith(name));
+  }
+}
+
+TEST_P(frmGameTest, CardsNamesAndPortraitsLieOnThePanelOfTheStyle) {
+  MatchScreen& match = Begin({4});
+  const FadeTarget* panel = StyleIndex() == 0 ? match.screen->picSlate() : match.screen->picEmber();
+  ASSERT_NE(panel, nullptr);
+  EXPECT_EQ(StyleIndex() == 0 ? match.screen->picEmber() : match.screen->picSlate(), nullptr);
+  for (const QWidget* on : std::initializer_list<const QWidget*>{
+           &match.screen->hand().ctlYourDeck(1), &match.screen->side(Seat::Opponent).ctlOppDeck(4),
+           match.screen->side(Seat::Player).table().at(0), &match.screen->side(Seat::Opponent).portrait()}) {
+    EXPECT_EQ(on->parentWidget(), panel) << on->objectName().toStdString();
+  }
+  // A card that is dragged goes over the buttons beside the panel, which are in front of it again afterwards.
+  ScreenHand hand(*match.screen);
+  const ctlCard& card = match.screen->hand().ctlYourDeck(1);
+  const QPoint over = hand.CentreOf(match.screen->cmdStand());
+  hand.Press(hand.CentreOf(card));
+  hand.MoveTo(over);
+  EXPECT_EQ(match.screen->childAt(over), &card);
+  hand.Release(over);
+  EXPECT_EQ(match.screen->childAt(over), &match.screen->cmdStand());
 }
 
 TEST_P(frmGameTest, AWholeSetWithTheMouse) {
@@ -149,6 +193,16 @@ TEST_P(frmGameTest, FlipButtons) {
 
   hand.MoveTo(hand.CentreOf(cards.imgFlip(2)));
   EXPECT_TRUE(cards.imgFlip(2).hovered());
+  // Without the rounded border, through which the panel shines.
+  const auto shown = [](ctlFlip& flip) {
+    return flip.grab(flip.rect().adjusted(3, 3, -3, -3)).toImage().convertToFormat(QImage::Format_RGB32);
+  };
+  const auto pictured = [](ctlFlip& flip, const Picture& picture) {
+    return picture.image()->copy(flip.rect().adjusted(3, 3, -3, -3)).convertToFormat(QImage::Format_RGB32);
+  };
+  EXPECT_EQ(shown(cards.imgFlip(2)), pictured(cards.imgFlip(2), cards.imgFlip_On()));
+  EXPECT_NE(shown(cards.imgFlip(3)), pictured(cards.imgFlip(3), cards.imgFlip_On())) << "a plain one";
+  EXPECT_NE(shown(cards.imgFlip2(4)), pictured(cards.imgFlip2(4), cards.imgFlip2_On()));
   hand.Click(cards.imgFlip(2));
   EXPECT_EQ(cards.ctlYourDeck(2).Card(), "fm2");
   hand.Click(cards.imgFlip2(4));
@@ -223,10 +277,13 @@ TEST_P(frmGameTest, PortraitsAndLights) {
   FadeTarget& theirs = match.screen->side(Seat::Opponent).portrait();
   hand.Click(yours);
   EXPECT_TRUE(yours.isVisible());
+  EXPECT_FALSE(match.screen->side(Seat::Player).shuttered());
   hand.DoubleClick(yours);
   EXPECT_FALSE(yours.isVisible());
+  EXPECT_TRUE(match.screen->side(Seat::Player).shuttered()) << "no lit frame stands empty";
   hand.Click(theirs);
   EXPECT_FALSE(theirs.isVisible());
+  EXPECT_TRUE(match.screen->side(Seat::Opponent).shuttered());
 
   EXPECT_TRUE(match.globals.effects.fading());
   hand.Click(match.screen->cmdTurn());

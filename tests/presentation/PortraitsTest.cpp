@@ -119,7 +119,7 @@ TEST_F(PortraitsTest, HostileFilesFallBackToTheBuiltInPortrait) {
       {"a.jpg", small, true},
       {"b.jpg", large, true},
       {"photo.jpg", Jpeg(4800, 300), true},
-      {"beyond.jpg", Forged(small, '\xC0', 8000, 1), false},
+      {"beyond.jpg", Forged(small, '\xC0', 8190, 1), false},
       {"empty.jpg", "", false},
       {"text.bmp", "BM no picture", false},
       {"script.gif", "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>", false},
@@ -136,7 +136,7 @@ TEST_F(PortraitsTest, HostileFilesFallBackToTheBuiltInPortrait) {
       {"frame.gif", Gif(1, 65535), true},  // cut to its screen
       {"unset.gif", Gif(0, 65535), false},
       {"fine.gif", Gif(1, 1), true},
-      {"fat.bmp", std::string(17 << 20, 'B'), false},
+      {"fat.bmp", std::string(41 << 20, 'B'), false},
   };
   for (const Case& c : cases) {
     folder.Put(c.name, c.bytes);

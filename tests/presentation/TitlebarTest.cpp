@@ -48,28 +48,39 @@ TEST_F(TitlebarTest, TheCloseButtonShowsItsStateAndAsksToQuit) {
 
 TEST_F(TitlebarTest, TheDragAreaTakesTheHighlightFromTheCloseButton) {
   Hover(bar.cmdQuit(), kOnQuit);
-  Hover(bar, QPoint(100, 10));
+  Hover(bar.drgTitlebar(), QPoint(100, 10));
   EXPECT_EQ(bar.QuitColor(), kIdle);
   EXPECT_EQ(moves, 1);
+}
+
+TEST_F(TitlebarTest, EveryPlaceOfTheBarBelongsToItsDragAreaOrAButton) {
+  window.show();
+  for (const int width : {786, 1024}) {
+    bar.resize(width, 30);
+    for (const QPoint at : {QPoint(0, 0), QPoint(width / 2, 15), QPoint(width - 1, 29)}) {
+      EXPECT_EQ(bar.childAt(at), &bar.drgTitlebar()) << at.x();
+    }
+    EXPECT_EQ(bar.childAt(bar.cmdQuit().geometry().center()), &bar.cmdQuit());
+  }
 }
 
 TEST_F(TitlebarTest, DraggingTheBarMovesTheWindow) {
   window.move(50, 60);
   window.show();
   const QPoint start = window.pos();
-  Press(bar, QPoint(100, 10));
-  Point(bar, QEvent::MouseMove, QPoint(101, 11), Qt::NoButton, Qt::LeftButton);
+  Press(bar.drgTitlebar(), QPoint(100, 10));
+  Point(bar.drgTitlebar(), QEvent::MouseMove, QPoint(101, 11), Qt::NoButton, Qt::LeftButton);
   EXPECT_EQ(window.pos(), start) << "a click by a hand that trembles";
-  Point(bar, QEvent::MouseMove, QPoint(130, 25), Qt::NoButton, Qt::LeftButton);
+  Point(bar.drgTitlebar(), QEvent::MouseMove, QPoint(130, 25), Qt::NoButton, Qt::LeftButton);
   EXPECT_EQ(window.pos(), start + QPoint(30, 15));
-  Release(bar, QPoint(100, 10));
-  Hover(bar, QPoint(300, 10));
+  Release(bar.drgTitlebar(), QPoint(100, 10));
+  Hover(bar.drgTitlebar(), QPoint(300, 10));
   EXPECT_EQ(window.pos(), start + QPoint(30, 15));
   // A press with another button, or the end of a drag that nobody saw, moves nothing.
-  Point(bar, QEvent::MouseButtonPress, QPoint(100, 10), Qt::RightButton, Qt::RightButton);
-  Point(bar, QEvent::MouseMove, QPoint(200, 10), Qt::NoButton, Qt::RightButton);
-  Press(bar, QPoint(100, 10));
-  Hover(bar, QPoint(300, 10));
+  Point(bar.drgTitlebar(), QEvent::MouseButtonPress, QPoint(100, 10), Qt::RightButton, Qt::RightButton);
+  Point(bar.drgTitlebar(), QEvent::MouseMove, QPoint(200, 10), Qt::NoButton, Qt::RightButton);
+  Press(bar.drgTitlebar(), QPoint(100, 10));
+  Hover(bar.drgTitlebar(), QPoint(300, 10));
   EXPECT_EQ(window.pos(), start + QPoint(30, 15));
 }
 
@@ -98,6 +109,7 @@ TEST_F(TitlebarTest, TheBorderColourIsAlsoTheMinimiseLabels) {
       {QStringLiteral("Caption"), QStringLiteral("Arcade Match")},
       {QStringLiteral("Border_Color"), QJsonArray{border.red(), border.green(), border.blue()}}}));
   EXPECT_EQ(bar.Caption(), QStringLiteral("Arcade Match"));
+  EXPECT_EQ(bar.lblTitlebar().text(), QStringLiteral("Arcade Match"));
   EXPECT_EQ(Pixel(bar.cmdMini(), QPoint(7, 3)), border);
   EXPECT_EQ(Pixel(bar, QPoint(300, 23)), border);
 }

@@ -3,6 +3,7 @@
 
 #include <QLabel>
 
+#include "screens/CountLabel.h"
 #include "screens/frmMenu.h"
 #include "support/ScreenHand.h"
 #include "support/ScreenStage.h"
@@ -56,6 +57,19 @@ TEST_F(frmMenuTest, TheTextsTellTheRecord) {
   EXPECT_EQ(Campaign(), "Current campaign stats: 100 credits, 0 wins, 0 losses.");
   EXPECT_EQ(menu->lblMPStats().text().toStdString(),
             "Current multiplayer stats: 5 credits, 0 wins, 0 losses. 2 disconnects.");
+}
+
+TEST_F(frmMenuTest, NoLineEndsBehindANumber) {
+  EXPECT_EQ(CountLabel::Unbroken(QStringLiteral("6 losses. 1 disconnects. (VICTORY: All)")),
+            QStringLiteral("6\u00A0losses. 1\u00A0disconnects. (VICTORY: All)"));
+  EXPECT_NE(dynamic_cast<const CountLabel*>(&Open().lblMPStats()), nullptr);
+}
+
+TEST_F(frmMenuTest, ThePlayersButtonHoldsALongName) {
+  player().Name = std::string(20, 'W');
+  const ctlButton& button = Open().cmdPlayer();
+  EXPECT_LE(button.getLabelWidth(), button.width());
+  EXPECT_TRUE(menu->rect().contains(button.geometry()));
 }
 
 TEST_F(frmMenuTest, TheCampaignIsLostWithoutCreditsAndCards) {

@@ -115,6 +115,17 @@ TEST_F(frmPortraitsTest, ClickSelectsAndDoubleClickOrOkConfirms) {
   EXPECT_EQ(stage.recorded.Count("ClosePortraits"), 2);
 }
 
+TEST_F(frmPortraitsTest, ARefusedOwnPictureIsToldWithItsReason) {
+  Open();
+  EXPECT_FALSE(picker->lblRefusal().isVisible());
+  folder.Put("bob.jpg", "no picture at all");
+  Open();
+  EXPECT_TRUE(picker->lblRefusal().isVisible());
+  EXPECT_EQ(picker->lblRefusal().text(),
+            QStringLiteral("bob.jpg cannot be shown: it is no JPEG, GIF or BMP picture."));
+  EXPECT_FALSE(picker->imgOverride().isVisible());
+}
+
 TEST_F(frmPortraitsTest, LeavingChoosesNothing) {
   for (const int way : {0, 1, 2}) {
     Open(30);

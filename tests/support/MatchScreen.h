@@ -23,6 +23,7 @@ struct MatchScreenSetup {
   std::vector<int> draws{};  // main-deck cards in the order in which both sides draw them
   std::string mode{kModeArcade};
   std::function<void(clsPlayer&)> options{};
+  const char* opponent = "Orrin Vaal";
   double pixelRatio = 1;
 };
 
@@ -57,7 +58,7 @@ class MatchScreen final : public ScreenStage, public MatchBooking, public MatchN
  private:
   void DealGame(const MatchScreenSetup& setup) {
     game.Mode = setup.mode;
-    game.OppName = "Orrin Vaal";
+    game.OppName = setup.opponent;
     game.Wager = 10;
     game.YourPic = pictures.getPic(kPortraitBase + 7);
     game.OppPic = pictures.getPic(kPortraitBase + 5);

@@ -15,7 +15,8 @@ struct Progress {
 };
 constexpr Progress kProgress[] = {{"campaign-new", 100, {0, 0, 0, 0, 0, 0}, -1},
                                   {"campaign", 240, {14, 11, 12, 3, 0, 0}, 2},
-                                  {"campaign-finished", 600, {18, 13, 12, 16, 11, 2}, 5}};
+                                  {"campaign-finished", 600, {18, 13, 12, 16, 11, 2}, 5},
+                                  {"campaign-long", 2'000'000'000, {9999, 9999, 9999, 999, 999, 99}, 6}};
 
 void SetProgress(clsPlayer& player, const Progress& progress) {
   player.Credits->Value = progress.credits;
@@ -35,6 +36,7 @@ void RenderCampaign(Gallery& gallery) {
     test::ScreenStage stage(gallery.style(), gallery.scale());
     FillSamplePlayer(stage.player);
     SetProgress(stage.player, progress);
+    if (progress.credits == kMostCredits) stage.player.Name = "Alexandra Hohenstein";
     clsGame game(stage.player, {});
     frmCampaign campaign(stage.services(), stage.player, game);
     campaign.Open();

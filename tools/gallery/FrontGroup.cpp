@@ -31,17 +31,22 @@ struct NoCaller final : PortraitCaller {
   void PortraitChosen(const Picture&) override {}
 };
 
-void Picker(Gallery& gallery, bool own) {
+enum class Own { None, Shown, Refused };
+
+void Picker(Gallery& gallery, Own own, const char* name) {
   const test::TempFolder folder;
   test::ScreenStage stage(gallery.style(), gallery.scale(), folder.path());
   FillSamplePlayer(stage.player);
   const Picture portrait = stage.pictures.getPic(kPortraitBase + kOwnPicture);
-  if (own && !portrait.empty()) portrait.image()->save(QString::fromStdString(folder / "mara.jpg"));
+  if (own == Own::Shown && !portrait.empty()) {
+    portrait.image()->save(QString::fromStdString(folder / "mara.jpg"));
+  }
+  if (own == Own::Refused) folder.Put("mara.png", "whatever it holds");
   NoCaller caller;
   frmPortraits picker(stage.services(), stage.player, caller, {folder.path(), {}});
   picker.Open();
   stage.Settle();
-  gallery.Save(picker, own ? "portraits-own" : "portraits");
+  gallery.Save(picker, name);
 }
 
 }  // namespace
@@ -74,6 +79,7 @@ void RenderMenu(Gallery& gallery) {
   constexpr State kStates[] = {{"menu", [](clsPlayer&) {}},
                                {"menu-defeated", [](clsPlayer& player) { player.Credits->Value = 0; }},
                                {"menu-victory", [](clsPlayer& player) {
+                                  player.Name = "WWWWWWWWWWWWWWWWWWWW";
                                   player.Orrin_Wins->Value = 10;
                                   player.Arcade_Best = 2'000'000'000;
                                 }}};
@@ -100,8 +106,9 @@ void RenderOptions(Gallery& gallery) {
 }
 
 void RenderPortraits(Gallery& gallery) {
-  Picker(gallery, false);
-  Picker(gallery, true);
+  Picker(gallery, Own::None, "portraits");
+  Picker(gallery, Own::Shown, "portraits-own");
+  Picker(gallery, Own::Refused, "portraits-refused");
 }
 
 }  // namespace kv

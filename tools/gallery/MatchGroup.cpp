@@ -65,6 +65,19 @@ void Won(Gallery& gallery) {
   gallery.Save(*match.screen, "match-won");
 }
 
+/// Long names, and no portraits.
+void Plain(Gallery& gallery) {
+  test::MatchScreenSetup setup = Setup(gallery, {7});
+  setup.options = [](clsPlayer& player) {
+    player.Name = "Alexandra Hohenstein";
+    player.ShowPortrait_Opt = false;
+  };
+  setup.opponent = "WWWWWWWWWWWWWWWWWWWW";
+  test::MatchScreen match(setup);
+  match.Begin();
+  gallery.Save(*match.screen, "match-plain");
+}
+
 void Network(Gallery& gallery) {
   test::MatchScreenSetup setup = Setup(gallery, {});
   setup.mode = std::string(kModeNetwork);
@@ -83,7 +96,8 @@ void Cards(Gallery& gallery) {
 }  // namespace
 
 void RenderMatch(Gallery& gallery) {
-  for (const auto& picture : {Start, Turn, OpponentsTurn, SetWon, Won, Network, Cards}) picture(gallery);
+  for (const auto& picture : {Start, Turn, OpponentsTurn, SetWon, Won, Plain, Network, Cards})
+    picture(gallery);
 }
 
 }  // namespace kv
