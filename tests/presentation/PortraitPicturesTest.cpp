@@ -5,7 +5,7 @@
 #include <map>
 #include <string>
 
-#include "Catalogue.h"
+#include "packing/Catalogue.h"
 #include "presentation/PictureSizes.h"
 #include "presentation/Pictures.h"
 

@@ -9,9 +9,9 @@
 #include <cstring>
 #include <string>
 
-#include "Catalogue.h"
-#include "Seeds.h"
-#include "Sheet.h"
+#include "packing/Catalogue.h"
+#include "packing/Seeds.h"
+#include "packing/Sheet.h"
 #include "platform/Files.h"
 #include "presentation/PictureSizes.h"
 
