@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "brush/Lettering.h"
-#include "packing/Catalogue.h"
+#include "packing/Stored.h"
 
 namespace kv::datafile {
 namespace {
@@ -16,7 +16,7 @@ constexpr int kLargest = 430;  // a background is reduced to this width
 
 }  // namespace
 
-QImage ContactSheet() {
+QImage ContactSheet(const Catalogue& catalogue) {
   QImage sheet(kSheetWidth, 2600, QImage::Format_RGB32);
   sheet.fill(QColor(60, 60, 64));
   QPainter painter(&sheet);
@@ -26,7 +26,7 @@ QImage ContactSheet() {
   int rowHeight = 0;
   int group = 0;
   for (const int number : AllNumbers()) {
-    QImage image = Paint(number);
+    QImage image = catalogue.Paint(number);
     const int width = std::min(image.width() / kStoredRatio, kLargest);
     image = image.scaledToWidth(width, Qt::SmoothTransformation);
     if (x + width > kSheetWidth || number / 100 != group) {

@@ -3,8 +3,10 @@
 
 #include <QImage>
 
+#include "packing/Catalogue.h"
+
 namespace kv::datafile {
 
-[[nodiscard]] QImage ContactSheet();
+[[nodiscard]] QImage ContactSheet(const Catalogue& catalogue);
 
 }  // namespace kv::datafile

@@ -122,11 +122,8 @@ void Model(QPainter& painter, const Sitter& sitter, const QPainterPath& path, QC
   relief.Paint(painter, sitter.Of(colour, stuff));
 }
 
-void PaintPortrait(QPainter& painter, int number) {
-  const auto rows = AllBusts();
-  const auto row = std::ranges::find(rows, number, &BustSpec::number);
-  if (row == rows.end()) return;
-  Sitter sitter(*row);
+void PaintPortrait(QPainter& painter, const BustSpec& spec) {
+  Sitter sitter(spec);
   PaintPlace(painter, sitter);
   const double ratio = std::sqrt(std::abs(painter.deviceTransform().determinant()));
   painter.drawImage(QRectF(0, 0, kBustSide, kBustSide), PaintFigure(sitter, ratio));

@@ -10,8 +10,8 @@ namespace kv::datafile {
 
 inline constexpr double kBustSide = 112;
 
-/// Paints built-in portrait `number` (1 to 65); a number that nobody has paints nothing.
-void PaintPortrait(QPainter& painter, int number);
+void PaintPortrait(QPainter& painter, const BustSpec& spec);
+
 /// Where the parts of a face lie, as shares of the head.
 struct FacePlan {
   double eyeX;

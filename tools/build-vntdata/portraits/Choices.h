@@ -1,4 +1,4 @@
-// What there is to choose from for a portrait.
+// What there is to choose from for a portrait. The table has each under its name in Names.h.
 #pragma once
 
 namespace kv::datafile {

@@ -1,8 +1,8 @@
-// What makes one portrait: everybody is put together from these choices, and no two share them all.
+// What makes one portrait, a row of portraits.json: everybody is put together from these choices, and no two
+// share them all.
 #pragma once
 
 #include <QColor>
-#include <span>
 
 #include "portraits/Choices.h"
 
@@ -34,7 +34,5 @@ struct BustSpec {
   Garment garment;
   Mark mark;
 };
-
-[[nodiscard]] std::span<const BustSpec> AllBusts();
 
 }  // namespace kv::datafile

@@ -1,204 +1,161 @@
-// Who is who: one row for each built-in portrait. 1 to 5 and 45 are the opponents of the circuit.
-#include "portraits/Spec.h"
+#include "portraits/Table.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QStringList>
+#include <algorithm>
+
+#include "platform/Files.h"
+#include "portraits/Names.h"
 
 namespace kv::datafile {
 namespace {
 
-// clang-format off
-constexpr BustSpec kBusts[] = {
-    {1, Kind::Human, Shape::Round, Build::Leaning, Place::Bar, 0xffe8b48c, 0xff4a7a46, 0xffb8642c, 0xff3c6e8c, 0xff3c7a4a,
-     1.00, 0.98, 0.45, 10, -0.40, -0.10, Hair::Wild, Gear::Cap, Growth::None,
-     Eyes::Plain, Mood::Grin, Mouth::Lips, Garment::Jacket, Mark::Freckles},
-    {2, Kind::Human, Shape::Heart, Build::Slim, Place::Screens, 0xff9c6844, 0xff8c3a4e, 0xff20140f, 0xff2c6670, 0xff6a4020,
-     0.94, 1.00, 0.30, -8, 0.50, 0.00, Hair::Bun, Gear::Goggles, Growth::None,
-     Eyes::Plain, Mood::Smirk, Mouth::Lips, Garment::Jacket, Mark::None},
-    {3, Kind::Human, Shape::Heart, Build::Tall, Place::Neon, 0xffb8c8b0, 0xff3a3560, 0xffe4e4da, 0xff50407c, 0xffd8b040,
-     0.88, 1.00, 0.10, 7, -0.60, 0.10, Hair::Long, Gear::None, Growth::LongEars,
-     Eyes::Slit, Mood::Suspicious, Mouth::Lips, Garment::Robe, Mark::None},
-    {4, Kind::Stone, Shape::Block, Build::Broad, Place::Haze, 0xffa08468, 0xff5a4a3c, 0xff6a5440, 0xff8c5a2c, 0xfff0a030,
-     1.30, 1.08, 0.95, -3, 0.25, 0.30, Hair::None, Gear::None, Growth::RamHorns,
-     Eyes::Plain, Mood::Scowl, Mouth::Tusks, Garment::Armour, Mark::Plates},
-    {5, Kind::Human, Shape::Square, Build::Usual, Place::Lamps, 0xffd8a886, 0xff20283c, 0xffcfd6de, 0xff7c5a1e, 0xff5e88a8,
-     0.94, 1.08, 0.62, -5, 0.45, -0.20, Hair::Slick, Gear::Circlet, Growth::None,
-     Eyes::Plain, Mood::Proud, Mouth::Lips, Garment::Gown, Mark::Monocle},
-    {7, Kind::Human, Shape::Egg, Build::Usual, Place::Window, 0xffc89870, 0xff3c5878, 0xff3a2820, 0xff2e5a86, 0xff4c6c40,
-     0.98, 1.00, 0.50, 3, -0.30, 0.00, Hair::Short, Gear::None, Growth::None,
-     Eyes::Plain, Mood::Smile, Mouth::Lips, Garment::Uniform, Mark::None},
-    {10, Kind::Human, Shape::Heart, Build::Slim, Place::Bar, 0xfff0c8a8, 0xff7c2c2c, 0xffc84c1c, 0xff5a3a60, 0xff3a7060,
-     0.92, 0.98, 0.25, 11, -0.40, -0.20, Hair::Curly, Gear::None, Growth::None,
-     Eyes::Plain, Mood::Laugh, Mouth::Lips, Garment::Scarf, Mark::Freckles},
-    {11, Kind::Human, Shape::Square, Build::Broad, Place::Neon, 0xff6c442c, 0xff2c6c5c, 0xff2c9c8c, 0xff86602c, 0xff3a2414,
-     1.02, 1.00, 0.60, -4, 0.50, 0.00, Hair::Mohawk, Gear::None, Growth::None,
-     Eyes::Plain, Mood::Smirk, Mouth::Lips, Garment::Straps, Mark::Paint},
-    {12, Kind::Smooth, Shape::Dome, Build::Slim, Place::Window, 0xff8ab4c4, 0xff3a2c54, 0xff5a88a0, 0xff1e4a6c, 0xff101828,
-     0.90, 0.86, 0.12, -6, -0.30, 0.00, Hair::None, Gear::None, Growth::Fins,
-     Eyes::Dark, Mood::Calm, Mouth::Lips, Garment::Robe, Mark::Paint},
-    {13, Kind::Machine, Shape::Orb, Build::Slim, Place::Screens, 0xffb0b4ba, 0xff484c54, 0xffe08a28, 0xff2a4a5c, 0xff40d0ff,
-     1.10, 0.98, 0.90, 9, 0.20, 0.00, Hair::None, Gear::None, Growth::Antennae,
-     Eyes::One, Mood::Calm, Mouth::Grille, Garment::Cables, Mark::Plates},
-    {14, Kind::Reptile, Shape::Egg, Build::Broad, Place::Haze, 0xff6c8c44, 0xff5c4428, 0xffb0a040, 0xff2c5a3a, 0xfff0c820,
-     1.02, 1.02, 0.40, -5, -0.60, 0.10, Hair::None, Gear::None, Growth::Crest,
-     Eyes::Slit, Mood::Sneer, Mouth::Fangs, Garment::Armour, Mark::Scales},
-    {15, Kind::Human, Shape::Egg, Build::Hunched, Place::Bar, 0xffd8ac90, 0xff50505c, 0xffb8b4ac, 0xff48586c, 0xff60788c,
-     1.00, 1.02, 0.55, 6, 0.40, 0.50, Hair::Receding, Gear::None, Growth::None,
-     Eyes::Plain, Mood::Sleepy, Mouth::Lips, Garment::Collar, Mark::Wrinkles},
-    {16, Kind::Furred, Shape::Cat, Build::Leaning, Place::Lamps, 0xffb07838, 0xff3a4c3a, 0xffe0c090, 0xff7c4c28, 0xff40a040,
-     1.04, 0.94, 0.50, -9, 0.50, 0.00, Hair::None, Gear::None, Growth::Ears,
-     Eyes::Plain, Mood::Smirk, Mouth::Muzzle, Garment::Jacket, Mark::Stripes},
-    {17, Kind::Insect, Shape::Wedge, Build::Slim, Place::Haze, 0xff4c5c3c, 0xff6c5020, 0xffa08c30, 0xff5c6c20, 0xffd04020,
-     0.92, 0.96, 0.00, 5, -0.40, 0.10, Hair::None, Gear::None, Growth::Antennae,
-     Eyes::Facets, Mood::Calm, Mouth::Mandibles, Garment::Armour, Mark::None},
-    {18, Kind::Aquatic, Shape::Frog, Build::Stout, Place::Neon, 0xff3c8c90, 0xff204858, 0xff80d0c0, 0xff10485c, 0xfff0e080,
-     1.08, 1.00, 0.20, 0, -0.25, 0.00, Hair::None, Gear::None, Growth::None,
-     Eyes::Plain, Mood::Surprised, Mouth::Wide, Garment::Gown, Mark::Spots},
-    {19, Kind::Human, Shape::Square, Build::Usual, Place::Lamps, 0xff885438, 0xff6c6438, 0xff181210, 0xff3c6c6c, 0xff4c3018,
-     1.06, 1.02, 0.70, 5, -0.50, 0.00, Hair::None, Gear::Wrap, Growth::None,
-     Eyes::Plain, Mood::Wink, Mouth::Lips, Garment::Robe, Mark::Beard},
-    {20, Kind::Human, Shape::Heart, Build::Slim, Place::Neon, 0xffecc4a4, 0xff34303c, 0xff2c2430, 0xff6c2c4c, 0xff6a5a80,
-     0.92, 1.00, 0.25, 7, 0.55, 0.00, Hair::Bob, Gear::Visor, Growth::None,
-     Eyes::Plain, Mood::Smirk, Mouth::Lips, Garment::Uniform, Mark::None},
-    {21, Kind::Stone, Shape::Block, Build::Broad, Place::Window, 0xff6c7884, 0xff38404c, 0xff9cacb8, 0xff2c4068, 0xff60d0f0,
-     1.18, 1.08, 0.80, 4, -0.45, 0.50, Hair::None, Gear::None, Growth::None,
-     Eyes::Glow, Mood::Scowl, Mouth::Lips, Garment::Straps, Mark::Plates},
-    {22, Kind::Leaf, Shape::Bulb, Build::Slim, Place::Haze, 0xff7ca85c, 0xff5c3c30, 0xff4c8034, 0xff34602c, 0xff604010,
-     0.92, 0.86, 0.22, -10, 0.30, 0.00, Hair::None, Gear::None, Growth::Fronds,
-     Eyes::Plain, Mood::Smile, Mouth::Lips, Garment::Robe, Mark::None},
-    {23, Kind::Avian, Shape::Bird, Build::Tall, Place::Window, 0xffc8b49c, 0xff5c2c3c, 0xffc84830, 0xff3c4c74, 0xfff0a020,
-     0.86, 0.84, 0.20, -6, 0.75, -0.10, Hair::None, Gear::None, Growth::Plumes,
-     Eyes::Plain, Mood::Surprised, Mouth::Beak, Garment::Fur, Mark::None},
-    {24, Kind::Machine, Shape::Tank, Build::Broad, Place::Bar, 0xff8c5c34, 0xff342c28, 0xffd0a050, 0xff7c3c20, 0xffff9030,
-     1.00, 0.92, 0.60, 0, -0.30, 0.00, Hair::None, Gear::None, Growth::None,
-     Eyes::Glow, Mood::Calm, Mouth::Grille, Garment::Armour, Mark::Plates},
-    {25, Kind::Human, Shape::Square, Build::Usual, Place::Bar, 0xffc09070, 0xff40342c, 0xff5c4030, 0xff4c5c34, 0xff50503c,
-     1.06, 1.02, 0.72, 5, -0.45, 0.60, Hair::Long, Gear::Brim, Growth::None,
-     Eyes::Plain, Mood::Suspicious, Mouth::Lips, Garment::Scarf, Mark::Moustache},
-    {26, Kind::Smooth, Shape::Heart, Build::Tall, Place::Lamps, 0xffc890b0, 0xff2c4c4c, 0xffa05880, 0xff5c2c5c, 0xff301830,
-     0.94, 1.00, 0.08, -8, 0.60, -0.20, Hair::None, Gear::None, Growth::Plumes,
-     Eyes::Slit, Mood::Smile, Mouth::Lips, Garment::Gown, Mark::Paint},
-    {27, Kind::Reptile, Shape::Round, Build::Broad, Place::Neon, 0xffa06040, 0xff3c3c2c, 0xffd08838, 0xff6c3020, 0xff90e040,
-     1.08, 0.98, 0.60, 3, 0.30, 0.20, Hair::None, Gear::None, Growth::Spines,
-     Eyes::Slit, Mood::Scowl, Mouth::Fangs, Garment::Straps, Mark::Stripes},
-    {28, Kind::Human, Shape::Egg, Build::Slim, Place::Screens, 0xfff0d0b8, 0xff2c4464, 0xffe0c060, 0xff28648c, 0xff4c8cb8,
-     0.94, 0.98, 0.30, -9, -0.40, 0.00, Hair::Bun, Gear::None, Growth::None,
-     Eyes::Plain, Mood::Wink, Mouth::Lips, Garment::Collar, Mark::None},
-    {29, Kind::Furred, Shape::Cat, Build::Low, Place::Window, 0xffe4e0d8, 0xff54344c, 0xffa8a4a0, 0xff4c6c84, 0xff60a0e0,
-     1.00, 0.90, 0.40, 8, 0.30, 0.00, Hair::None, Gear::None, Growth::LongEars,
-     Eyes::Dark, Mood::Calm, Mouth::Muzzle, Garment::Fur, Mark::None},
-    {30, Kind::Human, Shape::Round, Build::Stout, Place::Lamps, 0xff5c3824, 0xff8c7c6c, 0xffd8d0c4, 0xff5c4c6c, 0xff281810,
-     1.08, 1.00, 0.50, -5, -0.30, -0.10, Hair::Curly, Gear::None, Growth::None,
-     Eyes::Plain, Mood::Laugh, Mouth::Lips, Garment::Robe, Mark::Beard},
-    {31, Kind::Insect, Shape::Dome, Build::Usual, Place::Neon, 0xff7c3c4c, 0xff2c2838, 0xffc87080, 0xff4c2440, 0xff80f0c0,
-     0.82, 0.90, 0.05, 7, 0.50, 0.20, Hair::None, Gear::None, Growth::Antennae,
-     Eyes::Facets, Mood::Calm, Mouth::Mandibles, Garment::Gown, Mark::None},
-    {32, Kind::Aquatic, Shape::Hammer, Build::Broad, Place::Haze, 0xff5c6ca8, 0xff34342c, 0xffa0b8f0, 0xff2c3c78, 0xffe0f0ff,
-     0.86, 1.00, 0.50, -4, -0.15, 0.10, Hair::None, Gear::None, Growth::None,
-     Eyes::Plain, Mood::Scowl, Mouth::Tusks, Garment::Armour, Mark::None},
-    {33, Kind::Human, Shape::Egg, Build::Leaning, Place::Lamps, 0xffd09c78, 0xff7c4c20, 0xff0f0c10, 0xff845c1c, 0xff2c2018,
-     0.98, 1.00, 0.42, -7, 0.60, 0.10, Hair::Slick, Gear::Goggles, Growth::None,
-     Eyes::Plain, Mood::Sneer, Mouth::Lips, Garment::Jacket, Mark::Scar},
-    {34, Kind::Machine, Shape::Screen, Build::Slim, Place::Window, 0xffdce4e8, 0xff6c7c88, 0xff3c5468, 0xff3c7c90, 0xff2090ff,
-     1.05, 1.05, 0.25, -7, 0.20, 0.00, Hair::None, Gear::None, Growth::Antennae,
-     Eyes::Glow, Mood::Smile, Mouth::Grille, Garment::Collar, Mark::None},
-    {35, Kind::Stone, Shape::Bulb, Build::Slim, Place::Neon, 0xffb08c9c, 0xff4c3448, 0xffe0b0c8, 0xff6c3c5c, 0xfffff0a0,
-     0.86, 0.90, 0.30, 7, -0.30, 0.00, Hair::None, Gear::None, Growth::Spines,
-     Eyes::Glow, Mood::Smile, Mouth::Lips, Garment::Robe, Mark::None},
-    {36, Kind::Human, Shape::Heart, Build::Tall, Place::Window, 0xff784c30, 0xff344c7c, 0xff241810, 0xff24587c, 0xff3c2818,
-     0.94, 1.02, 0.32, -6, -0.55, -0.40, Hair::Long, Gear::Circlet, Growth::None,
-     Eyes::Plain, Mood::Proud, Mouth::Lips, Garment::Gown, Mark::None},
-    {37, Kind::Furred, Shape::Cat, Build::Broad, Place::Bar, 0xff604838, 0xff6c2c20, 0xff8c4c24, 0xff804c34, 0xfff0d040,
-     1.08, 0.94, 0.80, 4, -0.40, 0.40, Hair::None, Gear::None, Growth::Mane,
-     Eyes::Plain, Mood::Sneer, Mouth::Muzzle, Garment::Straps, Mark::None},
-    {38, Kind::Avian, Shape::Bird, Build::Usual, Place::Haze, 0xff3c4c60, 0xff343028, 0xff80a0c0, 0xff304858, 0xfff0f0f0,
-     1.00, 0.92, 0.30, 5, -0.80, 0.20, Hair::None, Gear::None, Growth::Crest,
-     Eyes::Plain, Mood::Suspicious, Mouth::Beak, Garment::Uniform, Mark::None},
-    {39, Kind::Human, Shape::Square, Build::Broad, Place::Screens, 0xffe0b090, 0xff2c2c30, 0xff803c28, 0xff604030, 0xff3c6c40,
-     1.06, 1.02, 0.75, -3, -0.30, 0.20, Hair::Mohawk, Gear::None, Growth::None,
-     Eyes::Plain, Mood::Scowl, Mouth::Lips, Garment::Armour, Mark::Scar},
-    {40, Kind::Leaf, Shape::Round, Build::Stout, Place::Lamps, 0xffa89c4c, 0xff3c5440, 0xffc86c28, 0xff745020, 0xff28381c,
-     1.06, 1.00, 0.60, 6, 0.35, 0.20, Hair::None, Gear::None, Growth::Fronds,
-     Eyes::Plain, Mood::Sleepy, Mouth::Lips, Garment::Fur, Mark::Wrinkles},
-    {41, Kind::Smooth, Shape::Cone, Build::Usual, Place::Bar, 0xff6c90b4, 0xff5c4a40, 0xff48688c, 0xff6c5030, 0xfff0f0c0,
-     1.05, 0.84, 0.25, 5, 0.40, 0.00, Hair::None, Gear::None, Growth::Stalks,
-     Eyes::Plain, Mood::Sleepy, Mouth::Wide, Garment::Uniform, Mark::Spots},
-    {42, Kind::Human, Shape::Heart, Build::Slim, Place::Neon, 0xfff4d8c4, 0xff5c2038, 0xff1c1c28, 0xff7c3048, 0xff704c80,
-     0.90, 1.02, 0.15, 9, -0.60, 0.20, Hair::None, Gear::None, Growth::None,
-     Eyes::Plain, Mood::Suspicious, Mouth::Lips, Garment::Gown, Mark::Paint},
-    {43, Kind::Reptile, Shape::Egg, Build::Tall, Place::Window, 0xff4c787c, 0xff604c60, 0xff90c8b8, 0xff1e5058, 0xffff7030,
-     0.94, 1.12, 0.15, -7, 0.70, 0.00, Hair::None, Gear::None, Growth::Fins,
-     Eyes::Slit, Mood::Smirk, Mouth::Fangs, Garment::Robe, Mark::Scales},
-    {44, Kind::Human, Shape::Round, Build::Stout, Place::Bar, 0xffb48460, 0xff505848, 0xff787068, 0xff5c6450, 0xff405040,
-     1.06, 1.00, 0.60, 6, 0.30, -0.20, Hair::Receding, Gear::Goggles, Growth::None,
-     Eyes::Plain, Mood::Laugh, Mouth::Lips, Garment::Jacket, Mark::Moustache},
-    {45, Kind::Machine, Shape::Bucket, Build::Hunched, Place::Screens, 0xff8c8478, 0xff4c4038, 0xffb4602c, 0xff44525c, 0xffff5a28,
-     1.02, 1.00, 0.80, -7, -0.30, 0.20, Hair::None, Gear::Pods, Growth::None,
-     Eyes::Lens, Mood::Sad, Mouth::Grille, Garment::Cables, Mark::Scar},
-    {46, Kind::Human, Shape::Egg, Build::Usual, Place::Lamps, 0xff90603c, 0xffc0a060, 0xff0c0a0a, 0xff8c3c2c, 0xff402810,
-     0.96, 1.00, 0.36, -6, 0.35, 0.00, Hair::Bun, Gear::Circlet, Growth::None,
-     Eyes::Plain, Mood::Grin, Mouth::Lips, Garment::Robe, Mark::Freckles},
-    {47, Kind::Insect, Shape::Round, Build::Stout, Place::Bar, 0xffc8a848, 0xff4c3c28, 0xff6c5018, 0xff7c6420, 0xff201808,
-     1.06, 0.94, 0.12, -4, -0.30, 0.00, Hair::None, Gear::None, Growth::Antennae,
-     Eyes::Facets, Mood::Calm, Mouth::Mandibles, Garment::Fur, Mark::Stripes},
-    {48, Kind::Aquatic, Shape::Round, Build::Hunched, Place::Haze, 0xffa8c8b8, 0xff2c4048, 0xffd86858, 0xff2c6070, 0xff182c30,
-     1.02, 1.04, 0.40, 5, 0.30, 0.20, Hair::None, Gear::None, Growth::Fins,
-     Eyes::Plain, Mood::Sad, Mouth::Feelers, Garment::Scarf, Mark::Spots},
-    {49, Kind::Human, Shape::Square, Build::Broad, Place::Window, 0xff4c3020, 0xff284038, 0xff3c3c40, 0xff30644c, 0xff20140c,
-     1.04, 1.04, 0.66, 0, 0.50, 0.20, Hair::None, Gear::Helmet, Growth::None,
-     Eyes::Plain, Mood::Scowl, Mouth::Lips, Garment::Armour, Mark::Scar},
-    {50, Kind::Machine, Shape::Lamp, Build::Leaning, Place::Neon, 0xff3c5468, 0xff28303c, 0xffa0c8e0, 0xff1c4468, 0xffffe0a0,
-     1.15, 1.10, 0.50, 12, -0.35, 0.00, Hair::None, Gear::None, Growth::None,
-     Eyes::One, Mood::Calm, Mouth::Grille, Garment::Armour, Mark::None},
-    {51, Kind::Human, Shape::Round, Build::Low, Place::Screens, 0xffe4bc9c, 0xff6c5c8c, 0xffc8c8d0, 0xff6c5c84, 0xff6c8ca0,
-     0.82, 0.84, 0.35, -6, 0.30, 0.00, Hair::Bun, Gear::None, Growth::None,
-     Eyes::Plain, Mood::Smile, Mouth::Lips, Garment::Scarf, Mark::Wrinkles},
-    {52, Kind::Furred, Shape::Round, Build::Low, Place::Neon, 0xff885c74, 0xff2c3c54, 0xffd8a8c0, 0xff5c3458, 0xff80e0d0,
-     0.94, 0.82, 0.30, 8, -0.40, -0.20, Hair::None, Gear::None, Growth::Antennae,
-     Eyes::Dark, Mood::Surprised, Mouth::Muzzle, Garment::Gown, Mark::None},
-    {53, Kind::Stone, Shape::Block, Build::Stout, Place::Haze, 0xff546c58, 0xff6c5c3c, 0xff90b08c, 0xff2c5444, 0xffd0ff90,
-     1.24, 1.00, 0.90, 6, 0.40, 0.40, Hair::None, Gear::None, Growth::Antlers,
-     Eyes::Plain, Mood::Sleepy, Mouth::Lips, Garment::Fur, Mark::Plates},
-    {54, Kind::Human, Shape::Square, Build::Usual, Place::Screens, 0xffca9c80, 0xff404858, 0xff50382c, 0xff345074, 0xff405c74,
-     1.02, 1.02, 0.58, -4, -0.40, 0.00, Hair::Short, Gear::None, Growth::None,
-     Eyes::Plain, Mood::Smirk, Mouth::Lips, Garment::Uniform, Mark::Patch},
-    {55, Kind::Avian, Shape::Bird, Build::Tall, Place::Lamps, 0xffe0d8c8, 0xff3c5c58, 0xffe0b040, 0xff3c7068, 0xff502010,
-     0.82, 0.82, 0.10, 6, -0.70, -0.30, Hair::None, Gear::None, Growth::Plumes,
-     Eyes::Slit, Mood::Proud, Mouth::Beak, Garment::Robe, Mark::Stripes},
-    {56, Kind::Smooth, Shape::Dome, Build::Hunched, Place::Haze, 0xff705c98, 0xff2c2430, 0xffa890d0, 0xff3c2c6c, 0xfff0c8ff,
-     0.90, 0.86, 0.05, -5, 0.40, 0.40, Hair::None, Gear::Hood, Growth::None,
-     Eyes::Glow, Mood::Scowl, Mouth::Lips, Garment::Robe, Mark::Stripes},
-    {57, Kind::Human, Shape::Egg, Build::Usual, Place::Bar, 0xffa87450, 0xff802c20, 0xff301810, 0xff8c4428, 0xff502c14,
-     0.98, 0.98, 0.46, -7, 0.40, -0.10, Hair::Braids, Gear::Brim, Growth::None,
-     Eyes::Plain, Mood::Laugh, Mouth::Lips, Garment::Straps, Mark::None},
-    {58, Kind::Reptile, Shape::Frog, Build::Stout, Place::Haze, 0xffc8b070, 0xff3c5c6c, 0xff807038, 0xff846c34, 0xff60381c,
-     1.16, 0.98, 0.70, 4, 0.30, 0.10, Hair::None, Gear::None, Growth::None,
-     Eyes::Slit, Mood::Sleepy, Mouth::Wide, Garment::Collar, Mark::Spots},
-    {59, Kind::Machine, Shape::Box, Build::Broad, Place::Lamps, 0xffc84c34, 0xff503028, 0xfff0c040, 0xff802c28, 0xfffff0a0,
-     1.16, 0.90, 1.00, -5, 0.30, 0.00, Hair::None, Gear::Pods, Growth::None,
-     Eyes::Plain, Mood::Smile, Mouth::Grille, Garment::Jacket, Mark::Stripes},
-    {60, Kind::Human, Shape::Heart, Build::Leaning, Place::Window, 0xfff0c8b0, 0xff2c5450, 0xff6c4c94, 0xff3c5c7c, 0xff8060b0,
-     0.94, 1.00, 0.28, 13, -0.50, 0.00, Hair::Long, Gear::None, Growth::None,
-     Eyes::Plain, Mood::Smile, Mouth::Lips, Garment::Jacket, Mark::None},
-    {61, Kind::Leaf, Shape::Heart, Build::Slim, Place::Lamps, 0xffc86c80, 0xff3c4838, 0xff5c8c44, 0xff743450, 0xfff8f0c0,
-     0.88, 1.00, 0.10, -6, 0.50, 0.00, Hair::None, Gear::None, Growth::Tendrils,
-     Eyes::Slit, Mood::Smirk, Mouth::Lips, Garment::Gown, Mark::Stripes},
-    {62, Kind::Human, Shape::Square, Build::Hunched, Place::Bar, 0xff845840, 0xff484034, 0xff988c80, 0xff54482c, 0xff5c4428,
-     1.04, 1.00, 0.74, 4, -0.40, 0.50, Hair::Wild, Gear::None, Growth::None,
-     Eyes::Plain, Mood::Scowl, Mouth::Lips, Garment::Fur, Mark::Beard},
-    {63, Kind::Aquatic, Shape::Egg, Build::Stout, Place::Window, 0xffd88c54, 0xff3c3454, 0xfff0d080, 0xff6c3c2c, 0xff203050,
-     0.74, 0.72, 0.35, 0, 0.30, 0.00, Hair::None, Gear::Bowl, Growth::None,
-     Eyes::One, Mood::Surprised, Mouth::Lips, Garment::Collar, Mark::Stripes},
-    {64, Kind::Human, Shape::Egg, Build::Usual, Place::Neon, 0xffd4a888, 0xff202024, 0xff101014, 0xff404048, 0xff8c2c2c,
-     0.96, 1.08, 0.20, 5, 0.45, 0.50, Hair::None, Gear::Hood, Growth::None,
-     Eyes::Plain, Mood::Suspicious, Mouth::Lips, Garment::Robe, Mark::Scar},
-    {65, Kind::Machine, Shape::Bucket, Build::Slim, Place::Neon, 0xff5c7c5c, 0xff303830, 0xffc0d0a0, 0xff2c5c3c, 0xffa0ff60,
-     0.84, 1.04, 0.40, 7, 0.35, 0.00, Hair::None, Gear::Band, Growth::None,
-     Eyes::Four, Mood::Calm, Mouth::Grille, Garment::Straps, Mark::Plates},
+constexpr std::size_t kLargestTable = 1U << 20U;
+constexpr int kHighestNumber = 99;  // pictures 301 to 399
+
+/// One row on its way into a BustSpec. The first field that is wrong is the row's fault.
+class Row {
+ public:
+  explicit Row(QJsonObject object) : object_(std::move(object)) {}
+
+  template <class Choice>
+  void Take(const char* key, Choice& choice) {
+    const std::string name = Value(key).toString().toStdString();
+    const auto names = NamesOf(choice);
+    const auto found = std::ranges::find(names, name);
+    if (found == names.end()) return Blame(key, "one of " + Joined(names));
+    choice = static_cast<Choice>(found - names.begin());
+  }
+
+  void TakeColour(const char* key, QRgb& colour) {
+    const QString text = Value(key).toString();
+    const QColor read(text);
+    if (text.size() != 7 || text[0] != '#' || !read.isValid())
+      return Blame(key, "a colour such as \"#e8b48c\"");
+    colour = read.rgb();
+  }
+
+  void TakeNumber(const char* key, double low, double high, double& number) {
+    const QJsonValue value = Value(key);
+    number = value.toDouble(low - 1);
+    if (number < low || number > high)
+      Blame(key, QString("a number from %1 to %2").arg(low).arg(high).toStdString());
+  }
+
+  /// The fault of the row; a field that nobody has taken is one.
+  [[nodiscard]] std::string Fault() const {
+    if (!fault_.empty()) return fault_;
+    for (const QString& key : object_.keys()) {
+      if (!taken_.contains(key)) return "\"" + key.toStdString() + "\" is no field of a portrait";
+    }
+    return "";
+  }
+
+ private:
+  QJsonValue Value(const char* key) {
+    taken_ << key;
+    return object_.value(QLatin1String(key));
+  }
+
+  void Blame(const char* key, const std::string& expected) {
+    if (!fault_.empty()) return;
+    const QJsonValue value = object_.value(QLatin1String(key));
+    const QByteArray text = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+    const std::string is =
+        value.isUndefined() ? "is missing" : "is " + text.mid(1, text.size() - 2).toStdString();
+    fault_ = "\"" + std::string(key) + "\" " + is + "; it must be " + expected;
+  }
+
+  static std::string Joined(NameList names) {
+    std::string text;
+    for (const std::string_view name : names) text.append(text.empty() ? "" : ", ").append(name);
+    return text;
+  }
+
+  QJsonObject object_;
+  QStringList taken_;
+  std::string fault_;
 };
-// clang-format on
+
+void TakePose(Row& row, BustSpec& spec) {
+  row.TakeNumber("width", 0.5, 1.5, spec.width);
+  row.TakeNumber("length", 0.5, 1.5, spec.length);
+  row.TakeNumber("jaw", 0, 1, spec.jaw);
+  row.TakeNumber("tilt", -30, 30, spec.tilt);
+  row.TakeNumber("turn", -1, 1, spec.turn);
+  row.TakeNumber("nod", -1, 1, spec.nod);
+}
+
+void TakeColours(Row& row, BustSpec& spec) {
+  row.TakeColour("skin", spec.skin);
+  row.TakeColour("cloth", spec.cloth);
+  row.TakeColour("hair", spec.hair);
+  row.TakeColour("back", spec.back);
+  row.TakeColour("eye", spec.eye);
+}
+
+void TakeChoices(Row& row, BustSpec& spec) {
+  row.Take("kind", spec.kind);
+  row.Take("shape", spec.shape);
+  row.Take("build", spec.build);
+  row.Take("place", spec.place);
+  row.Take("hairStyle", spec.hairStyle);
+  row.Take("gear", spec.gear);
+  row.Take("growth", spec.growth);
+  row.Take("eyes", spec.eyes);
+  row.Take("mood", spec.mood);
+  row.Take("mouth", spec.mouth);
+  row.Take("garment", spec.garment);
+  row.Take("mark", spec.mark);
+}
+
+/// Fills `spec`, or tells what is wrong with the row.
+std::string TakeRow(const QJsonObject& object, BustSpec& spec) {
+  Row row(object);
+  double number = 0;
+  row.TakeNumber("number", 1, kHighestNumber, number);
+  spec.number = static_cast<int>(number);
+  if (spec.number != number) return "\"number\" must be whole";
+  TakeChoices(row, spec);
+  TakeColours(row, spec);
+  TakePose(row, spec);
+  return row.Fault();
+}
+
+BustTable Faulty(const std::string& what) {
+  return {{}, "portraits.json: " + what};
+}
 
 }  // namespace
 
-std::span<const BustSpec> AllBusts() {
-  return kBusts;
+BustTable ParseBusts(std::string_view json) {
+  QJsonParseError error;
+  const QByteArray bytes(json.data(), static_cast<qsizetype>(json.size()));
+  const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
+  if (error.error != QJsonParseError::NoError) {
+    const auto line = bytes.left(error.offset).count('\n') + 1;
+    return Faulty("line " + std::to_string(line) + ": " + error.errorString().toStdString());
+  }
+  if (!document.isArray()) return Faulty("it is no list of rows");
+  BustTable table;
+  for (const QJsonValue& value : document.array()) {
+    BustSpec spec{};
+    const std::string fault = TakeRow(value.toObject(), spec);
+    const std::string who =
+        "row " + std::to_string(table.rows.size() + 1) + " (number " + std::to_string(spec.number) + "): ";
+    if (!fault.empty()) return Faulty(who + fault);
+    if (std::ranges::find(table.rows, spec.number, &BustSpec::number) != table.rows.end())
+      return Faulty(who + "there is a row of that number already");
+    table.rows.push_back(spec);
+  }
+  return table;
+}
+
+BustTable ReadBusts() {
+  const FileBytes file = ReadWhole(KV_PORTRAIT_TABLE, kLargestTable);
+  return file.bytes ? ParseBusts(*file.bytes) : Faulty(file.error);
 }
 
 }  // namespace kv::datafile
