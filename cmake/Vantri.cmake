@@ -126,3 +126,15 @@ function(kv_add_program)
   target_link_libraries(vantri PRIVATE kv_app_ui)
   set_target_properties(vantri PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 endfunction()
+
+set(KV_ART ${PROJECT_SOURCE_DIR}/art CACHE PATH "Pictures and sounds that take the place of the game's own")
+
+# kv_art_stamp(kind out): sets `out` to a file that changes with the files of art/<kind>/. Every build looks.
+function(kv_art_stamp kind out)
+  set(stamp ${PROJECT_BINARY_DIR}/art-${kind}.stamp)
+  add_custom_target(art-${kind} BYPRODUCTS ${stamp}
+    COMMAND ${CMAKE_COMMAND} -DFOLDER=${KV_ART}/${kind} -DOUT=${stamp} -P ${PROJECT_SOURCE_DIR}/cmake/ArtStamp.cmake
+    COMMENT "Looking into art/${kind}"
+    VERBATIM)
+  set(${out} ${stamp} PARENT_SCOPE)
+endfunction()

@@ -4,11 +4,13 @@
 //   build-vntdata --picture N OUT.png  one picture in its stored size
 //   build-vntdata --sizes              how many bytes each picture takes
 //   build-vntdata --seeds FOLDER       small whole modules to start the fuzzing of the reader from
+// With --art FOLDER in front, the pictures of FOLDER/pictures take their painters' places.
 #include <QGuiApplication>
 #include <cstdio>
 #include <string>
 #include <vector>
 
+#include "packing/Art.h"
 #include "packing/Catalogue.h"
 #include "packing/Seeds.h"
 #include "packing/Sheet.h"
@@ -84,10 +86,16 @@ int Do(const Catalogue& catalogue, const Arguments& wanted) {
   return Fail("say where the data file goes");
 }
 
-int Run(const Arguments& arguments) {
+int Run(Arguments arguments) {
+  Art art;
+  if (arguments.size() > 2 && arguments[0] == "--art") {
+    art = ReadArt(arguments[1]);
+    if (!art.fault.empty()) return Fail(art.fault);
+    arguments.erase(arguments.begin(), arguments.begin() + 2);
+  }
   BustTable table = ReadBusts();
   if (!table.fault.empty()) return Fail(table.fault);
-  const Catalogue catalogue(std::move(table.rows));
+  const Catalogue catalogue(std::move(table.rows), std::move(art.pictures));
   if (const std::string fault = catalogue.Fault(); !fault.empty()) return Fail(fault);
   return Do(catalogue, arguments);
 }
