@@ -20,7 +20,7 @@ struct Face {
 
 constexpr QColor kPlusBlue{52, 132, 224};
 constexpr QColor kMinusRed{206, 62, 58};
-constexpr QColor kGold{226, 178, 64};
+constexpr QColor kSpecialGold{226, 178, 64};
 constexpr QColor kSteel{120, 138, 158};
 constexpr QColor kBrass{168, 132, 84};
 
@@ -33,7 +33,7 @@ QColor ColourOf(int slot, bool ember) {
     case kFlipDown:
       return ember ? QColor(186, 66, 38) : kMinusRed;
     case kSpecial:
-      return kGold;
+      return kSpecialGold;
     default:
       return ember ? kBrass : kSteel;
   }

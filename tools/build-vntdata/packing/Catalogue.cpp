@@ -20,8 +20,8 @@ namespace {
 
 constexpr int kBackgroundQuality = 85;
 constexpr int kPortraitQuality = 93;
-constexpr int kCoarser = 5;    // a step down, for pictures of the art folder that need too much room
-constexpr int kCoarsest = 50;  // and how far it goes
+constexpr int kCoarser = 5;       // a step down, for pictures of the art folder that need too much room
+constexpr int kMostCoarser = 50;  // and how far it goes
 
 /// What fills a screen, from number 101 on.
 constexpr int kFirstScreen = 101;
@@ -97,7 +97,7 @@ Groups Catalogue::PaintAll(std::size_t limit) const {
   Groups groups;
   for (const int number : AllNumbers()) Store(groups, number, Paint(number), 0);
   int coarser = 0;
-  while (!art_.empty() && SmallestSize(groups) > limit && coarser < kCoarsest) {
+  while (!art_.empty() && SmallestSize(groups) > limit && coarser < kMostCoarser) {
     coarser += kCoarser;
     for (const auto& [number, image] : art_) Store(groups, number, image, coarser);
   }

@@ -15,15 +15,21 @@ constexpr int kRows = 12;
 
 /// Strokes as pairs of digits, x then y (a, b, c go on after 9); a blank lifts the pen. The gaps are the
 /// stencil's.
-struct Letter {
+struct StencilLetter {
   char sign;
   std::string_view strokes;
 };
-constexpr std::array kAlphabet = {
-    Letter{'K', "000c 80368c"}, Letter{'E', "80000c8c 2676"}, Letter{'L', "000c8c"},
-    Letter{'M', "0c0047808c"},  Letter{'V', "004c80"},        Letter{'A', "0c408c"},
-    Letter{'N', "0c008c80"},    Letter{'T', "0080 424c"},     Letter{'R', "0c006082846626 588c"},
-    Letter{'I', "000c"},
+constexpr std::array kTitleAlphabet = {
+    StencilLetter{'K', "000c 80368c"},
+    StencilLetter{'E', "80000c8c 2676"},
+    StencilLetter{'L', "000c8c"},
+    StencilLetter{'M', "0c0047808c"},
+    StencilLetter{'V', "004c80"},
+    StencilLetter{'A', "0c408c"},
+    StencilLetter{'N', "0c008c80"},
+    StencilLetter{'T', "0080 424c"},
+    StencilLetter{'R', "0c006082846626 588c"},
+    StencilLetter{'I', "000c"},
 };
 
 int Digit(char sign) {
@@ -32,8 +38,8 @@ int Digit(char sign) {
 
 QPainterPath StrokesOf(char sign, QSizeF size) {
   QPainterPath path;
-  const auto letter = std::ranges::find(kAlphabet, sign, &Letter::sign);
-  if (letter == kAlphabet.end()) return path;
+  const auto letter = std::ranges::find(kTitleAlphabet, sign, &StencilLetter::sign);
+  if (letter == kTitleAlphabet.end()) return path;
   bool down = false;
   for (std::size_t i = 0; i + 1 < letter->strokes.size();) {
     if (letter->strokes[i] == ' ') {
