@@ -9,14 +9,16 @@ target_include_directories(kv_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 target_compile_options(kv_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror)
 # gcc 12 warns wrongly of overlapping copies in std::string's operator+ (GCC bug 105651).
 target_compile_options(kv_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
+# A target with KV_UNCHECKED is compiled as it is: what paints the pictures is not what the sanitizers look at.
+set(kv_checked $<NOT:$<BOOL:$<TARGET_PROPERTY:KV_UNCHECKED>>>)
 if(KV_SANITIZE)
-  target_compile_options(kv_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
-                                              -fno-omit-frame-pointer)
-  target_link_options(kv_options INTERFACE -fsanitize=address,undefined)
+  target_compile_options(kv_options INTERFACE
+    "$<${kv_checked}:-fsanitize=address,undefined;-fno-sanitize-recover=all;-fno-omit-frame-pointer>")
+  target_link_options(kv_options INTERFACE -fsanitize=address,undefined -fuse-ld=gold)
 endif()
 if(KV_FUZZ)
-  target_compile_options(kv_options INTERFACE -fsanitize=fuzzer-no-link,address,undefined
-                                              -fno-sanitize-recover=all)
+  target_compile_options(kv_options INTERFACE
+    "$<${kv_checked}:-fsanitize=fuzzer-no-link,address,undefined;-fno-sanitize-recover=all>")
   target_link_options(kv_options INTERFACE -fsanitize=address,undefined)
 endif()
 
@@ -102,9 +104,11 @@ function(kv_embed_layouts)
   target_link_libraries(kv_layouts PUBLIC kv_options)
 endfunction()
 
-# What the tests' own code is compiled with. Under the sanitizers optimizing it costs more time than it saves:
-# the checked code is in the libraries.
-set(kv_test_flags $<$<BOOL:${KV_SANITIZE}>:-O0>)
+# What the tests' own code is compiled with. Under the sanitizers, optimizing it costs more time than it saves, and
+# checking it for undefined behaviour nearly doubles it: the code that is to be checked is in the libraries.
+set(kv_test_flags "$<$<BOOL:${KV_SANITIZE}>:-O0;-fno-sanitize=undefined>")
+
+add_custom_target(tests)  # all test programs, with what they use
 
 # kv_add_test(folder [lib...]): one test program for tests/<folder>.
 function(kv_add_test folder)
@@ -115,6 +119,9 @@ function(kv_add_test folder)
     target_link_libraries(test-${folder} PRIVATE ${ARGN} GTest::gmock)
     target_compile_options(test-${folder} PRIVATE ${kv_test_flags})
     kv_precompiled(test-${folder} test)
+    add_dependencies(tests test-${folder})
+    # Loading the precompiled header costs a source two seconds, most of what a small one takes.
+    set_target_properties(test-${folder} PROPERTIES UNITY_BUILD ${KV_SANITIZE} UNITY_BUILD_BATCH_SIZE 3)
     add_test(NAME ${folder} COMMAND test-${folder})
     set_tests_properties(${folder} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;SDL_AUDIODRIVER=dummy;KV_ASSETS=${PROJECT_BINARY_DIR}/bin")
   endif()
@@ -125,4 +132,16 @@ function(kv_add_program)
   add_executable(vantri ${PROJECT_SOURCE_DIR}/src/app/main.cpp)
   target_link_libraries(vantri PRIVATE kv_app_ui)
   set_target_properties(vantri PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+endfunction()
+
+set(KV_ART ${PROJECT_SOURCE_DIR}/art CACHE PATH "Pictures and sounds that take the place of the game's own")
+
+# kv_art_stamp(kind out): sets `out` to a file that changes with the files of art/<kind>/. Every build looks.
+function(kv_art_stamp kind out)
+  set(stamp ${PROJECT_BINARY_DIR}/art-${kind}.stamp)
+  add_custom_target(art-${kind} BYPRODUCTS ${stamp}
+    COMMAND ${CMAKE_COMMAND} -DFOLDER=${KV_ART}/${kind} -DOUT=${stamp} -P ${PROJECT_SOURCE_DIR}/cmake/ArtStamp.cmake
+    COMMENT "Looking into art/${kind}"
+    VERBATIM)
+  set(${out} ${stamp} PARENT_SCOPE)
 endfunction()

@@ -1,6 +1,7 @@
 #include "platform/Files.h"
 
 #include <fcntl.h>
+#include <fnmatch.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -70,27 +71,14 @@ std::string FoldCase(std::string_view name) {
   return folded;
 }
 
-/// Pattern matching with "*" and "?", in time proportional to both lengths multiplied.
-bool Matches(std::string_view name, std::string_view pattern) {
-  std::size_t n = 0;
-  std::size_t p = 0;
-  std::size_t star = std::string_view::npos;
-  std::size_t resume = 0;
-  while (n < name.size()) {
-    if (p < pattern.size() && pattern[p] == '*') {
-      star = p++;
-      resume = n;
-    } else if (p < pattern.size() && (pattern[p] == '?' || pattern[p] == name[n])) {
-      ++p;
-      ++n;
-    } else if (star != std::string_view::npos) {
-      p = star + 1;
-      n = ++resume;
-    } else {
-      return false;
-    }
+/// The pattern for fnmatch. A name that is part of it may hold what is special there but not to us.
+std::string Glob(std::string_view pattern) {
+  std::string glob;
+  for (const char c : pattern) {
+    if (c == '[' || c == '\\') glob += '\\';
+    glob += c;
   }
-  return pattern.find_first_not_of('*', p) == std::string_view::npos;
+  return glob;
 }
 
 bool Exists(const fs::path& path) {
@@ -223,13 +211,13 @@ bool FileExists(std::string_view path) {
 }
 
 std::vector<std::string> List(std::string_view folder, std::string_view pattern) {
-  const std::string wanted = FoldCase(pattern);
+  const std::string wanted = Glob(FoldCase(pattern));
   std::vector<std::pair<std::string, std::string>> found;  // folded and real name
   VisitFolder(folder.empty() ? "." : ResolvePath(folder), [&](const fs::directory_entry& entry) {
     std::error_code error;
     std::string name = entry.path().filename().string();
     std::string folded = FoldCase(name);
-    if (Matches(folded, wanted) && entry.is_regular_file(error)) {
+    if (::fnmatch(wanted.c_str(), folded.c_str(), 0) == 0 && entry.is_regular_file(error)) {
       found.emplace_back(std::move(folded), std::move(name));
     }
     return true;

@@ -9,7 +9,6 @@
 #include <utility>
 
 #include "platform/Files.h"
-#include "platform/WaveFile.h"
 
 namespace kv {
 namespace {
@@ -23,6 +22,7 @@ constexpr int kRate = 44100;
 constexpr int kChannels = 2;
 constexpr int kBlock = 512;  // frames handed over at a time: 12 ms of delay, 23 ms for closing
 constexpr std::size_t kLargestWave = 16U << 20U;
+constexpr std::size_t kWaveHead = 12;  // "RIFF", size, "WAVE"
 
 constexpr int kWakeEarlyMs = 400;  // after the first buffer is loaded: the first window stands by then
 constexpr int kRestMs = 5000;      // without a new sound, then the device is closed
@@ -86,6 +86,7 @@ struct SdlSoundDevice::Mixer {
 };
 
 struct SdlSoundDevice::Buffer {
+  std::string path;
   std::string bytes;
   std::unique_ptr<Mix_Chunk, decltype(&Mix_FreeChunk)> chunk{nullptr, nullptr};
 
@@ -96,11 +97,14 @@ struct SdlSoundDevice::Buffer {
       why = file.error;
       return {};
     }
-    if (!ReadWave(*file.bytes)) {
+    // The mixer reads the rest. It would take other kinds of file too, and modules to play them with.
+    const std::string_view head = std::string_view(*file.bytes).substr(0, kWaveHead);
+    if (!head.starts_with("RIFF") || !head.ends_with("WAVE")) {
       why = "it is not a wave file";
       return {};
     }
     auto buffer = std::make_unique<Buffer>();
+    buffer->path = wavePath;
     buffer->bytes = std::move(*file.bytes);
     return buffer;
   }
@@ -111,6 +115,7 @@ struct SdlSoundDevice::Buffer {
       SDL_RWops* stream = mixer.fromMemory(bytes.data(), static_cast<int>(bytes.size()));
       chunk = {mixer.loadWave(stream, 1), mixer.freeChunk};
       std::string().swap(bytes);
+      if (chunk == nullptr) Note("no sound from " + path + ": it is damaged");
     }
     return chunk != nullptr;
   }

@@ -10,7 +10,8 @@ class SoundDevice {
  public:
   virtual ~SoundDevice() = default;
   /// Loads a wave file into a new buffer and returns its number (from 0 upwards), or -1 when the file is
-  /// missing or broken (noted on standard error).
+  /// missing or no wave file. One whose inside is damaged has a buffer that plays nothing. Both are noted on
+  /// standard error.
   virtual int LoadBuffer(const std::string& wavePath) = 0;
   /// Rewinds the buffer and plays it once; a number that is not a buffer plays nothing.
   virtual void PlayBuffer(int buffer) = 0;

@@ -91,6 +91,10 @@ TEST(Files, ListsMatchingFilesInAnOrderThatIgnoresCase) {
               ElementsAre(".vnt", "ALPHA.vnt", "Alpha.VNT", "beta.vnt", "gamma.vnt"));
   EXPECT_THAT(List(folder.path(), "?E*t"), ElementsAre("beta.vnt"));
   EXPECT_THAT(List(folder / "missing", "*"), IsEmpty());
+  // Only "*" and "?" stand for others: a player may be named like this.
+  folder.Put("[ab]\\.jpg", "");
+  folder.Put("a.jpg", "");
+  EXPECT_THAT(List(folder.path(), "[AB]\\.*"), ElementsAre("[ab]\\.jpg"));
 }
 
 TEST(Files, AtomicWriteReplacesTheFileAndLeavesNothingBeside) {

@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "ModuleWriter.h"
+#include "packing/ModuleWriter.h"
 #include "platform/ModuleImage.h"
 
 namespace kv {

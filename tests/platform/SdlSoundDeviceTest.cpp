@@ -119,12 +119,12 @@ TEST_F(SdlSoundDeviceTest, WithoutADeviceThereIsSilenceAndOneNote) {
   EXPECT_TRUE(device.Awake());
 }
 
-TEST_F(SdlSoundDeviceTest, AMissingOrBrokenWaveIsNoBufferAndIsNoted) {
+TEST_F(SdlSoundDeviceTest, AMissingOrOtherFileIsNoBufferAndIsNoted) {
   UseDriver("dummy");
   SdlSoundDevice device(scheduler);
   folder.Put("empty.wav", "");
   folder.Put("text.wav", "this is not a sound");
-  folder.Put("cut.wav", WaveParts{}.Bytes().substr(0, 200));
+  folder.Put("cut.wav", WaveParts{}.Bytes().substr(0, 11));
   for (const char* name : {"missing.wav", "empty.wav", "text.wav", "cut.wav"}) {
     testing::internal::CaptureStderr();
     EXPECT_EQ(device.LoadBuffer(folder / name), -1) << name;
@@ -134,6 +134,35 @@ TEST_F(SdlSoundDeviceTest, AMissingOrBrokenWaveIsNoBufferAndIsNoted) {
   device.PlayBuffer(-1);
   device.PlayBuffer(0);
   EXPECT_FALSE(device.Awake());
+}
+
+TEST_F(SdlSoundDeviceTest, ADamagedWaveIsNotedAndHarmsNoOther) {
+  UseDiskDriver();
+  SdlSoundDevice device(scheduler);
+  const std::string whole = WaveParts{}.Bytes();
+  folder.Put("headless.wav", whole.substr(0, 30));
+  folder.Put("unknown.wav", WaveParts{.format = 77}.Bytes());
+  folder.Put("rateless.wav", WaveParts{.rate = 0}.Bytes());
+  int buffer = 0;
+  for (const char* name : {"headless.wav", "unknown.wav", "rateless.wav"}) {
+    EXPECT_EQ(device.LoadBuffer(folder / name), buffer) << name;
+    testing::internal::CaptureStderr();
+    device.PlayBuffer(buffer++);
+    EXPECT_NE(testing::internal::GetCapturedStderr().find(name), std::string::npos);
+  }
+  // Whatever a byte becomes, it is played or it is silent.
+  for (std::size_t at = 0; at < 44; ++at) {
+    std::string damaged = whole;
+    damaged[at] = static_cast<char>(damaged[at] ^ 0xFF);
+    folder.Put("damaged.wav", damaged);
+    testing::internal::CaptureStderr();
+    device.PlayOnce(folder / "damaged.wav");
+    (void)testing::internal::GetCapturedStderr();
+  }
+  const int good = device.LoadBuffer(PutWave("good.wav"));
+  folder.Put("heard.raw", "");
+  device.PlayBuffer(good);
+  EXPECT_TRUE(Soon([this] { return Heard(); }));
 }
 
 }  // namespace

@@ -5,8 +5,8 @@
 #include <cstdio>
 #include <cstring>
 
-#include "Catalogue.h"
-#include "Encode.h"
+#include "packing/Catalogue.h"
+#include "packing/Encode.h"
 #include "presentation/PictureDecoder.h"
 #include "presentation/PictureSizes.h"
 #include "presentation/Pictures.h"

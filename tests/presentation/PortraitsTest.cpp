@@ -78,7 +78,7 @@ std::string Jpeg(int width, int height) {
 }
 
 /// A number as bytes, the lowest first or, for a negative count, last.
-std::string Bytes(std::uint32_t number, int count) {
+std::string Little(std::uint32_t number, int count) {
   std::string bytes;
   for (int i = 0; i < std::abs(count); ++i) bytes.push_back(static_cast<char>(number >> 8 * i));
   return count > 0 ? bytes : std::string(bytes.rbegin(), bytes.rend());
@@ -90,7 +90,7 @@ std::string Forged(std::string jpeg, char frame, int side, int scans) {
   jpeg[at + 1] = frame;
   if (side > 0)
     jpeg.replace(at + 5, 4,
-                 Bytes(static_cast<std::uint32_t>(side), -2) + Bytes(static_cast<std::uint32_t>(side), -2));
+                 Little(static_cast<std::uint32_t>(side), -2) + Little(static_cast<std::uint32_t>(side), -2));
   const std::size_t scan = jpeg.find("\xFF\xDA");
   const std::string once = jpeg.substr(scan, jpeg.size() - 2 - scan);
   for (int i = 1; i < scans; ++i) jpeg.insert(scan, once);
@@ -98,13 +98,13 @@ std::string Forged(std::string jpeg, char frame, int side, int scans) {
 }
 
 std::string Bmp(std::uint32_t width, std::uint32_t height, std::uint32_t bits, std::uint32_t packing = 0) {
-  return "BM" + Bytes(154, 4) + Bytes(0, 4) + Bytes(54, 4) + Bytes(40, 4) + Bytes(width, 4) +
-         Bytes(height, 4) + Bytes(1, 2) + Bytes(bits, 2) + Bytes(packing, 4) + std::string(120, '\0');
+  return "BM" + Little(154, 4) + Little(0, 4) + Little(54, 4) + Little(40, 4) + Little(width, 4) +
+         Little(height, 4) + Little(1, 2) + Little(bits, 2) + Little(packing, 4) + std::string(120, '\0');
 }
 
 std::string Gif(std::uint32_t screen, std::uint32_t frame) {
-  return "GIF89a" + Bytes(screen, 2) + Bytes(screen, 2) + std::string("\x80\0\0\xFF\0\0\0\0\xFF", 9) + "," +
-         Bytes(0, 4) + Bytes(frame, 2) + Bytes(frame, 2) + std::string("\0\x02\x02\x44\x01\0;", 7);
+  return "GIF89a" + Little(screen, 2) + Little(screen, 2) + std::string("\x80\0\0\xFF\0\0\0\0\xFF", 9) + "," +
+         Little(0, 4) + Little(frame, 2) + Little(frame, 2) + std::string("\0\x02\x02\x44\x01\0;", 7);
 }
 
 TEST_F(PortraitsTest, HostileFilesFallBackToTheBuiltInPortrait) {

@@ -10,7 +10,7 @@ namespace {
 
 const QColor kIdle(128, 0, 0);
 const QColor kHot(255, 0, 0);
-const QColor kPressed(255, 255, 255);
+const QColor kPressedCross(255, 255, 255);
 constexpr QPoint kOnQuit(7, 7);
 
 class TitlebarTest : public SkinFixture {
@@ -36,10 +36,10 @@ TEST_F(TitlebarTest, TheCloseButtonShowsItsStateAndAsksToQuit) {
   EXPECT_EQ(bar.QuitColor(), kHot);
   EXPECT_EQ(sound.Count("hover"), 1);
   Press(bar.cmdQuit(), kOnQuit);
-  EXPECT_EQ(bar.QuitColor(), kPressed);
-  EXPECT_EQ(Pixel(bar.cmdQuit(), QPoint(7, 3)), kPressed);
+  EXPECT_EQ(bar.QuitColor(), kPressedCross);
+  EXPECT_EQ(Pixel(bar.cmdQuit(), QPoint(7, 3)), kPressedCross);
   Hover(bar.cmdQuit(), kOnQuit);
-  EXPECT_EQ(bar.QuitColor(), kPressed);
+  EXPECT_EQ(bar.QuitColor(), kPressedCross);
   EXPECT_EQ(quits, 0);
   Release(bar.cmdQuit(), kOnQuit);
   EXPECT_EQ(bar.QuitColor(), kIdle);

@@ -2,7 +2,7 @@
 
 #include <QTreeWidget>
 
-#include "Encode.h"
+#include "packing/Encode.h"
 #include "presentation/frmResViewer.h"
 #include "support/TempFolder.h"
 

@@ -5,28 +5,41 @@
 #include <sstream>
 #include <string>
 
+#include "ArtSounds.h"
 #include "Effects.h"
 #include "Master.h"
+#include "SoundFile.h"
 #include "platform/Files.h"
-#include "platform/WaveFile.h"
 
 namespace {
 
 using kv::sound::Effect;
 using kv::sound::Stereo;
 
-constexpr std::size_t kLargestWave = 16U << 20U;
+/// The effect as it is shipped: someone's own sound as it stands, or the effect brought to its loudness.
+bool Make(const Effect& effect, const kv::sound::ArtSounds& art, Stereo& sound) {
+  if (const auto own = art.sounds.find(effect.name); own != art.sounds.end()) {
+    sound = own->second;
+    return true;
+  }
+  sound = effect.make();
+  if (Master(sound, effect.loudness, effect.fadeOut)) return true;
+  std::cerr << effect.name << ": cannot be brought to " << effect.loudness << " LUFS without clipping (is "
+            << Loudness(sound) << ")\n";
+  return false;
+}
 
-int Build(const std::filesystem::path& folder) {
+int Build(const std::filesystem::path& folder, const std::string& artFolder) {
+  const auto art = artFolder.empty() ? kv::sound::ArtSounds{} : kv::sound::ReadArt(artFolder);
+  if (!art.fault.empty()) {
+    std::cerr << "build-sounds: " << art.fault << '\n';
+    return 1;
+  }
   std::error_code error;
   std::filesystem::create_directories(folder, error);
   for (const Effect& effect : kv::sound::Effects()) {
-    Stereo sound = effect.make();
-    if (!Master(sound, effect.loudness, effect.fadeOut)) {
-      std::cerr << effect.name << ": cannot be brought to " << effect.loudness
-                << " LUFS without clipping (is " << Loudness(sound) << ")\n";
-      return 1;
-    }
+    Stereo sound;
+    if (!Make(effect, art, sound)) return 1;
     const std::filesystem::path path = folder / (std::string(effect.name) + ".wav");
     const std::string trouble = kv::AtomicWrite(path.string(), WaveBytes(sound));
     if (!trouble.empty()) {
@@ -37,33 +50,20 @@ int Build(const std::filesystem::path& folder) {
   return 0;
 }
 
-Stereo Samples(const kv::WaveFile& wave) {
-  Stereo sound;
-  for (std::size_t i = 0; i + 4 <= wave.samples.size(); i += 4) {
-    const auto at = [&](std::size_t k) { return static_cast<unsigned char>(wave.samples[i + k]); };
-    sound.left.push_back(static_cast<std::int16_t>(at(0) | at(1) << 8) / 32767.0);
-    sound.right.push_back(static_cast<std::int16_t>(at(2) | at(3) << 8) / 32767.0);
-  }
-  return sound;
-}
-
 /// A Markdown table of what a listener would measure.
 int Table(const std::filesystem::path& folder) {
   std::cout << "| sound | length (s) | peak (dBFS) | loudness (LUFS) | spectrum centre (Hz) |\n"
             << "|---|---|---|---|---|\n";
   for (const Effect& effect : kv::sound::Effects()) {
-    const kv::FileBytes file =
-        kv::ReadWhole((folder / (std::string(effect.name) + ".wav")).string(), kLargestWave);
-    const auto wave = file.bytes ? kv::ReadWave(*file.bytes) : std::nullopt;
-    if (!wave || wave->bits != 16 || wave->channels != 2) {
-      std::cerr << effect.name << ": no 16-bit stereo wave file in " << folder.string() << '\n';
+    const auto [sound, fault] = kv::sound::ReadSound((folder / (std::string(effect.name) + ".wav")).string());
+    if (!fault.empty()) {
+      std::cerr << effect.name << ": " << fault << '\n';
       return 1;
     }
-    const Stereo sound = Samples(*wave);
     std::ostringstream line;
     line.setf(std::ios::fixed);
     line.precision(2);
-    line << "| " << effect.name << " | " << wave->seconds();
+    line << "| " << effect.name << " | " << static_cast<double>(sound.left.size()) / kv::sound::kRate;
     line.precision(1);
     line << " | " << Peak(sound) << " | " << Loudness(sound);
     line.precision(0);
@@ -76,9 +76,12 @@ int Table(const std::filesystem::path& folder) {
 }  // namespace
 
 int main(int count, char** arguments) {
-  if (count == 2) return Build(arguments[1]);
-  if (count == 3 && std::string(arguments[1]) == "--table") return Table(arguments[2]);
-  std::cerr << "build-sounds FOLDER          writes the wave files\n"
-               "build-sounds --table FOLDER  measures them\n";
+  const std::string first = count > 1 ? arguments[1] : "";
+  if (count == 2) return Build(first, "");
+  if (count == 4 && first == "--art") return Build(arguments[3], arguments[2]);
+  if (count == 3 && first == "--table") return Table(arguments[2]);
+  std::cerr << "build-sounds [--art ART] FOLDER  writes the wave files; those of ART/sounds take the "
+               "effects' places\n"
+               "build-sounds --table FOLDER      measures them\n";
   return 2;
 }

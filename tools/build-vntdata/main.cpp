@@ -4,19 +4,24 @@
 //   build-vntdata --picture N OUT.png  one picture in its stored size
 //   build-vntdata --sizes              how many bytes each picture takes
 //   build-vntdata --seeds FOLDER       small whole modules to start the fuzzing of the reader from
+// With --art FOLDER in front, the pictures of FOLDER/pictures take their painters' places.
 #include <QGuiApplication>
 #include <cstdio>
-#include <cstring>
 #include <string>
+#include <vector>
 
-#include "Catalogue.h"
-#include "Seeds.h"
-#include "Sheet.h"
+#include "packing/Art.h"
+#include "packing/Catalogue.h"
+#include "packing/Seeds.h"
+#include "packing/Sheet.h"
 #include "platform/Files.h"
+#include "portraits/Table.h"
 #include "presentation/PictureSizes.h"
 
 namespace kv::datafile {
 namespace {
+
+using Arguments = std::vector<std::string>;
 
 int Fail(const std::string& what) {
   std::fprintf(stderr, "build-vntdata: %s\n", what.c_str());
@@ -28,8 +33,8 @@ int Write(const std::string& path, const Bytes& bytes) {
   return error.empty() ? 0 : Fail(error);
 }
 
-int WriteDataFile(const std::string& path) {
-  const Groups groups = PaintAll();
+int WriteDataFile(const Catalogue& catalogue, const std::string& path) {
+  const Groups groups = catalogue.PaintAll(kDataFileSize);
   for (const auto& [type, entries] : groups) {
     for (const auto& [number, bytes] : entries) {
       if (bytes.empty()) return Fail("picture " + std::to_string(number) + " is missing");
@@ -38,13 +43,13 @@ int WriteDataFile(const std::string& path) {
   const auto module = WriteModule(groups, kDataFileSize);
   if (!module) {
     return Fail("the pictures need " + std::to_string(SmallestSize(groups)) + " bytes, the file has " +
-                std::to_string(kDataFileSize));
+                std::to_string(kDataFileSize) + " (--sizes tells what each takes)");
   }
   return Write(path, *module);
 }
 
-int PrintSizes() {
-  const Groups groups = PaintAll();
+int PrintSizes(const Catalogue& catalogue) {
+  const Groups groups = catalogue.PaintAll(kDataFileSize);
   for (const auto& [type, entries] : groups) {
     for (const auto& [number, bytes] : entries) {
       std::printf("%s %d %zu\n", type.c_str(), number, bytes.size());
@@ -54,6 +59,10 @@ int PrintSizes() {
   return 0;
 }
 
+int Save(const QImage& image, const std::string& path) {
+  return image.save(QString::fromStdString(path)) ? 0 : Fail("cannot write " + path);
+}
+
 int WriteSeeds(const std::string& folder) {
   for (const auto& [name, bytes] : SeedModules()) {
     if (const int failed = Write(folder + "/" + name, bytes); failed != 0) return failed;
@@ -61,21 +70,34 @@ int WriteSeeds(const std::string& folder) {
   return 0;
 }
 
-int Run(int count, char** arguments) {
-  const auto is = [&](int wanted, const char* option) {
-    return count == wanted && std::strcmp(arguments[1], option) == 0;
+int Do(const Catalogue& catalogue, const Arguments& wanted) {
+  const auto is = [&](std::size_t count, const char* option) {
+    return wanted.size() == count && wanted[0] == option;
   };
-  if (is(3, "--seeds")) return WriteSeeds(arguments[2]);
-  if (is(2, "--sizes")) return PrintSizes();
-  if (is(3, "--sheet"))
-    return ContactSheet().save(QString::fromUtf8(arguments[2])) ? 0 : Fail("cannot write");
-  if (is(4, "--picture")) {
-    const int number = std::atoi(arguments[2]);
+  if (is(2, "--seeds")) return WriteSeeds(wanted[1]);
+  if (is(1, "--sizes")) return PrintSizes(catalogue);
+  if (is(2, "--sheet")) return Save(ContactSheet(catalogue), wanted[1]);
+  if (is(3, "--picture")) {
+    const int number = std::atoi(wanted[1].c_str());
     if (LayoutSizeOf(number) == LayoutSize{}) return Fail("no such picture");
-    return Paint(number).save(QString::fromUtf8(arguments[3])) ? 0 : Fail("cannot write");
+    return Save(catalogue.Paint(number), wanted[2]);
   }
-  if (count == 2 && arguments[1][0] != '-') return WriteDataFile(arguments[1]);
+  if (wanted.size() == 1 && wanted[0][0] != '-') return WriteDataFile(catalogue, wanted[0]);
   return Fail("say where the data file goes");
+}
+
+int Run(Arguments arguments) {
+  Art art;
+  if (arguments.size() > 2 && arguments[0] == "--art") {
+    art = ReadArt(arguments[1]);
+    if (!art.fault.empty()) return Fail(art.fault);
+    arguments.erase(arguments.begin(), arguments.begin() + 2);
+  }
+  BustTable table = ReadBusts();
+  if (!table.fault.empty()) return Fail(table.fault);
+  const Catalogue catalogue(std::move(table.rows), std::move(art.pictures));
+  if (const std::string fault = catalogue.Fault(); !fault.empty()) return Fail(fault);
+  return Do(catalogue, arguments);
 }
 
 }  // namespace
@@ -84,5 +106,5 @@ int Run(int count, char** arguments) {
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");  // it paints, but shows nothing
   const QGuiApplication application(argc, argv);
-  return kv::datafile::Run(argc, argv);
+  return kv::datafile::Run({argv + 1, argv + argc});
 }

@@ -1,0 +1,15 @@
+# Writes OUT, a list of the files in FOLDER with what they hold, but only when it differs: a picture that is
+# added, removed, or replaced by an older one makes whoever depends on the list run again, and nothing else does.
+file(GLOB files LIST_DIRECTORIES false RELATIVE ${FOLDER} ${FOLDER}/*)
+set(text "")
+foreach(name ${files})
+  file(SHA256 ${FOLDER}/${name} hash)
+  string(APPEND text "${hash} ${name}\n")
+endforeach()
+set(old "-")
+if(EXISTS ${OUT})
+  file(READ ${OUT} old)
+endif()
+if(NOT text STREQUAL old)
+  file(WRITE ${OUT} "${text}")
+endif()
