@@ -58,7 +58,7 @@ class Link {
   [[nodiscard]] bool connected() const { return tcpSock_.State() == TcpSocket::Status::Connected; }
   /// Messages go in and out. False once "[Quit]" has been sent.
   [[nodiscard]] bool pumping() const { return tmrNet_->Enabled(); }
-  [[nodiscard]] TcpSocket& socket() const { return tcpSock_; }
+  [[nodiscard]] TcpSocket& tcpSock() const { return tcpSock_; }
   /// A message with this command has not left yet.
   [[nodiscard]] bool Unsent(std::string_view command) const;
   [[nodiscard]] std::size_t waiting() const { return lstReceive_.size(); }

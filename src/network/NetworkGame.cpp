@@ -113,8 +113,8 @@ void NetworkGame::SendHello() {
   // there.
   const std::string file = "[File]" + FileNameOf(player_->FileName);
   NetSend(found && ParseMessage(file) ? file : "[File]0");
-  player_->LastIP = link_.socket().RemoteHost();
-  player_->LastPort = link_.socket().LocalPort();
+  player_->LastIP = link_.tcpSock().RemoteHost();
+  player_->LastPort = link_.tcpSock().LocalPort();
   player_->WritePlayerFile();
 }
 
@@ -141,7 +141,7 @@ void NetworkGame::Open(int port, const std::string& remoteHost) {
 
 void NetworkGame::Bind(int port, const std::string& address) {
   link_.CloseConnection();
-  link_.socket().Bind(port, address);
+  link_.tcpSock().Bind(port, address);
 }
 
 void NetworkGame::ToggleMode() {

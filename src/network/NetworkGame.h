@@ -45,7 +45,7 @@ class NetworkGame final : public MatchNetwork {
   void Open(int port, const std::string& remoteHost);
   /// Closes what is open; from now on this address of the machine is used.
   void Bind(int port, const std::string& address);
-  [[nodiscard]] std::string LocalAddress() const { return link_.socket().LocalIP(); }
+  [[nodiscard]] std::string LocalAddress() const { return link_.tcpSock().LocalIP(); }
   [[nodiscard]] bool connected() const { return link_.connected(); }
   /// False once the peer's version has turned out to be another one.
   [[nodiscard]] bool versionMatches() const { return peer_.versionMatches; }

@@ -3,41 +3,39 @@
 namespace kv {
 namespace {
 
-// Milliseconds; all but the first three are those of the lobby.
+// Milliseconds.
 constexpr int kHostInterval = 20;
 constexpr int kJoinInterval = 1000;  // also between one try and the next
-constexpr int kModeInterval = 1000;  // before the other side can press Start: the two must not cross
-constexpr int kShowStartInterval = 2200;
-constexpr int kNetWaitInterval = 200;
-
-constexpr std::int32_t kTradedCredits = 10;
+constexpr int kModeInterval = 1000;  // before the other side can press Start
+constexpr int kStartInterval = 20;   // until Start is pressed once it can be
 
 }  // namespace
 
 PeerLobby::PeerLobby(const PeerServices& services, std::function<void()> greeted)
     : PeerScreen(services),
       greeted_(std::move(greeted)),
+      lobby_({services.scheduler, services.report, services.navigator, services.network, services.player,
+              life()},
+             *this),
       tmrOpen_(
           NewTimer(services.options.hosting ? kHostInterval : kJoinInterval, [this] { OpenConnection(); })),
       tmrMode_(NewTimer(kModeInterval, [this] { ChooseMode(); })),
-      tmrShowStart_(NewTimer(kShowStartInterval, [this] { Start(); })),
-      tmrNetWait_(NewTimer(kNetWaitInterval, [this] { NetWaitTick(); })) {}
+      tmrStart_(NewTimer(kStartInterval, [this] { Start(); })) {}
 
 void PeerLobby::Closing() {
-  for (Timer* timer : {tmrOpen_.get(), tmrMode_.get(), tmrShowStart_.get(), tmrNetWait_.get()})
-    timer->setEnabled(false);
+  for (Timer* timer : {tmrOpen_.get(), tmrMode_.get(), tmrStart_.get()}) timer->setEnabled(false);
+  lobby_.Close();
 }
 
 void PeerLobby::Open() {
   NetworkGame& network = services().network;
-  if (!network.connected()) {
+  if (network.connected()) {
+    said_ = true;
+  } else {
     network.setHosting(services().options.hosting);
     tmrOpen_->setEnabled(true);
-    return;
   }
-  said_ = true;
-  network.TellStats();
-  if (network.versionMatches()) tmrShowStart_->setEnabled(true);
+  lobby_.Open();
 }
 
 void PeerLobby::OpenConnection() {
@@ -48,21 +46,9 @@ void PeerLobby::OpenConnection() {
   services().network.Open(options.port, options.hosting ? services().player.LastIP : options.address);
 }
 
-void PeerLobby::Greet() {
+void PeerLobby::ShowGreeting() {
   greeted_();
   tmrMode_->setEnabled(services().options.hosting);
-  tmrShowStart_->setEnabled(true);
-}
-
-void PeerLobby::RefuseStart() {
-  tmrShowStart_->setEnabled(false);
-  services().report.Note("the versions differ: no match can be played");
-}
-
-void PeerLobby::ModeReceived(bool arcade) {
-  tmrNetWait_->setEnabled(false);
-  if (services().network.arcade() != arcade) services().network.ToggleMode();
-  if (services().network.versionMatches()) tmrShowStart_->setEnabled(true);
 }
 
 void PeerLobby::ChooseMode() {
@@ -70,8 +56,14 @@ void PeerLobby::ChooseMode() {
   if (services().network.arcade() != services().options.arcade) services().network.ToggleMode();
 }
 
+void PeerLobby::ShowPlay() {
+  if (!services().network.versionMatches())
+    services().report.Note("the versions differ: no match can be played");
+  tmrStart_->setEnabled(lobby_.play().startShown && lobby_.play().startEnabled);
+}
+
 void PeerLobby::Start() {
-  tmrShowStart_->setEnabled(false);
+  tmrStart_->setEnabled(false);
   NetworkGame& network = services().network;
   if (!network.connected()) return;  // the line is lost; it will be given up in a moment
   const PeerOptions& options = services().options;
@@ -80,24 +72,7 @@ void PeerLobby::Start() {
     return;
   }
   if (!std::exchange(said_, true)) network.SubmitChat("Hello, " + services().game.OppName + ". Good luck!");
-  TradeWin();
-  network.PressStart();
-  tmrNetWait_->setEnabled(true);
-}
-
-/// As a person would who has nothing left to play for.
-void PeerLobby::TradeWin() {
-  clsPlayer& player = services().player;
-  if (player.Credits_MP->Value != 0 || player.Wins_MP->Value < 1) return;
-  player.Credits_MP->Value = kTradedCredits;
-  --player.Wins_MP->Value;
-}
-
-void PeerLobby::NetWaitTick() {
-  if (!services().network.peerReady()) return;
-  tmrNetWait_->setEnabled(false);
-  services().network.PrepareMatch();
-  services().navigator.OpenCards();
+  lobby_.PressStart();
 }
 
 }  // namespace kv

@@ -1,38 +1,37 @@
-// The lobby without its window: opens the connection, says hello, presses Start, and leaves when it has
-// played as often as it was told to.
+// The lobby without its window, and the one who sits in front of it: opens the connection, says hello,
+// presses Start, and leaves when it has played as often as it was told to.
 #pragma once
 
-#include "network/LobbyView.h"
+#include "network/Lobby.h"
 #include "vantri-peer/PeerScreen.h"
 
 namespace kv {
 
-class PeerLobby final : public PeerScreen, public LobbyView {
+class PeerLobby final : public PeerScreen, private LobbyScreen {
  public:
   /// `greeted` is told once a connection stands.
   PeerLobby(const PeerServices& services, std::function<void()> greeted);
 
+  [[nodiscard]] Lobby& lobby() { return lobby_; }
   void Open() override;
-  void Greet() override;
-  void RefuseStart() override;
-  void ModeReceived(bool arcade) override;
-  [[nodiscard]] bool waiting() const override { return tmrNetWait_->Enabled(); }
 
  protected:
   void Closing() override;
 
  private:
+  void ShowPlay() override;
+  void ShowAccount() override {}
+  void ShowGreeting() override;
+
   void OpenConnection();
   void ChooseMode();
   void Start();
-  void TradeWin();
-  void NetWaitTick();
 
   std::function<void()> greeted_;
+  Lobby lobby_;
   std::unique_ptr<Timer> tmrOpen_;
   std::unique_ptr<Timer> tmrMode_;
-  std::unique_ptr<Timer> tmrShowStart_;
-  std::unique_ptr<Timer> tmrNetWait_;
+  std::unique_ptr<Timer> tmrStart_;
   bool said_ = false;
 };
 

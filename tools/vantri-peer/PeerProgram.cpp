@@ -108,7 +108,7 @@ void PeerProgram::OpenCards() {
   disconnects_ = parts_.player.Disconnects;
   parts_.report.MatchBegins();
   auto cards = std::make_shared<PeerCards>(ScreenServices());
-  network_.CardsOpened(*cards);
+  network_.CardsOpened(cards->round());
   Show(cards);
 }
 
@@ -131,7 +131,7 @@ void PeerProgram::OpenLobby() {
 
 void PeerProgram::ShowLobby() {
   auto lobby = std::make_shared<PeerLobby>(ScreenServices(), [this] { met_ = true; });
-  network_.LobbyOpened(*lobby);
+  network_.LobbyOpened(lobby->lobby());
   Show(lobby);
 }
 
