@@ -111,8 +111,12 @@ void Lobby::PressMode() {
 }
 
 void Lobby::ModeReceived(bool arcade) {
-  tmrNetWait_->setEnabled(false);
   if (services_.network.arcade() != arcade) services_.network.ToggleMode();
+  TakeStartBack();
+}
+
+void Lobby::TakeStartBack() {
+  tmrNetWait_->setEnabled(false);
   play_.startEnabled = true;
   if (play_.startShown) play_.state = kPressStart;
   screen_.ShowPlay();

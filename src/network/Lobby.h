@@ -65,6 +65,7 @@ class Lobby final : public LobbyView {
   void Greet() override;
   void RefuseStart() override;
   void ModeReceived(bool arcade) override;
+  void TakeStartBack() override;
   [[nodiscard]] bool waiting() const override { return tmrNetWait_->Enabled(); }
 
   [[nodiscard]] const LobbyPlay& play() const { return play_; }

@@ -14,6 +14,8 @@ class LobbyView {
   virtual void RefuseStart() = 0;
   /// The host plays this mode now: a pending Start is taken back, and Start can be pressed again.
   virtual void ModeReceived(bool arcade) = 0;
+  /// The peer used this side's Start up and has come back: it can be pressed again.
+  virtual void TakeStartBack() = 0;
   /// Start was pressed and the peer's is awaited.
   [[nodiscard]] virtual bool waiting() const = 0;
 };

@@ -126,7 +126,13 @@ bool NetworkGame::Handle(const msg::Back&) {
 
 /// Whoever is ahead comes back: before the match the stake is withdrawn, in a match the peer has left it.
 void NetworkGame::PeerIsInLobby() {
+  // Both had pressed Start, and it has been to the cards by this side's: neither Start counts any longer.
+  const bool usedUp = lobby_ != nullptr && lobby_->waiting() && peer_.Ready(Place::Lobby);
   peer_.InLobby();
+  if (usedUp) {
+    lobby_->TakeStartBack();
+    SendStats();
+  }
   switch (place()) {
     case Place::Lobby:
     case Place::Over:  // its banner leads to the lobby

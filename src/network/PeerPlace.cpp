@@ -21,7 +21,7 @@ constexpr std::array<Row, kKinds> kTable = {{
     {L, L, L, K, K, F, T, F, K, L},  // Card
     {T, T, T, T, T, T, T, T, T, T},  // Mode
     {T, T, T, T, T, T, T, T, T, T},  // Chat
-    {L, F, T, T, T, T, T, T, T, T},  // Forf
+    {L, L, T, T, T, T, T, T, T, T},  // Forf
     {L, L, L, K, K, F, T, F, K, L},  // Hand
     {T, T, T, T, T, T, T, T, T, T},  // Name
     {T, T, T, T, F, F, F, T, T, T},  // Play
@@ -144,8 +144,10 @@ Course PeerPlace::CourseOf(std::size_t kind, Place place, bool waits) const {
     case Verdict::Take:
       return Course::Act;
     case Verdict::Keep:
-      // In a pause of this side's it is only early; from a banner both must have gone on.
-      return place == Place::Handover || (waits && Ready(place)) ? Course::Wait : Course::Refuse;
+      // In a pause of this side's it is only early; from a banner both must have gone on. Before the first
+      // set it was meant for a table that this side has left meanwhile, which the peer will hear of.
+      if (place == Place::Handover || (waits && Ready(place))) return Course::Wait;
+      return place == Place::Opening ? Course::Ignore : Course::Refuse;
     case Verdict::Late:
       return place == Place::Lobby && at_ == At::Lobby ? Course::Refuse : Course::Ignore;
     case Verdict::Ahead:
