@@ -78,4 +78,19 @@ class MatchCourse {
   }
 };
 
+/// Three sets in which both stand at once, on `yours` and `theirs`.
+[[nodiscard]] inline Deal ThreeSets(int yours, int theirs) {
+  return {.hand = {"ps1"}, .draws = {yours, theirs, yours, theirs, yours, theirs}};
+}
+
+/// The first `sets` of them, up to the last one's banner.
+inline void PlaySets(MatchTable& table, int sets) {
+  for (int set = 1; set <= sets; ++set) {
+    if (set == 1) table.Start();
+    table.strategy.turns = {[](AiOperations& side) { side.AI_Stand(); }};
+    table.Stand();
+    if (set < sets) table.Continue();
+  }
+}
+
 }  // namespace kv::test

@@ -6,29 +6,16 @@
 namespace kv {
 namespace {
 
-using test::Deal;
 using test::MatchCourse;
 using test::MatchTable;
+using test::PlaySets;
+using test::ThreeSets;
 
 void StandOpponent(AiOperations& side) {
   side.AI_Stand();
 }
 
 const std::string kModes[] = {std::string(kModeArcade), std::string(kModeNetwork)};
-
-/// Three sets in which both stand at once, on `yours` and `theirs`.
-Deal ThreeSets(int yours, int theirs) {
-  return {.hand = {"ps1"}, .draws = {yours, theirs, yours, theirs, yours, theirs}};
-}
-
-void PlaySets(MatchTable& table, int sets) {
-  for (int set = 1; set <= sets; ++set) {
-    if (set == 1) table.Start();
-    table.strategy.turns = {StandOpponent};
-    table.Stand();
-    if (set < sets) table.Continue();
-  }
-}
 
 TEST(Pauses, ACourseThroughAllOfThem) {
   for (const std::string& mode : kModes) {
@@ -230,57 +217,6 @@ TEST(Forfeit, AsABannerWaitsForThePeerGivesItsButtonBack) {
     EXPECT_FALSE(table.left);
     table.PeerReady();
     EXPECT_TRUE(table.left);
-  }
-}
-
-TEST(Booking, ADecidedLastSetIsBookedBeforeItIsShown) {
-  for (const int theirs : {5, 9}) {
-    MatchTable table(ThreeSets(7, theirs));
-    EXPECT_FALSE(table.engine->BookDecision());
-    std::vector<std::string> story;
-    table.inPause = [&] {
-      if (!table.engine->decision()) return;
-      const bool last = table.engine->decision()->endsMatch;
-      EXPECT_EQ(table.engine->BookDecision(), last);
-      story = table.screen.story;
-    };
-    PlaySets(table, 3);
-    EXPECT_EQ(table.booked, theirs == 5 ? 1 : -1);
-    EXPECT_EQ(table.bookings, 1);
-    EXPECT_EQ(table.screen.story, story) << "the result is not shown any more";
-    EXPECT_TRUE(table.screen.AllDark());
-    EXPECT_FALSE(table.gameTimer);
-    EXPECT_FALSE(table.engine->BookDecision()) << "only once";
-  }
-}
-
-TEST(Booking, OnlyAMatchLostAtTheTableIsWonAfterAll) {
-  MatchTable lost(ThreeSets(5, 9));
-  EXPECT_FALSE(lost.engine->LostByPlay());
-  PlaySets(lost, 2);
-  EXPECT_FALSE(lost.engine->LostByPlay());
-  lost.engine->WinAfterAll();
-  EXPECT_EQ(lost.turned, 0);
-  lost.Continue();
-  lost.strategy.turns = {StandOpponent};
-  lost.Stand();
-  EXPECT_TRUE(lost.engine->LostByPlay());
-  lost.engine->WinAfterAll();
-  lost.engine->WinAfterAll();
-  EXPECT_EQ(lost.turned, 1);
-  EXPECT_EQ(lost.engine->SetWins(Seat::Opponent), 2);
-  EXPECT_EQ(lost.screen.banner.text, "You have defeated your opponent!");
-  EXPECT_EQ(lost.sounds.back(), "winmatch");
-
-  MatchTable won(ThreeSets(9, 5));
-  PlaySets(won, 3);
-  MatchTable givenUp(ThreeSets(9, 5));
-  givenUp.Start();
-  givenUp.engine->Forfeit();
-  for (MatchTable* table : {&won, &givenUp}) {
-    EXPECT_FALSE(table->engine->LostByPlay());
-    table->engine->WinAfterAll();
-    EXPECT_EQ(table->turned, 0);
   }
 }
 

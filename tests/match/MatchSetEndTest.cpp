@@ -1,12 +1,14 @@
-// How a set is decided, each rule by a named deal.
+// How a set is decided, each rule by a named deal, and what a decided match is booked as.
 #include <gtest/gtest.h>
 
-#include "support/MatchTable.h"
+#include "match/MatchCourse.h"
 
 namespace kv {
 namespace {
 
 using test::MatchTable;
+using test::PlaySets;
+using test::ThreeSets;
 
 void StandOpponent(AiOperations& side) {
   side.AI_Stand();
@@ -157,6 +159,57 @@ TEST(SetEnd, ATiebreakerCountsAsTheLastCardOfThePlayerWhoCloses) {
     table.Stand();
     EXPECT_EQ(table.engine->Total(Seat::Player), table.engine->Total(Seat::Opponent));
     EXPECT_EQ(table.screen.banner.text, c.text) << table.Cards(Seat::Player);
+  }
+}
+
+TEST(Booking, ADecidedLastSetIsBookedBeforeItIsShown) {
+  for (const int theirs : {5, 9}) {
+    MatchTable table(ThreeSets(7, theirs));
+    EXPECT_FALSE(table.engine->BookDecision());
+    std::vector<std::string> story;
+    table.inPause = [&] {
+      if (!table.engine->decision()) return;
+      const bool last = table.engine->decision()->endsMatch;
+      EXPECT_EQ(table.engine->BookDecision(), last);
+      story = table.screen.story;
+    };
+    PlaySets(table, 3);
+    EXPECT_EQ(table.booked, theirs == 5 ? 1 : -1);
+    EXPECT_EQ(table.bookings, 1);
+    EXPECT_EQ(table.screen.story, story) << "the result is not shown any more";
+    EXPECT_TRUE(table.screen.AllDark());
+    EXPECT_FALSE(table.gameTimer);
+    EXPECT_FALSE(table.engine->BookDecision()) << "only once";
+  }
+}
+
+TEST(Booking, OnlyAMatchLostAtTheTableIsWonAfterAll) {
+  MatchTable lost(ThreeSets(5, 9));
+  EXPECT_FALSE(lost.engine->LostByPlay());
+  PlaySets(lost, 2);
+  EXPECT_FALSE(lost.engine->LostByPlay());
+  lost.engine->WinAfterAll();
+  EXPECT_EQ(lost.turned, 0);
+  lost.Continue();
+  lost.strategy.turns = {StandOpponent};
+  lost.Stand();
+  EXPECT_TRUE(lost.engine->LostByPlay());
+  lost.engine->WinAfterAll();
+  lost.engine->WinAfterAll();
+  EXPECT_EQ(lost.turned, 1);
+  EXPECT_EQ(lost.engine->SetWins(Seat::Opponent), 2);
+  EXPECT_EQ(lost.screen.banner.text, "You have defeated your opponent!");
+  EXPECT_EQ(lost.sounds.back(), "winmatch");
+
+  MatchTable won(ThreeSets(9, 5));
+  PlaySets(won, 3);
+  MatchTable givenUp(ThreeSets(9, 5));
+  givenUp.Start();
+  givenUp.engine->Forfeit();
+  for (MatchTable* table : {&won, &givenUp}) {
+    EXPECT_FALSE(table->engine->LostByPlay());
+    table->engine->WinAfterAll();
+    EXPECT_EQ(table->turned, 0);
   }
 }
 

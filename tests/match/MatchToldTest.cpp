@@ -60,6 +60,25 @@ TEST(Told, ADecidedSetDimsBothTables) {
   EXPECT_EQ(table.screen.banner.text, "The opponent wins the set.");
 }
 
+TEST(Told, TheBannersButtonIsItselfAgainAsSoonAsThePeerHasComeToo) {
+  MatchTable table({.draws = {9, 7}, .mode = std::string(kModeNetwork), .hosting = true});
+  table.Start();
+  EXPECT_FALSE(table.screen.controls.hand) << "the peer is not there yet";
+  table.PeerReady();
+  table.Stand();
+  table.PeerStands(5);
+  table.Continue();
+  EXPECT_EQ(table.screen.banner.caption, "(waiting)");
+  int pauses = 0;
+  table.inPause = [&] {
+    if (++pauses > 1) return;
+    EXPECT_EQ(table.screen.banner.caption, "continue") << "before the set begins";
+  };
+  table.PeerReady();
+  EXPECT_GE(pauses, 1);
+  EXPECT_FALSE(table.screen.banner.visible);
+}
+
 TEST(Told, AForfeitDarkensEverything) {
   for (const bool own : {true, false}) {
     MatchTable table({.hand = {"fp1"}, .draws = {9, 5}, .mode = std::string(kModeNetwork), .hosting = true});
