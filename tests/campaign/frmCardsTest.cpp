@@ -6,6 +6,7 @@
 #include "campaign/Circuit.h"
 #include "campaign/frmCards.h"
 #include "match/clsGame.h"
+#include "support/RecordingNetwork.h"
 #include "support/ScreenHand.h"
 #include "support/ScreenStage.h"
 #include "support/TempFolder.h"
@@ -13,21 +14,10 @@
 namespace kv {
 namespace {
 
-class Peer final : public MatchNetwork {
- public:
-  void NetSend(const std::string& message) override { sent.push_back(message); }
-  [[nodiscard]] bool hosting() const override { return host; }
-  [[nodiscard]] bool peerReady() const override { return ready; }
-  void SubmitChat(const std::string& line) override { sent.push_back(line); }
-
-  std::vector<std::string> sent;
-  bool host = true;
-  bool ready = false;
-};
-
 class CardsScreenTest : public testing::TestWithParam<const char*> {
  protected:
   CardsScreenTest() : stage(GetParam()), game(stage.player, {}) {
+    peer.host = true;
     stage.player.FileName = folder / "ann.vnt";
     stage.player.Cards->Fill(2);
     stage.player.Credits->Value = 700;
@@ -76,7 +66,7 @@ class CardsScreenTest : public testing::TestWithParam<const char*> {
 
   test::TempFolder folder;
   test::ScreenStage stage;
-  Peer peer;
+  test::RecordingNetwork peer;
   NetworkStake networkStake;
   clsGame game;
   std::unique_ptr<frmCards> screen;

@@ -259,15 +259,26 @@ TEST_P(frmGameTest, EverythingByFocusWhenTheGameKeysAreOff) {
 }
 
 TEST_P(frmGameTest, NoKeyDoesAnythingInANetworkMatch) {
-  MatchScreenSetup setup = Setup();
+  MatchScreenSetup setup = Setup({4});
   setup.mode = std::string(kModeNetwork);
   MatchScreen match(setup);
+  match.engine().setPlayerStarts(true);
+  match.ready = true;
   match.Begin();
   EXPECT_EQ(match.screen->lblWager().text(), QStringLiteral("Wager: 10\nBonus: 1"));
   EXPECT_EQ(match.screen->titlebar().Caption(), QStringLiteral("Network Match"));
   ScreenHand hand(*match.screen);
+  // It is the player's turn: in any other match each of these would act.
+  ASSERT_TRUE(match.engine().controls().hand && match.engine().controls().flips);
   hand.Key(Qt::Key_3, Qt::ShiftModifier);
+  hand.Key(Qt::Key_E);
   EXPECT_EQ(match.screen->hand().ctlYourDeck(3).Card(), "s11");
+  hand.Key(Qt::Key_1);
+  hand.Key(Qt::Key_Space);
+  hand.Key(Qt::Key_Tab);
+  EXPECT_EQ(match.engine().Total(Seat::Player), 4);
+  EXPECT_TRUE(match.engine().controls().endTurn);
+  EXPECT_FALSE(match.engine().PlayerStood());
 }
 
 TEST_P(frmGameTest, PortraitsAndLights) {

@@ -27,7 +27,7 @@ struct MatchScreenSetup {
   double pixelRatio = 1;
 };
 
-class MatchScreen final : public ScreenStage, public MatchBooking, public MatchNetwork {
+class MatchScreen final : public ScreenStage, public MatchBooking, public RecordingNetwork {
  public:
   explicit MatchScreen(const MatchScreenSetup& setup) : ScreenStage(setup.style, setup.pixelRatio) {
     player.TurnMode_Opt = 1;
@@ -47,12 +47,10 @@ class MatchScreen final : public ScreenStage, public MatchBooking, public MatchN
 
   void SaveWin() override { Book(); }
   void SaveLoss() override { Book(); }
-  void NetSend(const std::string& message) override { sent.push_back(message); }
 
   clsGame game;
   ScriptedStrategy strategy;
   std::unique_ptr<frmGame> screen;
-  std::vector<std::string> sent;
   int bookings = 0;
 
  private:
@@ -62,16 +60,9 @@ class MatchScreen final : public ScreenStage, public MatchBooking, public MatchN
     game.Wager = 10;
     game.YourPic = pictures.getPic(kPortraitBase + 7);
     game.OppPic = pictures.getPic(kPortraitBase + 5);
-    game.SideDeck = Hand(setup.hand);
-    game.CompDeck = Hand(setup.opponentHand);
+    game.SideDeck = DealtHand(setup.hand);
+    game.CompDeck = DealtHand(setup.opponentHand);
     game.AI = std::shared_ptr<Strategy>(std::shared_ptr<Strategy>(), &strategy);
-  }
-  static std::shared_ptr<clsDeckArray> Hand(const std::vector<const char*>& codes) {
-    auto hand = std::make_shared<clsDeckArray>();
-    for (std::size_t i = 0; i < codes.size(); ++i) {
-      hand->setValue(static_cast<int>(i) + 1, CardCode(codes[i]));
-    }
-    return hand;
   }
   void Book() {
     ++bookings;

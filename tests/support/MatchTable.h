@@ -15,6 +15,9 @@
 #include <vector>
 
 #include "match/MatchEngine.h"
+#include "support/DealtHand.h"
+#include "support/RecordingNetwork.h"
+#include "support/ToldScreen.h"
 
 namespace kv::test {
 
@@ -47,7 +50,7 @@ struct Deal {
 };
 
 class MatchTable final : public MatchView,
-                         public MatchNetwork,
+                         public RecordingNetwork,
                          public MatchBooking,
                          public Dialogs,
                          public Random {
@@ -55,8 +58,9 @@ class MatchTable final : public MatchView,
   explicit MatchTable(const Deal& deal) : deal_(deal), draws_(deal.draws.begin(), deal.draws.end()) {
     game.Mode = deal.mode;
     game.Wager = 10;
-    game.SideDeck = Hand(deal.hand, CardCode());
-    game.CompDeck = Hand(deal.opponentHand, EmptiedSlot());
+    game.SideDeck = DealtHand(deal.hand);
+    game.CompDeck = DealtHand(deal.opponentHand, EmptiedSlot());
+    host = deal.hosting;
     game.AI = std::shared_ptr<Strategy>(std::shared_ptr<Strategy>(), &strategy);
     if (!deal.playerStarts) deal_.options.turnMode = 3;  // any other option: the opponent begins
     engine = std::make_unique<MatchEngine>(game, deal_.options, *this, *this, *this, *this, *this);
@@ -64,7 +68,13 @@ class MatchTable final : public MatchView,
 
   /// Runs the timers until nothing moves any more: the player is to act, or the banner waits.
   void Run() {
-    while (gameTimer) engine->GameTick();
+    while (gameTimer || (quietTimer && pausesOpen == 0)) {
+      if (quietTimer && pausesOpen == 0) {
+        engine->QuietTick();  // the faster of the two
+      } else {
+        engine->GameTick();
+      }
+    }
   }
   void Start() {
     engine->Activate();
@@ -87,7 +97,22 @@ class MatchTable final : public MatchView,
     engine->Continue();
     Run();
   }
-  /// Wins or loses the set at once by standing over 20 or letting the opponent stand over 20.
+  /// The peer has come as far as this side, which goes on.
+  void PeerReady() {
+    ready = true;
+    engine->NetWaitTick();
+    ready = false;
+    Run();
+  }
+  /// The peer draws `draw`, if its turn has come, and stands.
+  void PeerStands(int draw) {
+    if (engine->peerTurn() != PeerTurn::Theirs) return;
+    engine->LoadNextCard(CardCode(CardType::MainDeck, draw), true);
+    engine->OppStand();
+    engine->AI_EndTurn();
+    Run();
+  }
+  /// Lays cards on a table that nobody has drawn.
   void LoadTable(Seat seat, const std::vector<const char*>& codes) {
     for (const char* code : codes) engine->LoadNextCard(CardCode(code), seat == Seat::Opponent);
   }
@@ -108,16 +133,18 @@ class MatchTable final : public MatchView,
   bool gameTimer = false;
   bool autoTimer = false;
   bool netTimer = false;
+  bool quietTimer = false;
   bool left = false;
   bool closing = false;  // every pause ends at once with false
-  bool ready = false;    // the peer's "[Play]" has arrived
   bool answer = true;    // to the forfeit question
   int booked = 0;        // +1 a win, -1 a loss, kept as a sum of bookings
   int bookings = 0;
+  int turned = 0;      // losses that were turned into wins
+  int pausesOpen = 0;  // one in another
   std::vector<std::string> sounds;
   std::vector<int> pauses;
-  std::vector<std::string> sent;
   std::vector<std::string> questions;
+  ToldScreen screen;
   std::function<void()> inPause;     // runs inside every pause
   std::function<void()> inQuestion;  // runs while the forfeit question is open
 
@@ -125,27 +152,44 @@ class MatchTable final : public MatchView,
   void TableChanged(Seat, int) override {}
   void HandChanged(Seat, int) override {}
   void SetWinAdded(Seat) override {}
-  void ControlsChanged() override {}
-  void LightsChanged() override {}
-  void BannerChanged() override {}
-  void RunTimer(MatchTimer timer, bool run) override {
-    (timer == MatchTimer::Game ? gameTimer : timer == MatchTimer::AutoDialogs ? autoTimer : netTimer) = run;
+  void ControlsChanged() override { screen.TellControls(engine->controls()); }
+  void LightsChanged() override {
+    screen.TellLights(engine->Light(Seat::Player), engine->Light(Seat::Opponent));
   }
-  void PlaySound(std::string_view effect) override { sounds.emplace_back(effect); }
+  void BannerChanged() override { screen.TellBanner(engine->banner()); }
+  void RunTimer(MatchTimer timer, bool run) override {
+    switch (timer) {
+      case MatchTimer::Game:
+        gameTimer = run;
+        break;
+      case MatchTimer::AutoDialogs:
+        autoTimer = run;
+        break;
+      case MatchTimer::NetWait:
+        netTimer = run;
+        break;
+      case MatchTimer::Quiet:
+        quietTimer = run;
+        break;
+    }
+  }
+  void PlaySound(std::string_view effect) override {
+    sounds.emplace_back(effect);
+    screen.Tell("sound " + sounds.back());
+  }
   bool Pause(int milliseconds) override {
     pauses.push_back(milliseconds);
+    screen.Tell("pause " + std::to_string(milliseconds));
+    ++pausesOpen;
     if (inPause) inPause();
+    --pausesOpen;
     return !closing;
   }
   void Leave() override { left = true; }
-  // MatchNetwork
-  void NetSend(const std::string& message) override { sent.push_back(message); }
-  bool hosting() const override { return deal_.hosting; }
-  bool peerReady() const override { return ready; }
-  void startTurnRepeat() override { sent.emplace_back("(repeat)"); }
   // MatchBooking
   void SaveWin() override { Book(1); }
   void SaveLoss() override { Book(-1); }
+  void TurnLossIntoWin() override { ++turned; }
   // Dialogs
   void Message(const std::string&, const std::string&, DialogIcon) override {}
   bool AskYesNo(const std::string& text, const std::string& title, DialogIcon icon) override {
@@ -166,14 +210,6 @@ class MatchTable final : public MatchView,
   }
 
  private:
-  static std::shared_ptr<clsDeckArray> Hand(const std::vector<const char*>& codes, const CardCode& none) {
-    auto hand = std::make_shared<clsDeckArray>();
-    for (int slot = 1; slot <= kHandSize; ++slot) {
-      const auto index = static_cast<std::size_t>(slot) - 1;
-      hand->setValue(slot, index < codes.size() ? CardCode(codes[index]) : none);
-    }
-    return hand;
-  }
   void Book(int result) {
     booked += result;
     ++bookings;

@@ -1,0 +1,227 @@
+// The options of a match: who begins, how long it pauses, what goes on by itself; and the main deck.
+#include <gtest/gtest.h>
+
+#include "match/MatchCourse.h"
+
+namespace kv {
+namespace {
+
+using test::MatchCourse;
+using test::MatchTable;
+
+void StandOpponent(AiOperations& side) {
+  side.AI_Stand();
+}
+
+TEST(Turn, LowTotalsEndByThemselvesUnlessTheOpponentStandsBehind) {
+  MatchTable table({.draws = {4, 3, 5, 2, 7}, .options = {.turnMode = 1, .autoTurn = true}});
+  table.Start();
+  EXPECT_EQ(table.Cards(Seat::Player), "no4 no5 no7");
+  EXPECT_TRUE(table.engine->controls().endTurn);
+
+  MatchTable behind({.draws = {3, 3, 1}, .options = {.turnMode = 1, .autoTurn = true}});
+  behind.strategy.turns = {StandOpponent};
+  behind.Start();
+  EXPECT_EQ(behind.Cards(Seat::Player), "no3 no1") << "4 against a standing 3 is the player's to decide";
+  EXPECT_TRUE(behind.engine->controls().stand);
+}
+
+TEST(AutoDialogs, ConfirmAfterTheirTick) {
+  MatchTable table({.draws = {9, 5, 7}, .options = {.turnMode = 1, .autoDialogs = true}});
+  table.strategy.turns = {StandOpponent};
+  table.Start();
+  table.Stand();
+  EXPECT_TRUE(table.autoTimer);
+  EXPECT_FALSE(table.engine->banner().buttonEnabled);
+  table.engine->Continue();
+  EXPECT_TRUE(table.engine->banner().visible) << "the disabled button does nothing";
+  table.engine->AutoDialogsTick();
+  table.Run();
+  EXPECT_FALSE(table.engine->banner().visible);
+  EXPECT_EQ(table.Cards(Seat::Player), "no7");
+}
+
+TEST(MainDeck, HoldsFourOfEachValue) {
+  MatchTable table({.draws = {3, 3, 3, 3, 3, 3, 8, 1}});
+  table.engine->Activate();
+  for (int i = 0; i < 4; ++i) table.engine->DeductDrawCard(3);
+  table.Run();
+  EXPECT_EQ(table.Cards(Seat::Player), "no8");
+  EXPECT_THROW(table.engine->DeductDrawCard(0), std::out_of_range);
+  EXPECT_THROW(table.engine->DeductDrawCard(11), std::out_of_range);
+}
+
+TEST(MainDeck, ReportedDrawsWithoutEndDoNotStopTheNext) {
+  MatchTable table({.draws = {8}});
+  table.engine->Activate();
+  for (int value = 1; value <= 10; ++value) {
+    for (int i = 0; i < 5; ++i) table.engine->DeductDrawCard(value);
+  }
+  table.Run();
+  EXPECT_EQ(table.Cards(Seat::Player), "no8");
+}
+
+/// Who begins each of three sets: "p" the player, "o" the opponent. Every set is tied on 5.
+std::string Starters(MatchOptions options, int firstDraw, const std::string& mode = std::string(kModeArcade),
+                     bool hosting = true) {
+  test::Deal deal{.draws = {}, .options = options, .mode = mode, .hosting = hosting};
+  if (firstDraw > 0) deal.draws = {firstDraw};
+  deal.draws.insert(deal.draws.end(), 6, 5);
+  MatchTable table(deal);
+  table.strategy.turns.assign(3, StandOpponent);
+  if (!hosting) table.engine->setPlayerStarts(true);
+  const bool network = mode != kModeArcade;
+  table.Start();
+  std::string starters;
+  while (starters.size() < 3) {
+    if (network) table.PeerReady();
+    table.PeerStands(5);
+    table.Stand();
+    table.PeerStands(5);
+    EXPECT_EQ(table.screen.banner.text, "The set is tied.");
+    starters += table.screen.Lines({"light on"}).at(0) == "your light on" ? "p" : "o";
+    table.screen.story.clear();
+    if (starters.size() < 3) table.Continue();
+  }
+  return starters;
+}
+
+TEST(Starts, FollowTheTurnSystem) {
+  // Drawn once, an even chance: below a half the opponent begins.
+  EXPECT_EQ(Starters({.turnMode = 0}, 5), "ooo");
+  EXPECT_EQ(Starters({.turnMode = 0}, 6), "ppp");
+  EXPECT_EQ(Starters({.turnMode = 1}, 0), "ppp");
+  EXPECT_EQ(Starters({.turnMode = 2}, 5), "opo");
+  EXPECT_EQ(Starters({.turnMode = 2}, 6), "pop");
+  EXPECT_EQ(Starters({.turnMode = 3}, 0), "ooo");
+}
+
+TEST(Starts, AlternateInANetworkMatchWhateverTheOption) {
+  for (const int mode : {0, 1, 2}) {
+    EXPECT_EQ(Starters({.turnMode = mode}, 5, std::string(kModeNetwork)), "opo") << mode;
+    EXPECT_EQ(Starters({.turnMode = mode}, 6, std::string(kModeNetworkArcade)), "pop") << mode;
+    EXPECT_EQ(Starters({.turnMode = mode}, 0, std::string(kModeNetwork), false), "pop") << "as the host said";
+  }
+}
+
+TEST(Pace, FollowsStyleAndSpeed) {
+  struct Case {
+    int speed;
+    bool ember;
+    std::vector<int> pauses;  // milliseconds, of a set that knows every pause
+  };
+  for (const Case& c : {Case{0, false, {380, 440, 374, 440, 280, 175, 440, 125, 440, 440, 280, 293}},
+                        Case{1, false, {350, 380, 323, 380, 250, 175, 380, 125, 380, 380, 250, 253}},
+                        Case{2, false, {320, 320, 272, 320, 220, 175, 320, 125, 320, 320, 220, 213}},
+                        Case{0, true, {380, 270, 229, 270, 280, 175, 270, 125, 270, 270, 280, 180}},
+                        Case{1, true, {350, 210, 178, 210, 250, 175, 210, 125, 210, 210, 250, 140}},
+                        Case{2, true, {320, 150, 127, 150, 220, 175, 150, 125, 150, 150, 220, 100}}}) {
+    MatchCourse course(std::string(kModeArcade), {.speed = c.speed, .emberStyle = c.ember});
+    course.Play();
+    EXPECT_EQ(course.table.pauses, c.pauses) << c.speed << (c.ember ? " Ember" : " Slate");
+  }
+}
+
+TEST(Pace, OfAnUnknownSpeedIsNormal) {
+  for (const int speed : {-1, 3, 250}) {
+    MatchCourse course(std::string(kModeArcade), {.speed = speed});
+    course.Play();
+    EXPECT_EQ(course.table.pauses, MatchCourse::Pauses(std::string(kModeArcade))) << speed;
+  }
+}
+
+TEST(Pace, OfTheTurnsIsTheSameForBothSidesOfANetworkMatch) {
+  for (const std::string_view mode : {kModeNetwork, kModeNetworkArcade}) {
+    for (const int speed : {0, 1, 2}) {
+      MatchCourse course(std::string(mode), {.speed = speed});
+      course.Play();
+      std::vector<int> expected = MatchCourse::Pauses(std::string(mode));
+      expected.front() = 350 - (speed - 1) * 30;  // only the pause before a set follows the speed
+      EXPECT_EQ(course.table.pauses, expected) << speed;
+    }
+  }
+}
+
+TEST(AutoTurn, EndsATurnBelowTen) {
+  struct Case {
+    int drawn;
+    bool option;
+    bool ends;
+  };
+  for (const Case& c :
+       {Case{9, true, true}, Case{10, true, false}, Case{9, false, false}, Case{1, true, true}}) {
+    MatchTable table({.draws = {c.drawn, 5, 9}, .options = {.turnMode = 1, .autoTurn = c.option}});
+    table.Start();
+    EXPECT_EQ(table.strategy.asked, c.ends ? 1 : 0) << c.drawn;
+    EXPECT_TRUE(table.screen.controls.endTurn);
+  }
+}
+
+TEST(AutoTurn, LeavesTheTurnToAPlayerWhoIsNotBehindAStandingOpponent) {
+  for (const int drawn : {4, 5, 6}) {
+    MatchTable table({.draws = {5, drawn, 9}, .playerStarts = false, .options = {.autoTurn = true}});
+    table.strategy.turns = {StandOpponent};
+    table.Start();
+    EXPECT_EQ(table.engine->Table(Seat::Player).size(), drawn < 5 ? 2U : 1U) << drawn << " against 5";
+  }
+}
+
+TEST(AutoDialogs, ConfirmTheEndOfTheMatchToo) {
+  MatchTable table({.draws = {9}, .options = {.turnMode = 1, .autoDialogs = true}});
+  table.Start();
+  table.engine->Forfeit();
+  EXPECT_TRUE(table.autoTimer);
+  EXPECT_FALSE(table.screen.banner.buttonEnabled);
+  table.sounds.clear();
+  table.engine->Forfeit();  // the title bar's close acts as the banner's button, which is off
+  EXPECT_TRUE(table.sounds.empty());
+  EXPECT_FALSE(table.left);
+  table.engine->AutoDialogsTick();
+  EXPECT_TRUE(table.left);
+  EXPECT_FALSE(table.autoTimer);
+  EXPECT_EQ(table.sounds, std::vector<std::string>{"click"});
+
+  MatchTable off({.draws = {9}});
+  off.Start();
+  off.sounds.clear();
+  off.engine->AutoDialogsTick();
+  EXPECT_TRUE(off.sounds.empty()) << "no banner, nothing to confirm";
+  off.engine->Forfeit();
+  EXPECT_FALSE(off.autoTimer);
+  EXPECT_TRUE(off.screen.banner.buttonEnabled);
+}
+
+TEST(MainDeck, AFifthCopyIsDrawnAgainAndEverySetHasAWholeDeck) {
+  MatchTable table({.draws = {3, 3, 3, 3, 3, 8, 5, 3}});
+  table.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); },
+                          [](AiOperations& side) { side.AI_EndTurn(); }, StandOpponent};
+  table.Start();
+  table.EndTurn();
+  table.EndTurn();
+  EXPECT_EQ(table.Cards(Seat::Opponent), "no3 no3") << "the fourth copy is still there";
+  EXPECT_EQ(table.Cards(Seat::Player), "no3 no3 no8") << "the fifth is not";
+  table.Stand();
+  EXPECT_EQ(table.Cards(Seat::Opponent), "no3 no3 no5");
+  table.Continue();
+  EXPECT_EQ(table.Cards(Seat::Player), "no3");
+  for (int value = 1; value <= 10; ++value) {
+    EXPECT_EQ(table.engine->MainDeckCount(value), value == 3 ? 1 : 0) << value;
+  }
+}
+
+TEST(MainDeck, IsOneForBothSidesOfANetworkMatch) {
+  for (const int peersCopies : {2, 3}) {
+    MatchTable table({.draws = {9, 3, 3, 8}, .mode = std::string(kModeNetwork), .hosting = true});
+    table.Start();
+    table.PeerReady();
+    table.EndTurn();
+    for (int copy = 0; copy < peersCopies; ++copy) table.engine->DeductDrawCard(3);
+    table.engine->AI_EndTurn();
+    table.Run();
+    EXPECT_EQ(table.Cards(Seat::Player), peersCopies == 2 ? "no3 no3" : "no3 no8");
+    EXPECT_EQ(table.sent.back(), peersCopies == 2 ? "[Card]no3" : "[Card]no8");
+  }
+}
+
+}  // namespace
+}  // namespace kv

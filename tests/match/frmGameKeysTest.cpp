@@ -1,0 +1,62 @@
+// Keys that are held too long on the match screen: only their first press counts.
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+
+#include "match/MatchScreenTest.h"
+#include "match/frmGame.h"
+
+namespace kv {
+namespace {
+
+using test::MatchScreen;
+using test::MatchScreenSetup;
+using test::ScreenHand;
+
+using frmGameKeysTest = test::MatchScreenTest;
+
+INSTANTIATE_TEST_SUITE_P(Styles, frmGameKeysTest, testing::Values("Slate", "Ember"),
+                         [](const auto& style) { return std::string(style.param); });
+
+/// The press that a keyboard sends again while a key is held.
+void Repeat(QWidget& widget, Qt::Key key, const QString& text = {}) {
+  QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text, true);
+  QCoreApplication::sendEvent(&widget, &press);
+}
+
+TEST_P(frmGameKeysTest, ARepeatedGameKeyDoesNothing) {
+  MatchScreen& match = Begin({4});
+  for (const auto& [key, text] :
+       {std::pair{Qt::Key_Space, " "}, {Qt::Key_Tab, "\t"}, {Qt::Key_1, "1"}, {Qt::Key_W, "w"}}) {
+    Repeat(*match.screen, key, QString::fromLatin1(text));
+    Repeat(match.screen->cmdTurn(), key, QString::fromLatin1(text));
+  }
+  EXPECT_EQ(match.engine().Total(Seat::Player), 4);
+  EXPECT_TRUE(match.engine().controls().endTurn) << "a turn ended by the key of the turn before";
+  EXPECT_FALSE(match.engine().PlayerStood());
+  EXPECT_EQ(match.screen->hand().ctlYourDeck(2).Card(), "fp2");
+  ScreenHand(*match.screen).Key(Qt::Key_W);
+  EXPECT_EQ(match.screen->hand().ctlYourDeck(2).Card(), "fm2") << "the first press of it acts";
+}
+
+TEST_P(frmGameKeysTest, ARepeatedEnterOrEscapeNeitherPlaysNorConfirmsNorAsks) {
+  MatchScreenSetup setup = Setup({4});
+  setup.options = [](clsPlayer& player) { player.KeysEn = false; };
+  MatchScreen match(setup);
+  match.Begin();
+  Repeat(match.screen->hand().ctlYourDeck(1), Qt::Key_Return, QStringLiteral("\r"));
+  Repeat(match.screen->hand().ctlYourDeck(1), Qt::Key_Space, QStringLiteral(" "));
+  EXPECT_EQ(match.engine().Total(Seat::Player), 4);
+  Repeat(*match.screen, Qt::Key_Escape);
+  EXPECT_TRUE(match.dialogs.boxes.empty());
+  match.dialogs.answers = {true};
+  ScreenHand(*match.screen).Key(Qt::Key_Escape);
+  ASSERT_TRUE(match.screen->banner().isVisible());
+  Repeat(*match.screen, Qt::Key_Return, QStringLiteral("\r"));
+  EXPECT_TRUE(match.screen->banner().isVisible());
+  EXPECT_EQ(match.recorded.Count("LeaveMatch"), 0);
+}
+
+}  // namespace
+}  // namespace kv
