@@ -15,6 +15,7 @@ struct Row {
   bool givesUp;
   std::function<bool()> is;
   std::optional<bool> hostWins;  // without one: whoever has won by the cards
+  bool comesFirst = false;       // the farewell waits at the host already when it moves
 };
 
 class CrossingTest : public test::NetworkFixture {
@@ -70,7 +71,12 @@ class CrossingTest : public test::NetworkFixture {
       leaver.match()->engine().Forfeit();
     });
     MatchEngine& engine = host.match()->engine();
-    byPlay ? engine.Stand() : engine.EndTurn();
+    const auto move = [&] { byPlay ? engine.Stand() : engine.EndTurn(); };
+    if (row.comesFirst) {
+      When([this] { return host.program->network()->link().waiting() > 0; }, move);
+    } else {
+      move();
+    }
     Pass(20000);
     ASSERT_TRUE(left);
     const bool won = row.hostWins.value_or(byPlay);
@@ -110,6 +116,8 @@ TEST_F(CrossingTest, BothBooksFitWhenTheLastMoveMeetsAFarewell) {
   const auto reached = [this] { return Decided(guest) && Unsent(guest, "[TAck]"); };
   const auto answered = [this] { return Decided(guest) && !Unsent(guest, "[TAck]"); };
   const Row rows[] = {
+      {"it moves while a farewell waits", 40, false, false, [] { return true; }, true, true},
+      {"it moves while a forfeit waits", 40, false, true, [] { return true; }, true, true},
       {"its turn has not left", 40, true, false, moving, false},
       {"its turn has left", 40, true, false, moved, {}},
       {"its turn is on the way", 40, false, false, moved, true},
