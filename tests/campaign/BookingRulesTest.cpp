@@ -75,6 +75,57 @@ TEST_F(BookingRulesTest, AnArcadeRunPaysFromItsOwnCredits) {
   EXPECT_EQ(StoredPlayer(player.FileName).fields.Arcade_Best, 1999999993);
 }
 
+/// A peer that gave up before it knew that it had won: the loss that was booked is put right.
+TEST_F(BookingRulesTest, ALossIsTurnedIntoAWinOnce) {
+  const auto account = [this](std::int32_t credits, int wins, int losses) {
+    const StoredPlayer file(player.FileName);
+    ASSERT_TRUE(file.loaded);
+    EXPECT_EQ(file.fields.Credits_MP->Value, credits);
+    EXPECT_EQ(file.fields.Wins_MP->Value, wins);
+    EXPECT_EQ(file.fields.Losses_MP->Value, losses);
+    EXPECT_EQ(file.fields.Disconnects, 0);
+    EXPECT_EQ(game.Wager, -1);
+  };
+  MeetPeer(100);
+  booking.TurnLossIntoWin();
+  EXPECT_FALSE(FileExists(player.FileName)) << "no match was lost";
+  Stake(40);
+  booking.TurnLossIntoWin();
+  EXPECT_EQ(game.Wager, 40) << "the match still runs";
+  booking.SaveLoss();
+  account(60, 0, 1);
+  for (int time = 0; time < 2; ++time) {
+    booking.TurnLossIntoWin();
+    account(144, 1, 0);
+  }
+  MeetPeer(144);
+  Stake(44);
+  booking.SaveWin();
+  booking.TurnLossIntoWin();
+  account(192, 2, 0);
+  Stake(10);
+  booking.SaveLoss();
+  Stake(0);
+  booking.TurnLossIntoWin();
+  EXPECT_EQ(game.Wager, 0) << "the loss is that of the match before";
+}
+
+TEST_F(BookingRulesTest, AMatchWithoutAStakeIsTurnedForTheMatchAlone) {
+  MeetPeer(100);
+  game.Mode = kModeNetworkArcade;
+  game.CreditsRef = std::make_shared<clsLong>();
+  game.WinsRef = std::make_shared<clsInteger>();
+  game.LossesRef = std::make_shared<clsInteger>();
+  game.Wager = 0;
+  booking.SaveLoss();
+  for (int time = 0; time < 2; ++time) booking.TurnLossIntoWin();
+  EXPECT_EQ(game.WinsRef->Value, 1);
+  EXPECT_EQ(game.LossesRef->Value, 0);
+  EXPECT_EQ(game.CreditsRef->Value, 0);
+  EXPECT_EQ(player.Credits_MP->Value, 100);
+  EXPECT_EQ(player.Wins_MP->Value + player.Losses_MP->Value + player.Disconnects, 0);
+}
+
 TEST_F(BookingRulesTest, UnlocksAreToldOnceAndPlayTheirSoundOnce) {
   struct Row {
     int tile;

@@ -2,10 +2,13 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
+#include <filesystem>
+#include <functional>
 
 #include "campaign/Circuit.h"
 #include "campaign/frmCards.h"
 #include "match/clsGame.h"
+#include "platform/Files.h"
 #include "support/RecordingNetwork.h"
 #include "support/ScreenHand.h"
 #include "support/ScreenStage.h"
@@ -224,6 +227,64 @@ TEST_P(CardsScreenTest, TheTitleBarAsksOnlyWhenAMatchIsAtStake) {
   EXPECT_EQ(asked(), std::vector<std::string>{"OpenCampaign"});
 }
 
+/// Every way out while a stake is open: a no changes nothing, a yes gives the match up.
+TEST_P(CardsScreenTest, EveryWayOutAsksWhileAStakeIsOpen) {
+  const std::pair<const char*, std::function<void()>> ways[] = {
+      {"title bar", [this] { screen->titlebar().Quit(); }},
+      {"Escape", [this] { Key(Qt::Key_Escape); }},
+      {"window", [this] { screen->close(); }},
+  };
+  const struct {
+    std::string_view mode;
+    const char* leads;
+    const char* ends;
+  } rows[] = {{kModeArcade, "ReloadCards", "EndProgram"},
+              {kModeCampaign, "OpenCampaign", "EndProgram"},
+              {kModeNetwork, "/disconnect", "/quit"}};
+  for (const auto& row : rows) {
+    for (const auto& [way, leave] : ways) {
+      SCOPED_TRACE(std::string(row.mode) + ", " + way);
+      const bool window = std::string_view(way) == "window";
+      game = clsGame(stage.player, {});
+      Open(row.mode);
+      ASSERT_TRUE(screen->round().entry().PeerProposes("20"));
+      screen->wager().Refresh();
+      Click(screen->wager().getcmdWager());
+      ASSERT_EQ(game.Wager, 20);
+      stage.recorded.calls.clear();
+      peer.sent.clear();
+      stage.sound.played.clear();
+      stage.dialogs.answers = {false, true};
+      leave();
+      EXPECT_EQ(stage.dialogs.boxes.back().text, "Are you sure you wish to forfeit this match?");
+      EXPECT_TRUE(asked().empty() && peer.sent.empty());
+      EXPECT_EQ(game.Wager, 20);
+      EXPECT_TRUE(screen->isVisible() && screen->titlebar().isEnabled());
+      EXPECT_EQ(stage.sound.Count("losematch"), 0);
+      leave();
+      EXPECT_TRUE(stage.dialogs.answers.empty()) << "it is asked again";
+      const std::vector<std::string>& heard = row.mode == kModeNetwork ? peer.sent : asked();
+      EXPECT_EQ(heard, std::vector<std::string>{window ? row.ends : row.leads});
+      EXPECT_EQ(stage.sound.Count("losematch"), window ? 0 : 1);
+    }
+  }
+}
+
+TEST_P(CardsScreenTest, TheEndButtonKeepsAHighScore) {
+  for (const int best : {249, 250}) {
+    game.CreditsRef->Value = 250;
+    stage.player.Arcade_Best = best;
+    std::filesystem::remove(stage.player.FileName);
+    Open(kModeArcade);
+    stage.recorded.calls.clear();
+    Click(screen->wager().getcmdEnd());
+    EXPECT_EQ(asked(), std::vector<std::string>{"OpenMenu"});
+    EXPECT_TRUE(stage.dialogs.boxes.empty());
+    EXPECT_EQ(FileExists(stage.player.FileName), best == 249) << "only a better one is one";
+    EXPECT_EQ(stage.player.Arcade_Best, 250);
+  }
+}
+
 TEST_P(CardsScreenTest, TheDeckViewAsksBeforeItDropsWhatIsNotStored) {
   Open(kModeDeckConfig);
   Click(screen->ctlDeck(3));
@@ -287,6 +348,38 @@ TEST_P(CardsScreenTest, TheHostProposesOnceThePeerIsReady) {
   EXPECT_EQ(screen->wager().getcmdWager().Caption(), QStringLiteral("(waiting)"));
   EXPECT_FALSE(screen->wager().getcmdWager().Enabled());
   EXPECT_EQ(game.Wager, -1);
+}
+
+TEST_P(CardsScreenTest, TheAmountHasTheFocusOnceItIsAskedForUnlessThePersonIsWriting) {
+  for (const bool host : {true, false}) {
+    for (const bool writing : {false, true}) {
+      SCOPED_TRACE(std::string(host ? "host" : "guest") + (writing ? ", writing" : ""));
+      peer.host = host;
+      peer.ready = false;
+      Open(kModeNetwork);
+      QLineEdit& box = screen->wager().gettxtWager();
+      auto& line = *screen->findChild<QLineEdit*>(QStringLiteral("txtSend"));
+      if (writing) line.setFocus();
+      stage.Settle(200);
+      EXPECT_FALSE(box.hasFocus());
+      if (host) {
+        peer.ready = true;
+      } else {
+        screen->round().Proposed(30);
+      }
+      stage.Settle(200);
+      EXPECT_EQ(box.hasFocus(), !writing);
+      EXPECT_EQ(line.hasFocus(), writing);
+      const ctlButton& button = screen->wager().getcmdWager();
+      EXPECT_EQ(button.Caption(), host ? QStringLiteral("propose") : QStringLiteral("accept"));
+      EXPECT_EQ(button.Enabled(), !host) << "there is nothing to propose yet";
+      for (const char* amount : {"5", ""}) {
+        box.setText(QString::fromUtf8(amount));
+        EXPECT_EQ(button.Enabled(), *amount != 0) << amount;
+        EXPECT_EQ(button.Caption(), QStringLiteral("propose"));
+      }
+    }
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(Styles, CardsScreenTest, testing::Values("Slate", "Ember"),

@@ -19,6 +19,14 @@ class LinkTest : public testing::Test {
     clock.Advance(10);
   }
 
+  /// The peer closes the line, and a new one is opened to it.
+  void Reconnect() {
+    peer.Close();
+    peer.Listen();
+    link.Connect(6000, "10.0.0.9");
+    clock.Advance(10);
+  }
+
   test::HandScheduler clock;
   test::LoopbackNet net{clock};
   test::LoopbackSocket socket{net, "10.0.0.1"};
@@ -65,16 +73,41 @@ TEST_F(LinkTest, WhatIsNotYetDueComesAgainInOrder) {
   EXPECT_EQ(messages, (std::vector<std::string>{"[Play]", "[Play]", "[Play]", "[Play]", "[Turn]"}));
 }
 
+/// A handler that shows a box is still at its message while a fresh connection stands behind the box.
 TEST_F(LinkTest, AHandlerAtWorkIsNotGivenTheNextMessage) {
   peer.SendData("[Quit]\x87[Turn]\x87");
   inHandler = [this] {
     inHandler = {};
+    Reconnect();
+    peer.SendData("[Play]\x87");
     clock.Advance(1000);
-    EXPECT_EQ(messages.size(), 1u);
-    link.CloseConnection();
+    EXPECT_EQ(messages, std::vector<std::string>{"[Quit]"});
   };
   clock.Advance(2000);
-  EXPECT_EQ(messages.size(), 1u);
+  EXPECT_EQ(messages, (std::vector<std::string>{"[Quit]", "[Play]"})) << "the old line's are gone with it";
+}
+
+TEST_F(LinkTest, WhatWasNotYetDueIsForgottenWithItsConnection) {
+  peer.SendData("[Card]no7\x87");
+  later = true;
+  inHandler = [this] {
+    inHandler = {};
+    Reconnect();
+  };
+  clock.Advance(100);
+  EXPECT_EQ(link.waiting(), 0u);
+}
+
+TEST_F(LinkTest, AGoodbyeCountsThoughTheLineIsClosedBehindIt) {
+  peer.SendData("[Chat]a\x87[Quit]\x87[Chat]b\x87");
+  peer.Close();
+  inHandler = [this] {
+    if (messages.back() == "[Quit]") link.CloseConnection();
+  };
+  clock.Advance(11000);
+  EXPECT_EQ(messages, (std::vector<std::string>{"[Chat]a", "[Quit]"}));
+  EXPECT_EQ(log, std::vector<std::string>{"greet"}) << "nothing is lost";
+  EXPECT_EQ(clock.RunningTimers(), 0);
 }
 
 TEST_F(LinkTest, QuitIsTheLastWord) {
@@ -102,10 +135,7 @@ TEST_F(LinkTest, WhoLeavesWaitsForThePeerASecondAndIsToldNothing) {
     clock.Advance(200);
     EXPECT_EQ(clock.RunningTimers(), 0);
     EXPECT_EQ(log.back(), "greet");
-    peer.Close();
-    peer.Listen();
-    link.Connect(6000, "10.0.0.9");
-    clock.Advance(10);
+    Reconnect();
   }
 }
 
@@ -134,12 +164,22 @@ TEST_F(LinkTest, NoiseEndsTheConnectionWithBoundedMemory) {
     EXPECT_EQ(link.waiting(), 0u);
     EXPECT_EQ(log.back().substr(0, 19), "0 The other side se");
     EXPECT_FALSE(link.connected());
-    peer.Close();
-    peer.Listen();
-    link.Connect(6000, "10.0.0.9");
-    clock.Advance(10);
-    EXPECT_TRUE(link.connected());
+    Reconnect();
+    ASSERT_TRUE(link.connected());
+    messages.clear();
+    peer.SendData("[Play]\x87");
+    clock.Advance(200);
+    EXPECT_EQ(messages, std::vector<std::string>{"[Play]"}) << "the next connection begins afresh";
   }
+}
+
+TEST_F(LinkTest, HalfAMessageIsDroppedWithItsLine) {
+  peer.SendData("[Chat]ha");
+  clock.Advance(200);
+  Reconnect();
+  peer.SendData("[Play]\x87");
+  clock.Advance(200);
+  EXPECT_EQ(messages, std::vector<std::string>{"[Play]"});
 }
 
 TEST_F(LinkTest, NobodyListens) {

@@ -1,56 +1,15 @@
-// A network game step by step: the greeting, the ways it ends, and a peer that says what it must not.
+// A network game step by step: the greeting, the way to a match, the ways it ends, and the lobby.
 #include <gtest/gtest.h>
 
-#include "network/TwoPrograms.h"
+#include "network/NetworkFixture.h"
+#include "support/ScreenHand.h"
 
 namespace kv {
 namespace {
 
 using test::NetworkPlayer;
-using test::TwoPrograms;
 
-class NetworkGameTest : public testing::Test, protected TwoPrograms {
- protected:
-  NetworkGameTest() {
-    for (NetworkPlayer* each : {&host, &guest}) each->record().AutoTurn_Opt = false;
-  }
-  /// A message that nobody's program has sent arrives and is handled.
-  void Forge(NetworkPlayer& to, const std::string& message) {
-    to.socket->Receive(message + "\x87");
-    Pass(250);
-  }
-  /// To the card screens, and with `settled` until the stake is agreed upon.
-  void ToCards(bool settled) {
-    host.continues = guest.continues = false;
-    Start();
-    if (settled) PlayUntil([this] { return Settled(); }, 50);
-    host.continues = guest.continues = true;
-  }
-  [[nodiscard]] bool Settled() const {
-    if (host.program->network()->arcade()) return BothOn("frmCards");
-    return host.program->game()->Wager == 50 && guest.program->game()->Wager == 50 && BothOn("frmCards");
-  }
-  /// To the first turn of a match for 50 credits; `seat` is the host's view of whose turn it is.
-  void ToTurn(Seat seat) {
-    ToCards(true);
-    NetworkPlayer& acts = seat == Seat::Player ? host : guest;
-    acts.plays = false;
-    PlayUntil([&] {
-      if (!BothOn("frmGame")) return false;
-      return acts.match()->engine().controls().endTurn &&
-             Other(acts).match()->engine().peerTurn() == PeerTurn::Theirs;
-    });
-    acts.plays = true;
-    Pass(500);
-  }
-  NetworkPlayer& Other(const NetworkPlayer& player) { return &player == &host ? guest : host; }
-  [[nodiscard]] static std::array<int, 4> Account(NetworkPlayer& player) {
-    const auto stored = std::make_unique<clsPlayer>(player.dialogs, player.random);
-    EXPECT_FALSE(stored->LoadPlayerFile(player.record().FileName));
-    return {stored->Credits_MP->Value, stored->Wins_MP->Value, stored->Losses_MP->Value, stored->Disconnects};
-  }
-  using Accounts = std::array<int, 4>;  // credits, wins, losses, disconnects, as they are on disk
-};
+using NetworkGameTest = test::NetworkFixture;
 
 TEST_F(NetworkGameTest, GreetingShowsWhoIsThere) {
   Meet();
@@ -353,72 +312,6 @@ TEST_F(NetworkGameTest, AScreenThatClosesUnderItsQuestionIsKeptUntilTheAnswer) {
   EXPECT_EQ(Account(guest), (Accounts{155, 1, 0, 0}));
 }
 
-// --- A peer that says what it must not -------------------------------------------------------------------
-
-TEST_F(NetworkGameTest, MessagesOutOfPlaceChangeNothing) {
-  Meet();
-  const auto refused = [this](NetworkPlayer& player, const std::string& message) {
-    const std::string line = "<< Unknown command: " + message + " - report as bug >>";
-    const auto count = [&] {
-      std::size_t found = 0;
-      const std::string& log = player.program->network()->chatLog();
-      for (auto at = log.find(line); at != std::string::npos; at = log.find(line, at + 1)) ++found;
-      return found;
-    };
-    const std::size_t before = count();
-    Forge(player, message);
-    EXPECT_EQ(count(), before + 1) << message;
-  };
-  for (const char* message :
-       {"[Xyzw]hello", "[Card]no7", "[Hand]1ps3", "[Stnd]", "[Turn]", "[Forf]", "[Acpt]", "[Wage]50",
-        "[WhoS]True", "[Name]Other", "[Port]12", "[Vers]1.3.0", "[File]0"}) {
-    refused(host, message);
-  }
-  refused(host, "[Mode]1");
-  EXPECT_EQ(host.program->game()->OppName, "Gus");
-
-  ToTurn(Seat::Player);
-  MatchEngine& engine = host.match()->engine();
-  const int total = engine.Total(Seat::Opponent);
-  for (const char* message : {"[Card]no7", "[Hand]1ps3", "[Stnd]", "[Play]", "[Wage]5", "[Acpt]"}) {
-    refused(host, message);
-  }
-  EXPECT_EQ(engine.Total(Seat::Opponent), total);
-  EXPECT_TRUE(engine.controls().endTurn) << "still this side's turn";
-
-  engine.EndTurn();
-  PlayUntil([this] { return guest.match()->engine().controls().endTurn; });
-  Pass(500);
-  refused(host, "[Card]no3");  // it has drawn
-  const int slot = 2;
-  Forge(host, "[Hand]2fp3");
-  EXPECT_EQ(engine.HandCard(Seat::Opponent, slot).text(), "00");
-  EXPECT_EQ(engine.Table(Seat::Opponent).back().text(), "fp3");
-  refused(host, "[Hand]3ps1");  // one side card a turn
-}
-
-TEST_F(NetworkGameTest, ATurnThatIsRepeatedEndsOnce) {
-  Meet();
-  ToTurn(Seat::Opponent);
-  const std::size_t before = host.socket->sent.size();
-  for (int time = 0; time < 3; ++time) host.socket->Receive("[Turn]\x87");
-  Pass(250);
-  EXPECT_EQ(host.match()->engine().peerTurn(), PeerTurn::NotTheirs);
-  Pass(2000);
-  const std::string answers = host.socket->sent.substr(before);
-  std::size_t count = 0;
-  for (auto at = answers.find("[TAck]"); at != std::string::npos; at = answers.find("[TAck]", at + 1))
-    ++count;
-  EXPECT_EQ(count, 3u);
-  EXPECT_FALSE(host.Saw("Unknown command"));
-}
-
-TEST_F(NetworkGameTest, AnOwnPictureIsOnlyLookedForInThePortraitFolder) {
-  Meet();
-  for (const char* name : {"[File]../../secret.vnt", "[File]/etc/x.vnt"}) Forge(host, name);
-  EXPECT_TRUE(host.Saw("<< Unknown command: [File]../../secret.vnt - report as bug >>"));
-}
-
 // --- The lobby -------------------------------------------------------------------------------------------
 
 TEST_F(NetworkGameTest, OnesOwnAddressCannotBeJoined) {
@@ -459,6 +352,24 @@ TEST_F(NetworkGameTest, AnAddressIsChosenFromTheList) {
   EXPECT_FALSE(list.isVisible());
   EXPECT_FALSE(host.Find<ctlButton>("cmdHost")->isEnabled());
   EXPECT_TRUE(host.Find<ctlButton>("cmdJoin")->isEnabled());
+}
+
+TEST_F(NetworkGameTest, EscapeInTheChatLineTakesTheLineBackAndNothingElse) {
+  Meet();
+  Screen* lobby = host.program->screen();
+  auto& line = *host.Find<QLineEdit>("txtSend");
+  lobby->activateWindow();
+  line.setFocus();
+  Pass(200);
+  line.setText(QStringLiteral("good"));
+  test::ScreenHand(*lobby).Key(Qt::Key_Escape);
+  Pass(500);
+  EXPECT_EQ(line.text(), QString());
+  EXPECT_FALSE(line.hasFocus());
+  EXPECT_EQ(host.ScreenName(), "frmNetwork");
+  EXPECT_TRUE(host.program->network()->connected());
+  test::ScreenHand(*lobby).Key(Qt::Key_Escape);
+  EXPECT_EQ(host.ScreenName(), "frmMenu") << "whoever is not writing leaves the lobby";
 }
 
 TEST_F(NetworkGameTest, AWinBuysTenCredits) {

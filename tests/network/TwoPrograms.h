@@ -55,6 +55,9 @@ class NetworkPlayer {
     player->LightPulse_Opt = false;  // nothing to see here
     player->AutoDialogs_Opt = chance_.Rnd() < 0.5;
     player->AutoTurn_Opt = chance_.Rnd() < 0.5;
+    player->TurnMode_Opt =
+        static_cast<std::uint8_t>(chance_.Rnd() * 3);  // random, the host begins, alternating
+    player->GameSpeed_Opt = static_cast<std::uint8_t>(chance_.Rnd() * 3);  // slow, normal, fast
     player->Interface_Opt = chance_.Rnd() < 0.5 ? "Slate" : "Ember";
     program->PlayerLoaded(std::move(player));
     OpenLobby();

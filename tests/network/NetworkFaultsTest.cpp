@@ -1,0 +1,118 @@
+// A peer that says what it must not: nothing changes, and the chat tells of it.
+#include "network/NetworkFixture.h"
+
+namespace kv {
+namespace {
+
+using NetworkFaultsTest = test::NetworkFixture;
+using test::NetworkPlayer;
+
+TEST_F(NetworkFaultsTest, MessagesOutOfPlaceChangeNothing) {
+  Meet();
+  for (const char* message :
+       {"[Xyzw]hello", "[Card]no7", "[Hand]1ps3", "[Stnd]", "[Turn]", "[Forf]", "[Acpt]", "[Wage]50",
+        "[WhoS]True", "[Name]Other", "[Port]12", "[Vers]1.3.0", "[File]0"}) {
+    Refused(host, message);
+  }
+  Refused(host, "[Mode]1");
+  EXPECT_FALSE(host.program->network()->arcade()) << "the host alone chooses the mode";
+  EXPECT_EQ(host.program->game()->OppName, "Gus");
+
+  ToTurn(Seat::Player);
+  MatchEngine& engine = host.match()->engine();
+  const int total = engine.Total(Seat::Opponent);
+  for (const char* message : {"[Card]no7", "[Hand]1ps3", "[Stnd]", "[Play]", "[Wage]5", "[Acpt]"}) {
+    Refused(host, message);
+  }
+  EXPECT_EQ(engine.Total(Seat::Opponent), total);
+  EXPECT_TRUE(engine.controls().endTurn) << "still this side's turn";
+
+  engine.EndTurn();
+  PlayUntil([this] { return guest.match()->engine().controls().endTurn; });
+  Pass(500);
+  Refused(host, "[Card]no3");  // it has drawn
+  const int slot = 2;
+  Forge(host, "[Hand]2fp3");
+  EXPECT_EQ(engine.HandCard(Seat::Opponent, slot).text(), "00");
+  EXPECT_EQ(engine.Table(Seat::Opponent).back().text(), "fp3");
+  Refused(host, "[Hand]3ps1");  // one side card a turn
+}
+
+TEST_F(NetworkFaultsTest, ATurnThatIsRepeatedEndsOnce) {
+  Meet();
+  ToTurn(Seat::Opponent);
+  const std::size_t before = host.socket->sent.size();
+  for (int time = 0; time < 3; ++time) host.socket->Receive("[Turn]\x87");
+  Pass(250);
+  EXPECT_EQ(host.match()->engine().peerTurn(), PeerTurn::NotTheirs);
+  Pass(2000);
+  const std::string answers = host.socket->sent.substr(before);
+  std::size_t count = 0;
+  for (auto at = answers.find("[TAck]"); at != std::string::npos; at = answers.find("[TAck]", at + 1))
+    ++count;
+  EXPECT_EQ(count, 3u);
+  EXPECT_FALSE(host.Saw("Unknown command"));
+}
+
+TEST_F(NetworkFaultsTest, AnOwnPictureIsOnlyLookedForInThePortraitFolder) {
+  Meet();
+  for (const char* name : {"[File]../../secret.vnt", "[File]/etc/x.vnt"}) Forge(host, name);
+  EXPECT_TRUE(host.Saw("<< Unknown command: [File]../../secret.vnt - report as bug >>"));
+}
+
+TEST_F(NetworkFaultsTest, AnAcceptanceNeedsAProposalThatStillStands) {
+  Meet();
+  ToCards(false);
+  Pass(500);
+  Refused(host, "[Acpt]");
+  host.Act(30);
+  Pass(500);
+  Refused(guest, "[Acpt]");  // it was asked, and has asked nothing
+  auto& wager = guest.program->screenAs<frmCards>()->wager();
+  wager.gettxtWager().setText("40");
+  wager.getcmdWager().click();
+  Pass(500);
+  Refused(host, "[Acpt]");  // its 30 are off the table
+  for (NetworkPlayer* each : {&host, &guest}) {
+    EXPECT_EQ(each->program->game()->Wager, -1);
+    EXPECT_EQ(Account(*each), (Accounts{100, 0, 0, 0}));
+  }
+  Forge(guest, "[Acpt]");
+  EXPECT_EQ(guest.program->game()->Wager, 40);
+}
+
+TEST_F(NetworkFaultsTest, TheHostAloneTellsWhoBegins) {
+  Meet();
+  ToCards(true);
+  host.Click("cmdContinue");
+  Pass(1000);
+  ASSERT_EQ(host.ScreenName(), "frmGame");
+  Refused(host, "[WhoS]True");
+  Forge(guest, "[WhoS]True");
+  EXPECT_EQ(Complaints(guest, "[WhoS]True"), 0u);
+}
+
+TEST_F(NetworkFaultsTest, BothDrawFromOneDeckThatHoldsFourOfEachCard) {
+  Meet();
+  ToTurn(Seat::Opponent);
+  MatchEngine& engine = host.match()->engine();
+  const auto theirs = [&engine] { return engine.peerTurn() == PeerTurn::Theirs; };
+  guest.acts = host.acts = false;
+  Forge(host, "[Turn]");
+  PlayUntil([&engine] { return engine.controls().stand; });
+  engine.Stand();
+  while (engine.MainDeckCount(1) < 4) {
+    PlayUntil(theirs);
+    const int total = engine.Total(Seat::Opponent);
+    Forge(host, "[Card]no1");
+    ASSERT_EQ(engine.Total(Seat::Opponent), total + 1);
+    Forge(host, "[Turn]");
+  }
+  PlayUntil(theirs);
+  Refused(host, "[Card]no1");
+  Forge(host, "[Card]no2");
+  EXPECT_EQ(Complaints(host, "[Card]no2"), 0u) << "it may still draw what there is";
+}
+
+}  // namespace
+}  // namespace kv
