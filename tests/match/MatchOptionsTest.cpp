@@ -142,6 +142,16 @@ TEST(Pace, OfTheTurnsIsTheSameForBothSidesOfANetworkMatch) {
   }
 }
 
+TEST(Pace, AnAutomaticStandIsWaitedForOnce) {
+  MatchTable table({.hand = {"ps10"}, .draws = {10, 3, 4}});
+  table.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); }, StandOpponent};
+  table.Start();
+  table.pauses.clear();
+  table.Play(1);
+  EXPECT_EQ(table.pauses, (std::vector<int>{125, 380, 380, 250, 380, 250, 253}))
+      << "the opponent goes on alone without a further wait";
+}
+
 TEST(AutoTurn, EndsATurnBelowTen) {
   struct Case {
     int drawn;
