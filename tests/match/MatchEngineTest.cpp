@@ -9,10 +9,6 @@ namespace {
 using test::Deal;
 using test::MatchTable;
 
-void StandOpponent(AiOperations& side) {
-  side.AI_Stand();
-}
-
 TEST(Turn, BeginsWithADrawAndWaitsForThePlayer) {
   MatchTable table({.hand = {"ps3"}, .draws = {7}});
   table.Start();
@@ -45,14 +41,14 @@ TEST(Turn, OneSideCardOnly) {
 
 TEST(Turn, TwentyStandsByItself) {
   MatchTable drawn({.draws = {10, 3, 10, 4, 4, 6, 5}});
-  drawn.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); }, StandOpponent};
+  drawn.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); }, test::StandOpponent};
   drawn.Start();
   drawn.EndTurn();
   EXPECT_TRUE(drawn.engine->PlayerStood());
   EXPECT_EQ(drawn.engine->banner().text, "you win the set.");
 
   MatchTable played({.hand = {"fp4"}, .draws = {6, 1, 10, 2}});
-  played.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); }, StandOpponent};
+  played.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); }, test::StandOpponent};
   played.Start();
   played.EndTurn();
   played.Play(1);
@@ -84,7 +80,7 @@ TEST(Turn, NothingCanBePressedWhileACardThatReachesTwentyIsLookedAt) {
 TEST(Turn, WhoStoodTakesNoMoreTurns) {
   MatchTable table({.draws = {10, 5, 6, 7}});
   table.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); },
-                          [](AiOperations& side) { side.AI_EndTurn(); }, StandOpponent};
+                          [](AiOperations& side) { side.AI_EndTurn(); }, test::StandOpponent};
   table.Start();
   table.Stand();
   EXPECT_EQ(table.Cards(Seat::Player), "no10");
@@ -124,7 +120,7 @@ TEST(SpecialCards, DoubleAndInvertersLand) {
 
 TEST(MatchEnd, ThreeSetsAreBookedOnce) {
   MatchTable table({.draws = {9, 5, 9, 5, 9, 5}});
-  for (int set = 0; set < 3; ++set) table.strategy.turns.emplace_back(StandOpponent);
+  for (int set = 0; set < 3; ++set) table.strategy.turns.emplace_back(test::StandOpponent);
   table.Start();
   for (int set = 1; set <= 3; ++set) {
     table.Stand();
@@ -144,7 +140,7 @@ TEST(MatchEnd, ThreeSetsAreBookedOnce) {
 
 TEST(MatchEnd, ATieCountsForNobodyAndIsReplayed) {
   MatchTable table({.draws = {5, 5, 8}});
-  table.strategy.turns = {StandOpponent};
+  table.strategy.turns = {test::StandOpponent};
   table.Start();
   table.Stand();
   EXPECT_EQ(table.engine->banner().text, "The set is tied.");
@@ -157,7 +153,7 @@ TEST(MatchEnd, ATieCountsForNobodyAndIsReplayed) {
 
 TEST(Forfeit, AsksThenLosesWhateverTheScore) {
   MatchTable table({.draws = {9, 5, 9, 5, 9, 5}});
-  table.strategy.turns = {StandOpponent, StandOpponent};
+  table.strategy.turns = {test::StandOpponent, test::StandOpponent};
   table.Start();
   table.Stand();
   table.Continue();

@@ -9,10 +9,6 @@ namespace {
 using test::MatchCourse;
 using test::MatchTable;
 
-void StandOpponent(AiOperations& side) {
-  side.AI_Stand();
-}
-
 TEST(Turn, LowTotalsEndByThemselvesUnlessTheOpponentStandsBehind) {
   MatchTable table({.draws = {4, 3, 5, 2, 7}, .options = {.turnMode = 1, .autoTurn = true}});
   table.Start();
@@ -20,7 +16,7 @@ TEST(Turn, LowTotalsEndByThemselvesUnlessTheOpponentStandsBehind) {
   EXPECT_TRUE(table.engine->controls().endTurn);
 
   MatchTable behind({.draws = {3, 3, 1}, .options = {.turnMode = 1, .autoTurn = true}});
-  behind.strategy.turns = {StandOpponent};
+  behind.strategy.turns = {test::StandOpponent};
   behind.Start();
   EXPECT_EQ(behind.Cards(Seat::Player), "no3 no1") << "4 against a standing 3 is the player's to decide";
   EXPECT_TRUE(behind.engine->controls().stand);
@@ -28,7 +24,7 @@ TEST(Turn, LowTotalsEndByThemselvesUnlessTheOpponentStandsBehind) {
 
 TEST(AutoDialogs, ConfirmAfterTheirTick) {
   MatchTable table({.draws = {9, 5, 7}, .options = {.turnMode = 1, .autoDialogs = true}});
-  table.strategy.turns = {StandOpponent};
+  table.strategy.turns = {test::StandOpponent};
   table.Start();
   table.Stand();
   EXPECT_TRUE(table.autoTimer);
@@ -68,7 +64,7 @@ std::string Starters(MatchOptions options, int firstDraw, const std::string& mod
   if (firstDraw > 0) deal.draws = {firstDraw};
   deal.draws.insert(deal.draws.end(), 6, 5);
   MatchTable table(deal);
-  table.strategy.turns.assign(3, StandOpponent);
+  table.strategy.turns.assign(3, test::StandOpponent);
   if (!hosting) table.engine->setPlayerStarts(true);
   const bool network = mode != kModeArcade;
   table.Start();
@@ -144,7 +140,7 @@ TEST(Pace, OfTheTurnsIsTheSameForBothSidesOfANetworkMatch) {
 
 TEST(Pace, AnAutomaticStandIsWaitedForOnce) {
   MatchTable table({.hand = {"ps10"}, .draws = {10, 3, 4}});
-  table.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); }, StandOpponent};
+  table.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); }, test::StandOpponent};
   table.Start();
   table.pauses.clear();
   table.Play(1);
@@ -170,7 +166,7 @@ TEST(AutoTurn, EndsATurnBelowTen) {
 TEST(AutoTurn, LeavesTheTurnToAPlayerWhoIsNotBehindAStandingOpponent) {
   for (const int drawn : {4, 5, 6}) {
     MatchTable table({.draws = {5, drawn, 9}, .playerStarts = false, .options = {.autoTurn = true}});
-    table.strategy.turns = {StandOpponent};
+    table.strategy.turns = {test::StandOpponent};
     table.Start();
     EXPECT_EQ(table.engine->Table(Seat::Player).size(), drawn < 5 ? 2U : 1U) << drawn << " against 5";
   }
@@ -204,7 +200,7 @@ TEST(AutoDialogs, ConfirmTheEndOfTheMatchToo) {
 TEST(MainDeck, AFifthCopyIsDrawnAgainAndEverySetHasAWholeDeck) {
   MatchTable table({.draws = {3, 3, 3, 3, 3, 8, 5, 3}});
   table.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); },
-                          [](AiOperations& side) { side.AI_EndTurn(); }, StandOpponent};
+                          [](AiOperations& side) { side.AI_EndTurn(); }, test::StandOpponent};
   table.Start();
   table.EndTurn();
   table.EndTurn();

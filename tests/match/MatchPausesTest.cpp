@@ -11,10 +11,6 @@ using test::MatchTable;
 using test::PlaySets;
 using test::ThreeSets;
 
-void StandOpponent(AiOperations& side) {
-  side.AI_Stand();
-}
-
 const std::string kModes[] = {std::string(kModeArcade), std::string(kModeNetwork)};
 
 TEST(Pauses, ACourseThroughAllOfThem) {
@@ -161,7 +157,7 @@ TEST(Forfeit, TheAnswerIsWeighedAgainstWhatHappenedBehindTheQuestion) {
     } else {
       table.Start();
     }
-    table.strategy.turns = {StandOpponent};
+    table.strategy.turns = {test::StandOpponent};
     table.inQuestion = [&] {
       table.engine->Stand();
       table.engine->GameTick();
@@ -222,7 +218,7 @@ TEST(Forfeit, AsABannerWaitsForThePeerGivesItsButtonBack) {
 
 TEST(Forfeit, AQuestionThatOutlivesTheMatchIsDropped) {
   MatchTable table({.draws = {9, 5, 9, 5, 9, 5}});
-  for (int set = 0; set < 3; ++set) table.strategy.turns.emplace_back(StandOpponent);
+  for (int set = 0; set < 3; ++set) table.strategy.turns.emplace_back(test::StandOpponent);
   table.Start();
   table.inQuestion = [&] {
     for (int set = 1; set <= 3; ++set) {

@@ -10,10 +10,6 @@ using test::MatchTable;
 using test::PlaySets;
 using test::ThreeSets;
 
-void StandOpponent(AiOperations& side) {
-  side.AI_Stand();
-}
-
 TEST(SetEnd, BustIsDecidedBeforeAllElse) {
   for (const bool opponentOver : {false, true}) {
     MatchTable table({.draws = {5}});
@@ -85,7 +81,7 @@ TEST(SetEnd, OnlyTheClosingSidesLastCardBreaksATie) {
     EXPECT_EQ(table.engine->banner().text, c.text);
   }
   MatchTable table({.hand = {"s11"}, .draws = {5, 6}, .playerStarts = false});
-  table.strategy.turns = {StandOpponent};
+  table.strategy.turns = {test::StandOpponent};
   table.Start();
   table.LoadTable(Seat::Opponent, {"no2"});
   table.Play(1);
@@ -191,7 +187,7 @@ TEST(Booking, OnlyAMatchLostAtTheTableIsWonAfterAll) {
   lost.engine->WinAfterAll();
   EXPECT_EQ(lost.turned, 0);
   lost.Continue();
-  lost.strategy.turns = {StandOpponent};
+  lost.strategy.turns = {test::StandOpponent};
   lost.Stand();
   EXPECT_TRUE(lost.engine->LostByPlay());
   lost.engine->WinAfterAll();

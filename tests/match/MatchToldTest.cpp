@@ -10,10 +10,6 @@ namespace {
 using test::MatchTable;
 using Lines = std::vector<std::string>;
 
-void StandOpponent(AiOperations& side) {
-  side.AI_Stand();
-}
-
 TEST(Told, ATurnFromItsLightToItsEnd) {
   MatchTable table({.hand = {"ps3"}, .draws = {7, 5, 9}});
   table.Start();
@@ -32,7 +28,7 @@ TEST(Told, ATurnFromItsLightToItsEnd) {
 
 TEST(Told, ATableIsDimmedWhenItsSideStandsAndLitWithTheNextSet) {
   MatchTable table({.draws = {7, 5, 9, 4, 6, 8}});
-  table.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); }, StandOpponent};
+  table.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); }, test::StandOpponent};
   table.Start();
   table.screen.story.clear();
   table.Stand();
@@ -45,7 +41,7 @@ TEST(Told, ATableIsDimmedWhenItsSideStandsAndLitWithTheNextSet) {
       table.screen.Lines({"table", "banner", "pause", "your light"}),
       (Lines{"your table on", "their table on", "pause 350", "banner off", "your light on", "pause 380"}));
   table.screen.story.clear();
-  table.strategy.turns = {StandOpponent};
+  table.strategy.turns = {test::StandOpponent};
   table.EndTurn();
   EXPECT_TRUE(table.screen.controls.table[0]);
   EXPECT_FALSE(table.screen.controls.table[1]) << "the opponent has stood, the player has not";

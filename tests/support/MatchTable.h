@@ -21,6 +21,11 @@
 
 namespace kv::test {
 
+/// What a scripted opponent does in a turn: it stands.
+inline void StandOpponent(AiOperations& side) {
+  side.AI_Stand();
+}
+
 /// A strategy that the test writes itself; without a script it ends every turn.
 class ScriptedStrategy final : public Strategy {
  public:
