@@ -14,7 +14,7 @@ set(kv_checked $<NOT:$<BOOL:$<TARGET_PROPERTY:KV_UNCHECKED>>>)
 if(KV_SANITIZE)
   target_compile_options(kv_options INTERFACE
     "$<${kv_checked}:-fsanitize=address,undefined;-fno-sanitize-recover=all;-fno-omit-frame-pointer>")
-  target_link_options(kv_options INTERFACE -fsanitize=address,undefined -fuse-ld=gold)
+  target_link_options(kv_options INTERFACE -fsanitize=address,undefined)
 endif()
 if(KV_FUZZ)
   target_compile_options(kv_options INTERFACE
@@ -123,7 +123,9 @@ function(kv_add_test folder)
     # Loading the precompiled header costs a source two seconds, most of what a small one takes.
     set_target_properties(test-${folder} PROPERTIES UNITY_BUILD ${KV_SANITIZE} UNITY_BUILD_BATCH_SIZE 3)
     add_test(NAME ${folder} COMMAND test-${folder})
-    set_tests_properties(${folder} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;SDL_AUDIODRIVER=dummy;KV_ASSETS=${PROJECT_BINARY_DIR}/bin")
+    # The leak check of gcc 12 stumbles over the thread storage of plugins that were loaded by name, when it has
+    # watched how they ask for it; what it finds is the same without.
+    set_tests_properties(${folder} PROPERTIES ENVIRONMENT "ASAN_OPTIONS=intercept_tls_get_addr=0;QT_QPA_PLATFORM=offscreen;SDL_AUDIODRIVER=dummy;KV_ASSETS=${PROJECT_BINARY_DIR}/bin")
   endif()
 endfunction()
 
