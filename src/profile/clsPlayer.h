@@ -50,7 +50,7 @@ class clsPlayer : public PlayerFields {
   Dialogs& dialogs_;
   Random& random_;
   EventPump handleEvents_;
-  FileStore store_;          // empty for the disk
+  FileStore store_;       // empty for the disk
   std::string saveTime_;  // local date and time of the last save, as stored in the file
 };
 

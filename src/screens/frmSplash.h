@@ -9,8 +9,8 @@
 
 #include "presentation/Screen.h"
 #include "presentation/WindowDrag.h"
-#include "screens/frmSplashServices.h"
 #include "screens/PlayerFiles.h"
+#include "screens/frmSplashServices.h"
 
 class QLabel;
 class QListWidget;

@@ -169,7 +169,8 @@ void Side::Say(const std::string& line) {
 }
 
 void Side::GivesUp() {
-  if (stakeOpen()) stakes_.back().gaveUp = true;
+  // Also from the banner of its last set: whoever has left by then hears no more of the other.
+  if (stakeOpen() || (where_ == Where::Match && !stakes_.empty())) stakes_.back().gaveUp = true;
 }
 
 // --- Boxes -----------------------------------------------------------------------------------------------

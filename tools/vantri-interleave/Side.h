@@ -28,7 +28,7 @@ struct Stake {
   int number;  // the same on both sides for the same match
   std::int32_t amount;
   Outcome outcome = Outcome::Open;
-  bool gaveUp = false;  // this side's person left or forfeited while it was open
+  bool gaveUp = false;  // this side's person left or forfeited before it was back in the lobby
 };
 
 /// How the person answers the next boxes.
