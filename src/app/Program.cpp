@@ -1,5 +1,8 @@
 #include "app/Program.h"
 
+#include <QApplication>
+#include <QScreen>
+#include <algorithm>
 #include <filesystem>
 
 #include "campaign/Settlement.h"
@@ -32,6 +35,7 @@ std::string BaseName(const std::string& path) {
 Program::Program(const ProgramServices& services, const ProgramFolders& folders)
     : services_(services),
       folders_(folders),
+      stage_(services.sizes),
       dialogs_(services.dialogs),
       sounds_(services.sound),
       buttons_(sounds_),
@@ -50,6 +54,16 @@ Program::Program(const ProgramServices& services, const ProgramFolders& folders)
                                               while (!retired_.empty()) retired_.pop_front();
                                             })),
       tmrSounds_(services.scheduler.NewTimer(kSoundsDelay, [this] { LoadSounds(); })) {
+  stage_.FactorChanged = [this] {
+    double finest = 1;
+    for (const QScreen* screen : QGuiApplication::screens()) {
+      finest = std::max(finest, screen->devicePixelRatio());
+    }
+    pictures_.setPixelRatio(finest);
+    for (const auto& screen : {screen_, behind_}) {
+      if (screen != nullptr) screen->RefreshPictures();
+    }
+  };
   globals_.Off = [this] { EndProgram(); };
   globals_.ReloadCards = [this] { OpenCards(); };
 }
@@ -91,15 +105,16 @@ void Program::Show(Make make) {
   CloseCurrent();
   globals_.look.interfaceStyle = player_ == nullptr ? "Slate" : player_->Interface_Opt;
   dialogs_.setInterfaceStyle(globals_.look.interfaceStyle);
+  stage_.setInterfaceStyle(globals_.look.interfaceStyle);
   screen_ = make();
-  screen_->Open(centre_);
+  stage_.Show(*screen_);
+  screen_->Open();
 }
 
 void Program::CloseCurrent() {
   if (network_ != nullptr) network_->ScreensClosed();
   for (std::shared_ptr<Screen>* screen : {&screen_, &behind_}) {
     if (*screen == nullptr) continue;
-    centre_ = (*screen)->Centre();
     (*screen)->CloseScreen();
     Retire(std::move(*screen));
   }
@@ -184,20 +199,20 @@ void Program::OpenPortraits(PortraitCaller& caller) {
   if (behind_ != nullptr) return;
   auto picker = std::make_shared<frmPortraits>(
       Services(), *player_, caller, frmPortraitsServices{folders_.portraits, services_.openFolder});
-  centre_ = screen_->Centre();
   screen_->hide();
   behind_ = std::move(screen_);
   screen_ = std::move(picker);
-  screen_->Open(centre_);
+  stage_.Show(*screen_);
+  screen_->Open();
 }
 
 void Program::ClosePortraits() {
   if (behind_ == nullptr) return;
-  centre_ = screen_->Centre();
   screen_->CloseScreen();
   Retire(std::move(screen_));
   screen_ = std::move(behind_);
-  screen_->Open(centre_);
+  stage_.Show(*screen_);
+  screen_->Open();
 }
 
 // --- Matches ---------------------------------------------------------------------------------------------
@@ -226,9 +241,7 @@ void Program::StartNetwork() {
                         [this](bool locked) {
                           if (screen_ != nullptr) screen_->setEnabled(!locked);
                         },
-                        [this] {
-                          if (screen_ != nullptr) screen_->hide();
-                        }},
+                        [this] { stage_.hide(); }},
         *socket_);
   }
   network_->Begin(*player_, *game_, *booking_);
@@ -249,8 +262,13 @@ void Program::LeaveMatch() {
 }
 
 void Program::ReloadCards() {
+  stage_.Keep();
   CloseCurrent();
   globals_.tmrReloadCards->setEnabled(true);
+}
+
+void Program::CallPlayer() {
+  QApplication::alert(&stage_);
 }
 
 // --- The end ---------------------------------------------------------------------------------------------
@@ -265,6 +283,7 @@ void Program::EndProgram() {
   CloseCurrent();
   // Whoever closes the window has ended the run as well: a record must not be lost by that.
   if (game_ != nullptr && game_->Mode == kModeArcade) EndArcadeRun(*game_, *player_);
+  stage_.hide();
   services_.quit();
 }
 

@@ -2,15 +2,14 @@
 // owns everything and hands out references; nothing of it is global, so two can run in one process.
 #pragma once
 
-#include <QPoint>
 #include <deque>
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "app/CountedDialogs.h"
+#include "app/Stage.h"
 #include "app/frmGlobals.h"
 #include "campaign/WagerEntry.h"
 #include "match/MatchPartners.h"
@@ -40,6 +39,8 @@ struct ProgramServices {
   /// A socket of the network, and the machine's IPv4 addresses; the real ones where they are empty.
   std::function<std::unique_ptr<TcpSocket>()> newSocket{};
   std::function<std::vector<std::string>()> localAddresses{};
+  /// The size of everything that is drawn; null: as laid out.
+  QtSizeFactor* sizes = nullptr;
 };
 
 /// Without a slash at their ends.
@@ -73,6 +74,7 @@ class Program final : public Navigator {
   void NewGame(std::string_view mode) override;
   void LeaveMatch() override;
   void ReloadCards() override;
+  void CallPlayer() override;
   void EndProgram() override;
   void EndProgramSoon() override;
 
@@ -89,12 +91,14 @@ class Program final : public Navigator {
   [[nodiscard]] Kind* screenAs() {
     return dynamic_cast<Kind*>(screen_.get());
   }
+  /// The window that holds the screens.
+  [[nodiscard]] Stage& stage() { return stage_; }
   /// Closed screens, and the records they stood on, that may not be destroyed yet.
   [[nodiscard]] std::size_t Retired() const { return retired_.size(); }
 
  private:
   [[nodiscard]] ScreenServices Services();
-  /// Closes the open screen, makes the next one with `make`, and opens it in the same place.
+  /// Closes the open screen, makes the next one with `make`, and opens it on the same window.
   template <typename Make>
   void Show(Make make);
   void CloseCurrent();
@@ -107,6 +111,7 @@ class Program final : public Navigator {
 
   ProgramServices services_;
   ProgramFolders folders_;
+  Stage stage_;  // holds the screens, and goes after them
   CountedDialogs dialogs_;
   Sounds sounds_;
   ButtonContext buttons_;
@@ -122,7 +127,6 @@ class Program final : public Navigator {
   std::shared_ptr<MatchBooking> booking_;
   std::shared_ptr<Screen> screen_;
   std::shared_ptr<Screen> behind_;  // the hidden screen that the portrait picker was opened from
-  std::optional<QPoint> centre_;    // of the screen that was open last
   std::deque<std::shared_ptr<void>> retired_;
   std::unique_ptr<Timer> tmrSweep_;   // destroys what is retired
   std::unique_ptr<Timer> tmrSounds_;  // loads the sounds once the first window stands

@@ -15,6 +15,7 @@
 #include "platform/QtFontSystem.h"
 #include "platform/QtScheduler.h"
 #include "platform/QtSignals.h"
+#include "platform/QtSizeFactor.h"
 #include "platform/SdlSoundDevice.h"
 #include "presentation/Fonts.h"
 
@@ -53,8 +54,12 @@ int main(int argc, char** argv) {
   // A folder that cannot be entered is named in full: nobody's players are put where the game happens to
   // start.
   const std::string working = error ? playerFolder : std::string();
-  const kv::SingleInstance instance(playerFolder);
-  if (instance.OtherRuns()) return 0;
+  kv::SingleInstance instance(playerFolder);
+  if (instance.OtherRuns()) {
+    const QCoreApplication application(argc, argv);
+    static_cast<void>(instance.RaiseOther());
+    return 0;
+  }
 
   // The game draws everything itself: a desktop's own theme would only cost memory and time.
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORMTHEME")) qputenv("QT_QPA_PLATFORMTHEME", "generic");
@@ -79,10 +84,12 @@ int main(int argc, char** argv) {
   }
   // A plain end of the event loop: asking every window first whether it may be closed would let one refuse.
   const auto quit = [] { QCoreApplication::exit(0); };
-  kv::Program program({scheduler, dialogs, random, sound, quit, OpenFolder, OpenAddress},
+  kv::QtSizeFactor sizes;
+  kv::Program program({scheduler, dialogs, random, sound, quit, OpenFolder, OpenAddress, {}, {}, &sizes},
                       {programFolder, working, kv::PortraitFolder(programFolder, working)});
   if (ends.ended()) return 0;
   ends.Ended = [&program] { program.EndAtOnce(); };
   program.Start();
+  instance.Listen([&program] { program.stage().Raise(); });
   return QApplication::exec();
 }

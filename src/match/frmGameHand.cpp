@@ -11,8 +11,9 @@ ctlShape* NewFooter(QStringView control, QWidget& container, Layout& layout) {
 }
 
 Picture NewHoverPicture(QStringView control, ctlFlip::Kind kind, const QWidget& container, Layout& layout) {
+  // Fine enough for a window that is made larger while it is open.
   return ctlFlip::HoverPicture(kind, layout.bag(control), layout.rect(control).size(),
-                               container.devicePixelRatioF());
+                               std::max(2.0, container.devicePixelRatioF()));
 }
 
 QPoint PointOf(Spot spot) {

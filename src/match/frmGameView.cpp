@@ -59,6 +59,7 @@ void frmGame::ControlsChanged() {
 void frmGame::LightsChanged() {
   services_.effects.StopFade();
   for (const Seat seat : {Seat::Player, Seat::Opponent}) side(seat).RepaintLight();
+  if (engine_.Light(Seat::Player)) services_.navigator.CallPlayer();
   for (const Seat seat : {Seat::Player, Seat::Opponent}) {
     if (!engine_.Light(seat)) continue;
     // Without pulsing effects a light simply shines, and nothing moves while the person thinks.

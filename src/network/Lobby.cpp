@@ -47,6 +47,7 @@ void Lobby::Opening() {
 }
 
 void Lobby::Greet() {
+  services_.navigator.CallPlayer();
   tmrShowStart_->setEnabled(true);
   play_.state = "Connected.";
   screen_.ShowGreeting();

@@ -9,7 +9,8 @@ class QImage;
 
 namespace kv {
 
-/// A decoded picture, shared and never changed. An empty one stands for "no picture".
+/// A decoded picture, shared. It always shows the same; when everything is drawn larger, its image becomes
+/// finer. An empty one stands for "no picture".
 class Picture {
  public:
   Picture() = default;

@@ -17,13 +17,32 @@ struct BoxContent {
   DialogIcon icon;
 };
 
+/// The window that a box belongs to, also while another program has the focus: ours has one that is no box,
+/// and the box that is open over it, if any.
+QWidget* Owner() {
+  if (QWidget* active = QApplication::activeWindow()) return active;
+  if (QWidget* box = QApplication::activeModalWidget()) return box;
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->isVisible() && window->windowType() == Qt::Window) return window;
+  }
+  return nullptr;
+}
+
+/// Who is busy with another program goes on typing there, and is told by the desktop that a box waits.
+void Wait(QDialog& box) {
+  if (QApplication::activeWindow() == nullptr) {
+    box.setAttribute(Qt::WA_ShowWithoutActivating);
+    if (QWidget* owner = box.parentWidget()) QApplication::alert(owner);
+  }
+}
+
 // On the heap and watched: the window over which it opens may be destroyed while it is open, and takes the
 // box with it.
 int Run(const BoxContent& content, const std::string& interfaceStyle, QMessageBox::StandardButtons buttons,
         QMessageBox::StandardButton escape) {
   const QPointer<QMessageBox> box =
       new QMessageBox(QMessageBox::NoIcon, QString::fromStdString(content.title),
-                      QString::fromStdString(content.text), buttons, QApplication::activeWindow());
+                      QString::fromStdString(content.text), buttons, Owner());
   if (content.icon != DialogIcon::None) {
     box->setIconPixmap(DialogSign(content.icon, box->devicePixelRatioF()));
   }
@@ -31,6 +50,7 @@ int Run(const BoxContent& content, const std::string& interfaceStyle, QMessageBo
   box->setEscapeButton(escape);
   box->setDefaultButton(escape);  // a hasty Enter must not give anything up
   FrameBox(*box, interfaceStyle);
+  Wait(*box);
   const int answer = box->exec();
   delete box;
   return answer;
@@ -52,11 +72,12 @@ bool QtDialogs::AskYesNo(const std::string& text, const std::string& title, Dial
 std::optional<std::string> QtDialogs::AskText(const std::string& prompt, const std::string& title,
                                               const std::string& preset) {
   const QtScheduler::Nested nested(scheduler_);
-  const QPointer<QInputDialog> box = new QInputDialog(QApplication::activeWindow());
+  const QPointer<QInputDialog> box = new QInputDialog(Owner());
   box->setWindowTitle(QString::fromStdString(title));
   box->setLabelText(QString::fromStdString(prompt));
   box->setTextValue(QString::fromStdString(preset));
   FrameBox(*box, interfaceStyle_);
+  Wait(*box);
   const bool accepted = box->exec() == QDialog::Accepted && box;
   std::optional<std::string> text;
   if (accepted) text = box->textValue().toStdString();

@@ -39,6 +39,9 @@ class Navigator {
   /// Closes the card screen and opens it afresh a moment later, for the next match of an arcade run.
   virtual void ReloadCards() = 0;
 
+  /// Something waits for the person, who may be busy with another program: the desktop tells so then.
+  virtual void CallPlayer() {}
+
   /// The person leaves the program from a screen that owes nothing any more.
   virtual void EndProgram() = 0;
   /// The same, once the farewell sound has been heard. The screen stays on view until then.

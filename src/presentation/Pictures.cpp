@@ -79,6 +79,7 @@ bool Pictures::OpenDataFile(const std::string& path) {
 void Pictures::LoadResourceTree(ResourceTree& tree, const std::string& title, const std::string& path) {
   decoded_.clear();
   large_.clear();
+  shown_.clear();
   auto file = std::make_unique<DataFile>();
   file_ = file->Open(path) ? std::move(file) : nullptr;
   tree = ResourceTree{title, {}};
@@ -123,8 +124,27 @@ Picture Pictures::getPic(int number) {
   return getPic(number, ok);
 }
 
+Picture Pictures::LoadReduced(int number, LayoutSize layout) {
+  QImage decoded = Decode(number, layout);
+  if (decoded.isNull()) return {};
+  auto image = std::make_shared<QImage>(std::move(decoded));
+  std::erase_if(shown_, [](const Shown& shown) { return shown.image.expired(); });
+  shown_.push_back({image, number, layout});
+  return Picture(std::move(image));
+}
+
+void Pictures::setPixelRatio(double pixelRatio) {
+  if (pixelRatio == pixelRatio_) return;
+  pixelRatio_ = pixelRatio;
+  for (const Shown& shown : shown_) {
+    const std::shared_ptr<QImage> image = shown.image.lock();
+    if (image == nullptr) continue;
+    if (QImage decoded = Decode(shown.number, shown.layout); !decoded.isNull()) *image = std::move(decoded);
+  }
+}
+
 /// Walks the group in its order and stops as soon as a greater number is next.
-Picture Pictures::LoadReduced(int number, LayoutSize layout) const {
+QImage Pictures::Decode(int number, LayoutSize layout) const {
   const auto band = std::ranges::find_if(kBands, [&](const Band& b) { return number <= b.last; });
   if (file_ == nullptr || band == kBands.end() || band->group >= tree_.types.size()) return {};
   const TypeNode& type = tree_.types[band->group];
@@ -138,7 +158,7 @@ Picture Pictures::LoadReduced(int number, LayoutSize layout) const {
     QImage image = DecodePicture(file_->image->FindResource(name.text, ResourceTypeText(type.text)), limit);
     if (image.isNull()) return {};
     if (layout.width > 0) image.setDevicePixelRatio(static_cast<double>(image.width()) / layout.width);
-    return Picture(std::make_shared<const QImage>(std::move(image)));
+    return image;
   }
   return {};
 }

@@ -24,6 +24,10 @@ class Pictures {
   Pictures(const Pictures&) = delete;
   Pictures& operator=(const Pictures&) = delete;
 
+  /// From now on this is the ratio (above 0). The pictures that somebody still shows are decoded anew, in
+  /// their places: who has one sees it finer or coarser with the next paint.
+  void setPixelRatio(double pixelRatio);
+
   /// Opens the data file as a resource module and builds the index; true on success. The file stays open.
   /// On failure the one opened before is closed too: its pictures are gone.
   bool OpenDataFile(const std::string& path);
@@ -35,7 +39,7 @@ class Pictures {
   [[nodiscard]] Picture getPic(int number);
   /// The picture with that number reduced to `layout` pixels, freshly decoded and not kept; empty if there is
   /// none.
-  [[nodiscard]] Picture LoadReduced(int number, LayoutSize layout) const;
+  [[nodiscard]] Picture LoadReduced(int number, LayoutSize layout);
 
   /// Clears the tree, opens the file and adds a node for each type with a placeholder below it; the first two
   /// types are expanded. An empty tree with the title when the file cannot be opened.
@@ -50,12 +54,21 @@ class Pictures {
 
  private:
   struct DataFile;
+  /// A picture that was handed out.
+  struct Shown {
+    std::weak_ptr<QImage> image;
+    int number;
+    LayoutSize layout;
+  };
+
+  [[nodiscard]] QImage Decode(int number, LayoutSize layout) const;
 
   double pixelRatio_;
   std::unique_ptr<DataFile> file_;
   ResourceTree tree_;
   std::unordered_map<int, Picture> decoded_;
   std::unordered_map<int, PictureMemory> large_;
+  std::vector<Shown> shown_;
 };
 
 /// The type as the resource functions want it: a numeric one behind "#".

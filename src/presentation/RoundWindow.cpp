@@ -35,12 +35,13 @@ class Corner final : public QWidget {
     painter.setRenderHint(QPainter::Antialiasing);
     const double diameter = 2.0 * width();
     const QRectF circle(right_ ? -width() : 0.0, bottom_ ? -height() : 0.0, diameter, diameter);
-    if (window()->testAttribute(Qt::WA_TranslucentBackground)) {
+    const bool full = window()->isFullScreen();
+    if (full || window()->testAttribute(Qt::WA_TranslucentBackground)) {
       QPainterPath outside;
       outside.addRect(rect());
       outside.addEllipse(circle);  // odd-even: the square without the circle
-      painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
-      painter.fillPath(outside, Qt::black);
+      if (!full) painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
+      painter.fillPath(outside, window()->palette().color(QPalette::Window));
     } else {
       painter.setPen(QPen(QColor(0, 0, 0, 200), 2));
       painter.drawEllipse(circle);
@@ -70,7 +71,7 @@ class Rounding final : public QObject {
   void Apply() {
     const int radius = std::min({radius_, window_.width() / 2, window_.height() / 2});
     // Off screen there is nothing to cut, and the toolkit would only complain.
-    if (shaped_) window_.setMask(RoundedShape(window_.size(), radius));
+    if (shaped_ && window_.isWindow()) window_.setMask(RoundedShape(window_.size(), radius));
     for (Corner* corner : corners_) corner->Place(radius);
   }
 

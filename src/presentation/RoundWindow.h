@@ -12,6 +12,7 @@ namespace kv {
 inline constexpr int kScreenCorners = 32;
 
 /// Takes the frame from `window` and rounds its corners (both diameters `radius`), now and after each resize.
+/// What becomes the content of another window keeps its corners; the other one is to be shaped by its owner.
 /// Call it before the window is shown: the corners are then smooth, and the window must paint its whole
 /// background itself. Raise nothing over its corners afterwards.
 void RoundWindow(QWidget& window, int radius);

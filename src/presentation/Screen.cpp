@@ -1,9 +1,7 @@
 #include "presentation/Screen.h"
 
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QPainter>
-#include <QScreen>
 #include <algorithm>
 
 #include "platform/QtText.h"
@@ -40,19 +38,6 @@ void WarmUp(QImage& image) {
   }
 }
 
-/// The top left corner of a window with its middle at `centre`, moved so far that the window can be seen. Of
-/// one that is larger than the work area the right and lower parts stay outside: its title bar is at the top.
-QPoint InWorkArea(QPoint centre, QSize size) {
-  const QScreen* screen = QGuiApplication::screenAt(centre);
-  if (screen == nullptr) screen = QGuiApplication::primaryScreen();
-  const QPoint corner = centre - QRect({}, size).center();
-  if (screen == nullptr) return corner;
-  const QRect area = screen->availableGeometry();
-  const QPoint last = area.bottomRight() - QRect({}, size).bottomRight();
-  return {std::max(std::min(corner.x(), last.x()), area.left()),
-          std::max(std::min(corner.y(), last.y()), area.top())};
-}
-
 }  // namespace
 
 Screen::Screen(const ScreenServices& services, std::string_view name, std::string_view style)
@@ -66,7 +51,8 @@ Screen::Screen(const ScreenServices& services, std::string_view name, std::strin
   setFixedSize(layout_.size());
   const PropertyBag window = layout_.has(u"window") ? layout_.bag(u"window") : PropertyBag();
   if (window.has(u"picture")) background_ = TintedPicture(window.number(u"picture"));
-  RoundWindow(*this, window.number(u"corners", kScreenCorners));
+  corners_ = window.number(u"corners", kScreenCorners);
+  RoundWindow(*this, corners_);
 }
 
 Screen::~Screen() {
@@ -74,33 +60,35 @@ Screen::~Screen() {
   lifetime_.Close();
 }
 
-Picture Screen::TintedPicture(int number) const {
+Picture Screen::TintedPicture(int number) {
   const Picture picture = services().getPic(number);
   const PropertyBag window = layout_.has(u"window") ? layout_.bag(u"window") : PropertyBag();
-  const bool warm = window.flag(u"warm");
-  if (picture.empty() || (!warm && !window.has(u"tint"))) return picture;
-  QImage image = picture.image()->convertToFormat(QImage::Format_RGB32);
-  if (warm) WarmUp(image);
-  if (window.has(u"tint")) Tint(image, window.colour(u"tint"), window.number(u"tint_strength", 255));
-  return Picture(std::make_shared<const QImage>(std::move(image)));
+  if (picture.empty() || (!window.flag(u"warm") && !window.has(u"tint"))) return picture;
+  auto image = std::make_shared<QImage>(Tinted(*picture.image()));
+  tinted_.emplace_back(number, image);
+  return Picture(std::move(image));
 }
 
-void Screen::Open(std::optional<QPoint> centre) {
+QImage Screen::Tinted(const QImage& picture) const {
+  const PropertyBag window = layout_.bag(u"window");
+  QImage image = picture.convertToFormat(QImage::Format_RGB32);
+  if (window.flag(u"warm")) WarmUp(image);
+  if (window.has(u"tint")) Tint(image, window.colour(u"tint"), window.number(u"tint_strength", 255));
+  return image;
+}
+
+void Screen::RefreshPictures() {
+  for (const auto& [number, image] : tinted_) *image = Tinted(*services().getPic(number).image());
+  update();
+}
+
+void Screen::Open() {
   if (closing()) return;
-  if (centre) {
-    centre_ = centre;
-    place_ = InWorkArea(*centre, size());
-    move(place_);
-  }
   Activate();
   if (closing()) return;
   show();
   setFocus();
   tmrShown_->setEnabled(true);
-}
-
-QPoint Screen::Centre() const {
-  return centre_ && pos() == place_ ? *centre_ : geometry().center();
 }
 
 void Screen::CloseScreen() {

@@ -1,5 +1,6 @@
-// What all screens have in common: a borderless window with a picture behind it, controls from a layout, and
-// an end that can come at any moment. It must never know what a particular screen is for.
+// What all screens have in common: a borderless window, or the content of one, with a picture behind it,
+// controls from a layout, and an end that can come at any moment. It must never know what a particular screen
+// is for.
 //
 // A layout's control "window" describes the window itself: "picture" (a number of the data file), "warm"
 // (true: the picture's cold colours are turned into warm ones), "tint" ([red, green, blue] laid over the
@@ -7,12 +8,12 @@
 // not given).
 #pragma once
 
-#include <QPoint>
 #include <QWidget>
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "presentation/Layout.h"
 #include "presentation/ScreenServices.h"
@@ -25,15 +26,16 @@ class Screen : public QWidget {
  public:
   ~Screen() override;
 
-  /// Shows the screen with its middle at `centre`, or where the window system puts it, and activates it. It
-  /// lies whole in the work area of the desktop's screen that it is on, its title bar always.
-  void Open(std::optional<QPoint> centre = {});
+  /// Shows the screen, on the window that holds it or as one of its own, and activates it.
+  void Open();
   /// Ends everything the screen has started and hides it, for good. It may be destroyed once no pause is
   /// under way. Does nothing the second time.
   void CloseScreen();
   [[nodiscard]] bool closing() const { return lifetime_.closing(); }
-  /// Where the next screen belongs. What a work area has pushed aside goes back where there is room again.
-  [[nodiscard]] QPoint Centre() const;
+  /// Pictures are finer or coarser from now on: makes those anew that the screen has coloured for itself.
+  void RefreshPictures();
+  /// The diameter of its round corners, in layout pixels.
+  [[nodiscard]] int corners() const { return corners_; }
 
   /// The way out that the window system offers (Alt+F4); never called on a closed screen.
   virtual void LeaveProgram() = 0;
@@ -59,7 +61,7 @@ class Screen : public QWidget {
   /// The layout's "ctlTitlebar". Its Quit is the screen's to set.
   ctlTitlebar* NewTitlebar();
   /// A picture of the data file in the window's tint, to lie on the background without a seam.
-  [[nodiscard]] Picture TintedPicture(int number) const;
+  [[nodiscard]] Picture TintedPicture(int number);
   [[nodiscard]] std::unique_ptr<Timer> NewTimer(int milliseconds, std::function<void()> tick) const;
   /// Sound, question, pause: shorthand for what every screen does.
   void PlayEffect(std::string_view effect) { services().buttons.PlayEffect(effect); }
@@ -74,13 +76,16 @@ class Screen : public QWidget {
   void mouseMoveEvent(QMouseEvent* event) override;
 
  private:
+  [[nodiscard]] QImage Tinted(const QImage& picture) const;
+
   const ScreenServices screenServices_;
   Layout layout_;
   Lifetime lifetime_;
   Picture background_;
   ctlTitlebar* titlebar_ = nullptr;  // child
-  std::optional<QPoint> centre_;     // that was asked for
-  QPoint place_;                     // and what it has become
+  std::vector<std::pair<int, std::shared_ptr<QImage>>>
+      tinted_;  // picture number, and it in the window's tint
+  int corners_ = 0;
   std::unique_ptr<Timer> tmrShown_;  // one tick after the screen is shown
 };
 

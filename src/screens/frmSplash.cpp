@@ -96,7 +96,7 @@ void frmSplash::BuildCreation() {
 void frmSplash::BuildFrame() {
   BuildSplashFrame(*this, layout(), services().buttons,
                    {.lblURL = [this] { splash_.openAddress(kAddress); },
-                    .cmdMini = [this] { showMinimized(); },
+                    .cmdMini = [this] { window()->showMinimized(); },
                     .cmdQuit = [this] { LeaveProgram(); }});
 }
 

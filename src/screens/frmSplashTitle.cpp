@@ -112,10 +112,10 @@ void frmSplashTitle::Moved(const QMouseEvent& event) {
     if ((point - *press_).manhattanLength() < QApplication::startDragDistance()) return;
     const QPointF from = *press_;
     press_.reset();
-    drag_.Press(window_, QMouseEvent(QEvent::MouseButtonPress, window_.mapFromGlobal(from), from,
+    drag_.Press(*window_.window(), QMouseEvent(QEvent::MouseButtonPress, window_.window()->mapFromGlobal(from), from,
                                      Qt::LeftButton, Qt::LeftButton, event.modifiers()));
   }
-  drag_.Move(window_, event);
+  drag_.Move(*window_.window(), event);
 }
 
 }  // namespace kv

@@ -276,22 +276,49 @@ TEST_F(ProgramTest, AFileThatCannotBeSavedHoldsUpNoEnd) {
 TEST_F(ProgramTest, ScreensOpenInsideTheWorkAreaAndComeBackToTheirPlace) {
   MakePlayer("ann", [](clsPlayer& player) { player.Interface_Opt = "Ember"; });
   Start();
-  const QRect area = program->screen()->screen()->availableGeometry();
-  program->screen()->move(area.left() - 100, area.top() - 100);
+  Stage& stage = program->stage();
+  const QRect area = stage.screen()->availableGeometry();
+  stage.move(area.left() - 100, area.top() - 100);
   EnterMenu("ann");
-  const QPoint menu = program->screen()->pos();
-  EXPECT_TRUE(area.contains(program->screen()->geometry()));
+  const QPoint menu = stage.pos();
+  EXPECT_TRUE(area.contains(stage.geometry()));
   ASSERT_LT(area.width(), 1024) << "the card screen must be wider than the work area";
   EnterArcade(10);
-  EXPECT_EQ(program->screen()->pos(), area.topLeft()) << "the title bar can be reached";
+  EXPECT_EQ(stage.pos(), area.topLeft()) << "the title bar can be reached";
   dialogs.answers = {true};
   Control<ctlTitlebar>("ctlTitlebar").Quit();
   Settle(1000);
   Click("cmdEnd");
-  EXPECT_EQ(program->screen()->pos(), menu);
-  program->screen()->move(area.bottomRight());
+  EXPECT_EQ(stage.pos(), menu);
+  stage.move(area.bottomRight());
   Click("cmdOptions");
-  EXPECT_TRUE(area.contains(program->screen()->geometry()));
+  EXPECT_TRUE(area.contains(stage.geometry()));
+}
+
+TEST_F(ProgramTest, ADoubleClickEndsWithTheScreenThatItOpens) {
+  /// Counts what the pointer does to a screen of this name.
+  class Presses final : public QObject {
+   public:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+      const auto* widget = qobject_cast<QWidget*>(watched);
+      const bool press =
+          event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+      if (press && widget != nullptr && widget->objectName() == QStringLiteral("frmOptions")) ++count;
+      return false;
+    }
+    int count = 0;
+  };
+  MakePlayer("ann");
+  Start();
+  EnterMenu("ann");
+  Presses presses;
+  QCoreApplication::instance()->installEventFilter(&presses);
+  test::ScreenHand(*program->screen()).DoubleClick(Control<QWidget>("cmdOptions"));
+  ASSERT_EQ(ScreenName(), "frmOptions");
+  EXPECT_EQ(presses.count, 0);
+  const QPoint empty(3, 300);
+  QTest::mouseClick(program->stage().windowHandle(), Qt::LeftButton, {}, empty);
+  EXPECT_EQ(presses.count, 1);
 }
 
 TEST_F(ProgramTest, EndsInTheMiddleOfAPause) {

@@ -11,11 +11,11 @@ namespace kv::test {
 
 class ScreenHand {
  public:
-  /// `screen` is a window that has been shown; it must outlive this.
+  /// `screen` is a window that has been shown, or the content of one; it must outlive this.
   explicit ScreenHand(QWidget& screen) : screen_(screen) {}
 
   [[nodiscard]] QPoint CentreOf(const QWidget& widget) const {
-    return widget.mapTo(&screen_, widget.rect().center());
+    return widget.mapTo(screen_.window(), widget.rect().center());
   }
   void MoveTo(QPoint point) { QTest::mouseMove(window(), point); }
   void Press(QPoint point) { QTest::mousePress(window(), Qt::LeftButton, {}, point); }
@@ -30,8 +30,8 @@ class ScreenHand {
   }
   /// Takes hold of the widget at `grip` (within it) and moves its top left corner to `corner` of the screen.
   void Drag(const QWidget& widget, QPoint grip, QPoint corner) {
-    const QPoint from = widget.mapTo(&screen_, grip);
-    const QPoint to = corner + grip;
+    const QPoint from = widget.mapTo(screen_.window(), grip);
+    const QPoint to = screen_.mapTo(screen_.window(), corner + grip);
     MoveTo(from);
     Press(from);
     MoveTo((from + to) / 2);
@@ -41,7 +41,7 @@ class ScreenHand {
   void Key(Qt::Key key, Qt::KeyboardModifiers held = {}) { QTest::keyClick(window(), key, held); }
 
  private:
-  [[nodiscard]] QWindow* window() const { return screen_.windowHandle(); }
+  [[nodiscard]] QWindow* window() const { return screen_.window()->windowHandle(); }
 
   QWidget& screen_;
 };

@@ -75,7 +75,7 @@ void DemoPerson::Key(Qt::Key key) {
 }
 
 void DemoPerson::Type(const std::string& text) {
-  for (const char letter : text) QTest::keyClick(program_.screen()->windowHandle(), letter);
+  for (const char letter : text) QTest::keyClick(program_.screen()->window()->windowHandle(), letter);
   Wait(kAfterAct);
 }
 
