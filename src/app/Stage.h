@@ -11,16 +11,11 @@
 #include <optional>
 
 #include "platform/QtSizeFactor.h"
+#include "profile/Settings.h"
 
 namespace kv {
 
 class Screen;
-
-/// In percent of the layouts' own size; kFitSize: the largest at which every screen is whole.
-inline constexpr int kFitSize = 0;
-inline constexpr int kLeastSize = 75;
-inline constexpr int kMostSize = 300;
-inline constexpr int kSizeStep = 25;
 
 class Stage final : public QWidget {
  public:

@@ -11,6 +11,15 @@ std::string Environment(const char* name) {
   return value == nullptr ? std::string() : std::string(value);
 }
 
+std::string OwnFolder(const char* variable, const char* usual) {
+  const std::string named = Environment(variable);
+  // A relative path there is invalid by the convention and counts as not set.
+  const std::filesystem::path base = named.starts_with('/')
+                                         ? std::filesystem::path(named)
+                                         : std::filesystem::path(Environment("HOME")) / usual;
+  return (base / "kelm-vantri").string();
+}
+
 }  // namespace
 
 std::string ProgramFolder() {
@@ -20,12 +29,11 @@ std::string ProgramFolder() {
 }
 
 std::string UserFolder() {
-  const std::string data = Environment("XDG_DATA_HOME");
-  // A relative path there is invalid by the convention and counts as not set.
-  const std::filesystem::path base = data.starts_with('/')
-                                         ? std::filesystem::path(data)
-                                         : std::filesystem::path(Environment("HOME")) / ".local/share";
-  return (base / "kelm-vantri").string();
+  return OwnFolder("XDG_DATA_HOME", ".local/share");
+}
+
+std::string SettingsFolder() {
+  return OwnFolder("XDG_CONFIG_HOME", ".config");
 }
 
 }  // namespace kv

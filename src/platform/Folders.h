@@ -10,5 +10,7 @@ namespace kv {
 
 /// The user's own folder for player files: "kelm-vantri" in $XDG_DATA_HOME or ~/.local/share.
 [[nodiscard]] std::string UserFolder();
+/// The user's own folder for settings: "kelm-vantri" in $XDG_CONFIG_HOME or ~/.config.
+[[nodiscard]] std::string SettingsFolder();
 
 }  // namespace kv
