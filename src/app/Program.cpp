@@ -35,6 +35,7 @@ std::string BaseName(const std::string& path) {
 Program::Program(const ProgramServices& services, const ProgramFolders& folders)
     : services_(services),
       folders_(folders),
+      settings_(services.settings == nullptr ? noSettings_ : *services.settings),
       stage_(services.sizes),
       dialogs_(services.dialogs),
       sounds_(services.sound),
@@ -54,6 +55,12 @@ Program::Program(const ProgramServices& services, const ProgramFolders& folders)
                                               while (!retired_.empty()) retired_.pop_front();
                                             })),
       tmrSounds_(services.scheduler.NewTimer(kSoundsDelay, [this] { LoadSounds(); })) {
+  BuildStage();
+  globals_.Off = [this] { EndProgram(); };
+  globals_.ReloadCards = [this] { OpenCards(); };
+}
+
+void Program::BuildStage() {
   stage_.FactorChanged = [this] {
     double finest = 1;
     for (const QScreen* screen : QGuiApplication::screens()) {
@@ -64,8 +71,14 @@ Program::Program(const ProgramServices& services, const ProgramFolders& folders)
       if (screen != nullptr) screen->RefreshPictures();
     }
   };
-  globals_.Off = [this] { EndProgram(); };
-  globals_.ReloadCards = [this] { OpenCards(); };
+  stage_.setSizePercent(settings_.size());
+  if (const auto place = settings_.place()) stage_.setPlace({place->x, place->y});
+  stage_.setFullScreen(settings_.fullScreen());
+  stage_.Changed = [this] {
+    settings_.setSize(stage_.sizePercent());
+    settings_.setFullScreen(stage_.fullScreen());
+    settings_.setPlace({stage_.place().x(), stage_.place().y()});
+  };
 }
 
 Program::~Program() {

@@ -21,6 +21,7 @@
 #include "presentation/Portraits.h"
 #include "presentation/Screen.h"
 #include "presentation/Sounds.h"
+#include "profile/Settings.h"
 #include "profile/clsPlayer.h"
 
 namespace kv {
@@ -41,6 +42,8 @@ struct ProgramServices {
   std::function<std::vector<std::string>()> localAddresses{};
   /// The size of everything that is drawn; null: as laid out.
   QtSizeFactor* sizes = nullptr;
+  /// What is remembered for all players; null: nothing.
+  SettingsStore* settings = nullptr;
 };
 
 /// Without a slash at their ends.
@@ -97,6 +100,7 @@ class Program final : public Navigator {
   [[nodiscard]] std::size_t Retired() const { return retired_.size(); }
 
  private:
+  void BuildStage();
   [[nodiscard]] ScreenServices Services();
   /// Closes the open screen, makes the next one with `make`, and opens it on the same window.
   template <typename Make>
@@ -111,6 +115,8 @@ class Program final : public Navigator {
 
   ProgramServices services_;
   ProgramFolders folders_;
+  SettingsStore noSettings_;
+  Settings settings_;
   Stage stage_;  // holds the screens, and goes after them
   CountedDialogs dialogs_;
   Sounds sounds_;
