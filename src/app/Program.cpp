@@ -67,14 +67,14 @@ void Program::BuildStage() {
       finest = std::max(finest, screen->devicePixelRatio());
     }
     pictures_.setPixelRatio(finest);
-    for (const auto& screen : {screen_, behind_}) {
-      if (screen != nullptr) screen->RefreshPictures();
-    }
   };
   stage_.setSizePercent(settings_.size());
   if (const auto place = settings_.place()) stage_.setPlace({place->x, place->y});
   stage_.setFullScreen(settings_.fullScreen());
   stage_.Changed = [this] {
+    for (const auto& screen : {screen_, behind_}) {
+      if (screen != nullptr) screen->Resized();
+    }
     settings_.setSize(stage_.sizePercent());
     settings_.setFullScreen(stage_.fullScreen());
     settings_.setPlace({stage_.place().x(), stage_.place().y()});
@@ -108,7 +108,8 @@ ScreenServices Program::Services() {
           globals_.look,
           [this](int number) { return pictures_.getPic(number); },
           portraits_,
-          *this};
+          *this,
+          stage_};
 }
 
 // --- Opening and closing ---------------------------------------------------------------------------------

@@ -130,6 +130,10 @@ void Stage::StepSize(int direction) {
   setSizePercent(static_cast<int>(next) * kSizeStep);
 }
 
+void Stage::setFits(bool fits) {
+  setSizePercent(fits ? std::optional(kFitSize) : std::nullopt);
+}
+
 void Stage::setFullScreen(bool full) {
   full_ = full;
   Reshape();

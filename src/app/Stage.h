@@ -11,13 +11,14 @@
 #include <optional>
 
 #include "platform/QtSizeFactor.h"
+#include "presentation/WindowSize.h"
 #include "profile/Settings.h"
 
 namespace kv {
 
 class Screen;
 
-class Stage final : public QWidget {
+class Stage final : public QWidget, public WindowSize {
  public:
   /// `sizes` must outlive it; null: everything stays as large as its layout says.
   explicit Stage(QtSizeFactor* sizes);
@@ -32,13 +33,13 @@ class Stage final : public QWidget {
   /// kFitSize, or a percentage; without a choice one that suits the desktop. Takes effect at once.
   void setSizePercent(std::optional<int> percent);
   [[nodiscard]] std::optional<int> sizePercent() const { return percent_; }
-  /// The size in use, in percent.
-  [[nodiscard]] int ShownPercent() const;
-  /// One step larger (1) or smaller (-1), from the size in use.
-  void StepSize(int direction);
+  [[nodiscard]] int ShownPercent() const override;
+  [[nodiscard]] bool fits() const override { return percent_ == kFitSize; }
+  void StepSize(int direction) override;
+  void setFits(bool fits) override;
   /// Everything as large as the desktop's screen holds, on a dark ground.
-  void setFullScreen(bool full);
-  [[nodiscard]] bool fullScreen() const { return full_; }
+  void setFullScreen(bool full) override;
+  [[nodiscard]] bool fullScreen() const override { return full_; }
   /// The middle of the window, from 0 to 1 of its desktop's screen in each direction.
   void setPlace(QPointF place);
   [[nodiscard]] QPointF place() const { return place_; }

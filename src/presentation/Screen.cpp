@@ -77,9 +77,10 @@ QImage Screen::Tinted(const QImage& picture) const {
   return image;
 }
 
-void Screen::RefreshPictures() {
+void Screen::Resized() {
   for (const auto& [number, image] : tinted_) *image = Tinted(*services().getPic(number).image());
   update();
+  SizeChanged();
 }
 
 void Screen::Open() {

@@ -32,8 +32,9 @@ class Screen : public QWidget {
   /// under way. Does nothing the second time.
   void CloseScreen();
   [[nodiscard]] bool closing() const { return lifetime_.closing(); }
-  /// Pictures are finer or coarser from now on: makes those anew that the screen has coloured for itself.
-  void RefreshPictures();
+  /// Everything is drawn at another size from now on, or in full screen: makes the pictures anew that the
+  /// screen has coloured for itself.
+  void Resized();
   /// The diameter of its round corners, in layout pixels.
   [[nodiscard]] int corners() const { return corners_; }
 
@@ -51,6 +52,8 @@ class Screen : public QWidget {
   virtual void Shown() {}
   /// Stops what the screen has started. Effects are stopped already.
   virtual void Closing() {}
+  /// Everything is drawn at another size from now on, or in full screen.
+  virtual void SizeChanged() {}
   /// The pointer is over nothing in particular: takes back every highlight.
   virtual void PlainHighlights();
 

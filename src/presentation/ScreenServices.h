@@ -12,6 +12,7 @@
 #include "presentation/Effects.h"
 #include "presentation/Navigator.h"
 #include "presentation/Portraits.h"
+#include "presentation/WindowSize.h"
 
 namespace kv {
 
@@ -25,6 +26,7 @@ struct ScreenServices {
   std::function<Picture(int number)> getPic;
   Portraits& portraits;
   Navigator& navigator;
+  WindowSize& window;
 };
 
 }  // namespace kv

@@ -10,6 +10,7 @@
 #include "screens/frmOptionsFrame.h"
 #include "screens/frmOptionsKeys.h"
 #include "screens/frmOptionsPortrait.h"
+#include "screens/frmOptionsSize.h"
 
 namespace kv {
 namespace {
@@ -42,6 +43,10 @@ frmOptions::~frmOptions() {
 void frmOptions::Closing() {
   tmrKeys_->setEnabled(false);
   waiting_.reset();
+}
+
+void frmOptions::SizeChanged() {
+  size_->Refresh();
 }
 
 void frmOptions::PortraitChosen(const Picture& picture) {

@@ -20,6 +20,7 @@ class frmOptionsFields;
 class frmOptionsFrame;
 class frmOptionsKeys;
 class frmOptionsPortrait;
+class frmOptionsSize;
 
 class frmOptions final : public Screen, public PortraitCaller {
  public:
@@ -38,6 +39,7 @@ class frmOptions final : public Screen, public PortraitCaller {
  protected:
   bool event(QEvent* event) override;
   void Closing() override;
+  void SizeChanged() override;
 
  private:
   void BuildControls();
@@ -64,6 +66,7 @@ class frmOptions final : public Screen, public PortraitCaller {
   std::optional<int> waiting_;   // the key button that waits for its key
   std::unique_ptr<Timer> tmrKeys_;
   std::unique_ptr<frmOptionsFields> fields_;
+  std::unique_ptr<frmOptionsSize> size_;
   frmOptionsFrame* frmeOptions_ = nullptr;  // children
   frmOptionsKeys* frmeKeys_ = nullptr;
   frmOptionsPortrait* imgYourPic_ = nullptr;

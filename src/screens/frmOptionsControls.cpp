@@ -13,6 +13,7 @@
 #include "screens/frmOptionsFrame.h"
 #include "screens/frmOptionsKeys.h"
 #include "screens/frmOptionsPortrait.h"
+#include "screens/frmOptionsSize.h"
 #include "screens/modShowPIN.h"
 
 namespace kv {
@@ -22,7 +23,7 @@ constexpr int kNameLimit = 20;  // characters
 constexpr int kArcadeUnlockWins = 5;
 
 constexpr QStringView kPanels[] = {u"grpPlayer", u"grpArcade",     u"grpGame", u"grpInterface",
-                                   u"grpSounds", u"grpTurnSystem", u"grpKeys"};
+                                   u"grpSounds", u"grpTurnSystem", u"grpKeys", u"grpSize"};
 constexpr QStringView kLabels[] = {
     u"lblInfo(0)",    u"lblInfo(1)",  u"lblName",      u"lblPIN",      u"lblSpeed",           u"lblArcadeOpp",
     u"lblArcadeInfo", u"lblArcadeAI", u"lblInterface", u"lblKeysInfo", u"lblEmberSizeWarning"};
@@ -39,6 +40,8 @@ void frmOptions::BuildControls() {
   cmdKeys_ = NewFrameButton(u"cmdKeys", [this] { ShowKeyFrame(); });
   QObject::connect(&fields_->chkKeys(), &QCheckBox::clicked, this,
                    [this](bool checked) { cmdKeys_->setEnabled(checked); });
+  size_ = std::make_unique<frmOptionsSize>(*frmeOptions_, layout(), services().buttons, services().window,
+                                           [this] { PlayEffect("check"); });
   cmdOK_ = NewFrameButton(u"cmdOK", [this] { OKClick(); });
   cmdCancel_ = NewFrameButton(u"cmdCancel", [this] { Cancel(); });
   BuildKeys();

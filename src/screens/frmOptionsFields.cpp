@@ -8,6 +8,7 @@
 #include <limits>
 
 #include "presentation/WidgetSkin.h"
+#include "screens/SkinnedBox.h"
 
 namespace kv {
 namespace {
@@ -60,16 +61,6 @@ class OptionList final : public QListWidget {
     if (event->button() == Qt::LeftButton) Click();
   }
 };
-
-template <typename Box>
-Box* NewBox(QStringView control, QWidget& frame, Layout& layout) {
-  const PropertyBag bag = layout.bag(control);
-  auto* box = new Box(bag.text(u"caption"), &frame);
-  box->setToolTip(bag.text(u"tooltip"));
-  SkinWidget(*box, bag);
-  layout.Place(control, *box);
-  return box;
-}
 
 }  // namespace
 

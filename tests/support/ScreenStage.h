@@ -57,7 +57,8 @@ class ScreenStage {
             globals.look,
             [this](int number) { return pictures.getPic(number); },
             portraits,
-            *navigator};
+            *navigator,
+            window};
   }
 
   /// Lets the events be handled and `milliseconds` pass.
@@ -78,6 +79,7 @@ class ScreenStage {
   clsPlayer player;
   Pictures pictures;
   Portraits portraits;
+  WindowSize window;
   RecordingNavigator recorded;
   Navigator* navigator = &recorded;
 };
