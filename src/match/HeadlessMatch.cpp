@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "match/Dealing.h"
+#include "platform/Dialogs.h"
 
 namespace kv {
 namespace {
@@ -31,7 +32,7 @@ class NobodyWatches final : public MatchView, public MatchBooking, public Dialog
     while (!left_) {
       if (timerRuns_) {
         engine.GameTick();
-      } else if (engine.banner().visible) {
+      } else if (engine.shown().banner.visible) {
         engine.Continue();
       } else {
         throw std::logic_error("the match stands still");
@@ -49,7 +50,7 @@ class NobodyWatches final : public MatchView, public MatchBooking, public Dialog
   void ControlsChanged() override {}
   void LightsChanged() override {}
   void BannerChanged() override {
-    const bool shown = engine_->banner().visible;
+    const bool shown = engine_->shown().banner.visible;
     if (shown && !bannerShown_) CountSet();
     bannerShown_ = shown;
     Observe();
@@ -85,7 +86,7 @@ class NobodyWatches final : public MatchView, public MatchBooking, public Dialog
     ++result_.sets;
     result_.ties = result_.sets - result_.setWins[0] - result_.setWins[1];
     for (const Seat seat : {Seat::Player, Seat::Opponent}) {
-      if (engine_->Total(seat) > kTargetTotal) ++result_.busts[static_cast<std::size_t>(seat)];
+      if (engine_->shown().Total(seat) > kTargetTotal) ++result_.busts[static_cast<std::size_t>(seat)];
     }
   }
 

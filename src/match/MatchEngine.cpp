@@ -1,22 +1,13 @@
-// The course of a match: opening, sets, timers, the banner and the forfeit. One turn is in MatchTurns.cpp,
-// the end of a set in MatchResult.cpp.
+// The course of a match: opening, sets, timers, the banner's button and how a match is broken off. One turn
+// is in MatchTurns.cpp, the end of a set in MatchResult.cpp.
 #include "match/MatchEngine.h"
 
-#include <cmath>
+#include <string>
 
 namespace kv {
 namespace {
 
-constexpr int kSlateTurnDelay = 380;  // milliseconds
-constexpr int kEmberTurnDelay = 210;
-constexpr int kNetworkTurnDelay = 210;  // whatever the speed, so that both sides keep pace
-constexpr int kSpeedStep = 60;
-constexpr int kSetPause = 350;
-
-int BaseDelay(const MatchOptions& options, bool network) {
-  if (network) return kNetworkTurnDelay;
-  return options.emberStyle ? kEmberTurnDelay : kSlateTurnDelay;
-}
+constexpr int kSetPause = 350;  // milliseconds
 
 }  // namespace
 
@@ -26,71 +17,64 @@ MatchEngine::MatchEngine(clsGame& game, const MatchOptions& options, MatchView& 
       options_(options),
       view_(view),
       net_(network),
-      network_(game.isNetwork() ? &network : nullptr),
       booking_(booking),
-      dialogs_(dialogs),
-      random_(random),
-      sides_{Side(*this, Seat::Player), Side(*this, Seat::Opponent)} {
-  // A speed that the options screen does not offer is played as normal, so that every pause stays positive.
-  const int speed = options.speed >= 0 && options.speed <= 2 ? options.speed : 1;
-  speedOffset_ = (speed - 1) * kSpeedStep;
-  turnDelay_ = BaseDelay(options, isNetwork()) - (isNetwork() ? 0 : speedOffset_);
-  // The player's flips stay on the table: the hand that was dealt keeps its codes.
-  side(Seat::Player).hand = std::make_shared<clsDeckArray>(*game.SideDeck);
-  side(Seat::Opponent).hand = game.CompDeck;
+      network_(game.isNetwork()),
+      pace_(PaceOf(options, network_)),
+      pauses_(view),
+      board_(shown_, game, view, random),
+      person_(*this, dialogs),
+      peer_(*this),
+      operations_{SideOperations(*this, Seat::Player), SideOperations(*this, Seat::Opponent)} {
+  shown_.title = MatchTitle(game);
+  shown_.wager = WagerText(game);
 }
 
 void MatchEngine::Activate() {
-  if (!isNetwork() || net_.hosting()) {
-    if (isNetwork() || options_.turnMode == 0 || options_.turnMode == 2) {
-      playerStarts_ = std::floor(random_.Rnd() + 0.5) != 0;
+  if (!network_ || net_.hosting()) {
+    if (network_ || options_.turnMode == 0 || options_.turnMode == 2) {
+      playerStarts_ = board_.EvenChance();
     } else {
       playerStarts_ = options_.turnMode == 1;
     }
   }
-  if (!isNetwork()) {
+  if (!network_) {
     Reset();
     return;
   }
   if (net_.hosting()) net_.NetSend(std::string("[WhoS]") + (playerStarts_ ? "False" : "True"));
-  controls_.hand = false;
+  shown_.controls.hand = false;
   view_.ControlsChanged();
-  WaitForPeer(PeerWait::NextSet);
+  peer_.WaitForPlay(MatchPeer::Then::NextSet);
 }
 
 void MatchEngine::Reset() {
-  if (closed_) return;
-  ++epoch_;
-  gameState_ = GameStep::None;
-  begun_ = true;
-  betweenSets_ = false;
-  opponentActs_ = AutoStood = false;
+  if (pauses_.closed()) return;
+  pauses_.MoveOn();
+  peer_.setActs(false);
+  shown_.step = GameStep::None;
+  stage_ = MatchStage::Set;
+  AutoStood = false;
   decision_.reset();
   turn_ = playerStarts_ ? Seat::Player : Seat::Opponent;
-  banner_.caption = "continue";
-  mainDeckCount_.fill(0);
-  controls_.table = {true, true};
-  for (Side& each : sides_) {
-    each.stood = false;
-    each.total = 0;
-    each.table.clear();
-  }
-  for (const Seat seat : {Seat::Player, Seat::Opponent}) view_.TableChanged(seat, 0);
+  shown_.banner.caption = "continue";
+  shown_.controls.table = {true, true};
+  for (MatchSide& each : shown_.sides) each.stood = false;
+  board_.Clear();
   view_.ControlsChanged();
   view_.BannerChanged();
-  if (!Wait(kSetPause - speedOffset_ / 2.0)) return;
-  gameState_ = playerStarts_ ? GameStep::PlayerTurn : GameStep::OpponentTurn;
-  if (isNetwork() || options_.turnMode == 2) playerStarts_ = !playerStarts_;
-  banner_.visible = false;
-  banner_.buttonEnabled = true;
+  if (!pauses_.Wait(kSetPause - pace_.speedOffset / 2.0)) return;
+  shown_.step = playerStarts_ ? GameStep::PlayerTurn : GameStep::OpponentTurn;
+  if (network_ || options_.turnMode == 2) playerStarts_ = !playerStarts_;
+  shown_.banner.visible = false;
+  shown_.banner.buttonEnabled = true;
   view_.BannerChanged();
   view_.RunTimer(MatchTimer::Game, true);
 }
 
 void MatchEngine::GameTick() {
   view_.RunTimer(MatchTimer::Game, false);
-  if (closed_) return;
-  switch (gameState_) {
+  if (pauses_.closed()) return;
+  switch (shown_.step) {
     case GameStep::PlayerTurn:
       PlayerTurn();
       break;
@@ -100,7 +84,7 @@ void MatchEngine::GameTick() {
     case GameStep::SetTied:
     case GameStep::OpponentWins:
     case GameStep::PlayerWins:
-      ShowResult(gameState_);
+      ShowResult();
       break;
     case GameStep::None:
       break;
@@ -109,23 +93,23 @@ void MatchEngine::GameTick() {
 
 void MatchEngine::AutoDialogsTick() {
   view_.RunTimer(MatchTimer::AutoDialogs, false);
-  if (closed_ || !banner_.visible) return;
+  if (pauses_.closed() || !shown_.banner.visible) return;
   view_.PlaySound("click");
   GoOn();
 }
 
 void MatchEngine::Continue() {
-  if (!closed_ && banner_.visible && banner_.buttonEnabled) GoOn();
+  if (!pauses_.closed() && shown_.banner.visible && shown_.banner.buttonEnabled) GoOn();
 }
 
 void MatchEngine::GoOn() {
   view_.RunTimer(MatchTimer::AutoDialogs, false);
-  banner_.buttonEnabled = false;
+  shown_.banner.buttonEnabled = false;
   const bool matchBooked = game_.Wager == -1;
-  if (isNetwork()) {
-    banner_.caption = "(waiting)";
+  if (network_) {
+    shown_.banner.caption = "(waiting)";
     view_.BannerChanged();
-    WaitForPeer(matchBooked ? PeerWait::Leave : PeerWait::NextSet);
+    peer_.WaitForPlay(matchBooked ? MatchPeer::Then::Leave : MatchPeer::Then::NextSet);
   } else if (matchBooked) {
     view_.Leave();
   } else {
@@ -133,141 +117,47 @@ void MatchEngine::GoOn() {
   }
 }
 
-void MatchEngine::WaitForPeer(PeerWait next) {
-  peerWait_ = next;
-  net_.NetSend("[Play]");
-  view_.RunTimer(MatchTimer::NetWait, true);
-}
-
-void MatchEngine::NetWaitTick() {
-  if (closed_ || !net_.peerReady()) return;
-  view_.RunTimer(MatchTimer::NetWait, false);
-  const PeerWait next = std::exchange(peerWait_, PeerWait::None);
-  if (next == PeerWait::NextSet) Reset();
-  if (next == PeerWait::Leave) view_.Leave();
-}
-
 void MatchEngine::Close() {
-  if (closed_) return;
-  closed_ = true;
-  ++epoch_;
-  gameState_ = GameStep::None;
+  if (pauses_.closed()) return;
+  pauses_.Close();
+  shown_.step = GameStep::None;
   for (const MatchTimer timer :
        {MatchTimer::Game, MatchTimer::AutoDialogs, MatchTimer::NetWait, MatchTimer::Quiet}) {
     view_.RunTimer(timer, false);
   }
 }
 
-void MatchEngine::WhenQuiet(std::function<void()> act) {
-  if (pauses_ == 0) {
-    act();
-    return;
-  }
-  whenQuiet_ = std::move(act);
-  view_.RunTimer(MatchTimer::Quiet, true);
-}
-
-void MatchEngine::QuietTick() {
-  if (pauses_ > 0) return;
-  view_.RunTimer(MatchTimer::Quiet, false);
-  if (!closed_ && whenQuiet_) std::exchange(whenQuiet_, {})();
-}
-
-void MatchEngine::Forfeit() {
-  if (closed_) return;
-  if (game_.Wager != -1) {
-    WhenQuiet([this] { AskForfeit(); });
-    return;
-  }
-  if (!banner_.buttonEnabled) return;
-  view_.PlaySound("click");
-  Continue();
-}
-
-void MatchEngine::AskForfeit() {
-  if (game_.Wager == -1) return;  // it ended in the pause that the question waited for
-  const bool sure = dialogs_.AskYesNo("Are you sure you wish to forfeit this match?",
-                                      "Kelm Vantri: Forfeit Match", DialogIcon::Exclamation);
-  // The match went on behind the question: it may be over, or the screen gone. One that is decided is no
-  // longer given up, for the peer knows the result already.
-  if (closed_ || game_.Wager == -1) return;
-  if (!sure || (decision_ && decision_->endsMatch)) {
-    view_.ControlsChanged();  // the Forfeit button disabled itself when it was clicked
-    return;
-  }
-  stopped_ = true;
-  StopMatch();
-  if (isNetwork()) net_.NetSend("[Forf]");
-  while (SetWins(Seat::Opponent) < kSetsToWin - 1) AddSetWin(true);
-  gameState_ = GameStep::OpponentWins;
-  GameTick();
-}
-
-void MatchEngine::OppForfeit() {
-  if (closed_ || game_.Wager == -1) return;
-  StopMatch();
-  controls_.titlebar = false;
-  view_.ControlsChanged();
-  while (SetWins(Seat::Player) < kSetsToWin - 1) AddSetWin(false);
-  gameState_ = GameStep::PlayerWins;
-  GameTick();
-}
-
 /// Nothing of the match goes on: timers, running turns, lights and everything that can be used.
 void MatchEngine::StopMatch() {
-  ++epoch_;
-  opponentActs_ = false;
+  pauses_.MoveOn();
+  peer_.Stop();
   decision_.reset();
-  peerWait_ = PeerWait::None;
-  gameState_ = GameStep::None;
+  shown_.step = GameStep::None;
   for (const MatchTimer timer : {MatchTimer::Game, MatchTimer::AutoDialogs, MatchTimer::NetWait}) {
     view_.RunTimer(timer, false);
   }
   SetLights(false, false);
-  controls_ = MatchControls{};
-  controls_.opponentHand = false;
-  controls_.table = {false, false};
+  shown_.controls = MatchControls{};
+  shown_.controls.opponentHand = false;
+  shown_.controls.table = {false, false};
   view_.ControlsChanged();
 }
 
-std::string MatchEngine::Title() const {
-  if (game_.Mode == kModeArcade) return "Arcade Match";
-  if (game_.Mode == kModeCampaign) return "Campaign Match";
-  if (game_.Mode == kModeNetwork) return "Network Match";
-  if (game_.Mode == kModeNetworkArcade) return "Network Arcade Match";
-  return "Kelm Vantri Match";
-}
-
-std::string MatchEngine::WagerText() const {
-  std::string text = "Wager: " + std::to_string(game_.Wager);
-  if (game_.Mode == kModeNetwork) {
-    text += "\nBonus: " + std::to_string(static_cast<std::int64_t>(std::floor(game_.Wager * 0.1)));
-  }
-  return text;
-}
-
 void MatchEngine::SetLights(bool player, bool opponent) {
-  side(Seat::Player).light = player;
-  side(Seat::Opponent).light = opponent;
+  shown_.side(Seat::Player).light = player;
+  shown_.side(Seat::Opponent).light = opponent;
   view_.LightsChanged();
 }
 
 void MatchEngine::SetTurnControls(bool enabled) {
-  controls_.endTurn = controls_.stand = controls_.forfeit = controls_.hand = enabled;
+  MatchControls& controls = shown_.controls;
+  controls.endTurn = controls.stand = controls.forfeit = controls.hand = enabled;
   view_.ControlsChanged();
 }
 
 void MatchEngine::StartGameTimer(GameStep next) {
-  gameState_ = next;
-  if (!stopped_) view_.RunTimer(MatchTimer::Game, true);
-}
-
-bool MatchEngine::Wait(double milliseconds) {
-  const std::uint32_t epoch = epoch_;
-  ++pauses_;
-  const bool passed = view_.Pause(static_cast<int>(milliseconds));
-  --pauses_;
-  return passed && !closed_ && epoch == epoch_;
+  shown_.step = next;
+  if (!person_.Stopped()) view_.RunTimer(MatchTimer::Game, true);
 }
 
 }  // namespace kv

@@ -26,15 +26,11 @@ enum class GameStep : std::uint8_t {
   PlayerWins = 12,
 };
 
+/// How far a match has come: no set has begun, one is played, the result of one is shown.
+enum class MatchStage : std::uint8_t { Opening, Set, BetweenSets };
+
 /// Where a match stands in the peer's turn.
 enum class PeerTurn : std::uint8_t { NotTheirs, Soon, Theirs };
-
-/// A set that is decided, before its result is shown.
-struct SetDecision {
-  Seat closing;     // whose end of turn decided it
-  GameStep result;  // SetTied, OpponentWins or PlayerWins
-  bool endsMatch;
-};
 
 /// The options of the player record that a match follows, taken when it opens.
 struct MatchOptions {
@@ -45,6 +41,13 @@ struct MatchOptions {
   bool autoDialogs = false;  // AutoDialogs_Opt
 };
 [[nodiscard]] MatchOptions MatchOptionsOf(const clsPlayer& player);
+
+/// How fast a match is played, in milliseconds.
+struct MatchPace {
+  int speedOffset = 0;  // what every step of the speed option takes off a pause; negative when slow
+  int turnDelay = 0;    // the base pause of a turn
+};
+[[nodiscard]] MatchPace PaceOf(const MatchOptions& options, bool network);
 
 /// What the person may use at the moment. A hand card is usable when hand is set and its slot is not empty.
 struct MatchControls {

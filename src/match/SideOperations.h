@@ -2,8 +2,11 @@
 // strategy that is still running then changes nothing any more.
 #pragma once
 
+#include <cstdint>
+
 #include "ai/AiOperations.h"
-#include "match/MatchView.h"
+#include "ai/Strategy.h"
+#include "match/MatchState.h"
 
 namespace kv {
 
@@ -12,6 +15,10 @@ class MatchEngine;
 class SideOperations final : public AiOperations {
  public:
   SideOperations(MatchEngine& engine, Seat seat) : engine_(engine), seat_(seat) {}
+
+  /// Lets `strategy` play one turn of this side.
+  void Ask(Strategy& strategy);
+
   [[nodiscard]] int AI_CardCount() const override;
   [[nodiscard]] int AI_FindCard(int change) override;
   [[nodiscard]] int AI_FindCardType(std::string_view type) const override;
@@ -29,6 +36,8 @@ class SideOperations final : public AiOperations {
 
   MatchEngine& engine_;
   Seat seat_;
+  std::uint32_t epoch_ = 0;  // in which the running strategy was asked
+  bool runs_ = false;
 };
 
 }  // namespace kv

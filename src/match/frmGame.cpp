@@ -34,8 +34,8 @@ frmGame::~frmGame() {
 void frmGame::BuildTimers() {
   timers_ = {NewTimer(kGameInterval, [this] { engine_.GameTick(); }),
              NewTimer(kAutoDialogsInterval, [this] { engine_.AutoDialogsTick(); }),
-             NewTimer(kNetWaitInterval, [this] { engine_.NetWaitTick(); }),
-             NewTimer(kQuietInterval, [this] { engine_.QuietTick(); })};
+             NewTimer(kNetWaitInterval, [this] { engine_.peer().NetWaitTick(); }),
+             NewTimer(kQuietInterval, [this] { engine_.pauses().QuietTick(); })};
 }
 
 /// Its picture is the window's own, so it draws nothing: the pointer over it is over nothing in particular.
@@ -52,15 +52,15 @@ void frmGame::BuildControls() {
   opponent_ = std::make_unique<frmGameSide>(Seat::Opponent, *panel_, layout(), services_, grid);
   lblWager_ = layout().NewLabel(u"lblWager", panel_);
   hand_ = std::make_unique<frmGameHand>(*panel_, layout(), services_.look, grid);
-  cmdTurn_ = NewMatchButton(u"cmdTurn", [this] { engine_.EndTurn(); });
-  cmdStand_ = NewMatchButton(u"cmdStand", [this] { engine_.Stand(); });
-  cmdForfeit_ = NewMatchButton(u"cmdForfeit", [this] { engine_.Forfeit(); });
+  cmdTurn_ = NewMatchButton(u"cmdTurn", [this] { engine_.person().EndTurn(); });
+  cmdStand_ = NewMatchButton(u"cmdStand", [this] { engine_.person().Stand(); });
+  cmdForfeit_ = NewMatchButton(u"cmdForfeit", [this] { engine_.person().Forfeit(); });
   if (services_.game.isNetwork()) {
     GrowBelow(layout().rect(u"ctlChat").height());
     chat_ = new ctlChat(this, layout(), services_.network);
   }
   ctlTitlebar_ = NewTitlebar();
-  ctlTitlebar_->Quit = [this] { engine_.Forfeit(); };
+  ctlTitlebar_->Quit = [this] { engine_.person().Forfeit(); };
   ctlBust_ = new ctlBust(this, layout(), services_.buttons);
   ctlBust_->Click = [this] { engine_.Continue(); };
   ctlBust_->hide();
@@ -79,9 +79,9 @@ ctlButton* frmGame::NewMatchButton(QStringView control, std::function<void()> cl
 }
 
 void frmGame::ConnectHand() {
-  hand_->Play = [this](int slot) { engine_.PlayHandCard(slot); };
-  hand_->FirstFlip = [this](int slot) { engine_.FirstFlip(slot); };
-  hand_->SecondFlip = [this](int slot) { engine_.SecondFlip(slot); };
+  hand_->Play = [this](int slot) { engine_.person().PlayHandCard(slot); };
+  hand_->FirstFlip = [this](int slot) { engine_.person().FirstFlip(slot); };
+  hand_->SecondFlip = [this](int slot) { engine_.person().SecondFlip(slot); };
   // A dragged card goes over the buttons beside the panel, too.
   hand_->DragStarted = [this] {
     services_.effects.StopCardPulse();
@@ -100,10 +100,10 @@ void frmGame::ConnectHand() {
 
 void frmGame::Shown() {
   keys_.CopyArray(*services_.player.Keys);
-  const QString title = QString::fromStdString(engine_.Title());
+  const QString title = QString::fromStdString(engine_.shown().title);
   ctlTitlebar_->setCaption(title);
   setWindowTitle(title);
-  lblWager_->setText(QString::fromStdString(engine_.WagerText()));
+  lblWager_->setText(QString::fromStdString(engine_.shown().wager));
   lblWager_->setAccessibleName(lblWager_->text());
   engine_.Activate();
 }
@@ -115,14 +115,14 @@ void frmGame::Closing() {
 
 void frmGame::LeaveProgram() {
   if (closing()) return;
-  engine_.WhenQuiet([this] {
+  engine_.pauses().WhenQuiet([this] {
     if (services_.game.isNetwork()) {
       LeaveNetwork();
       return;
     }
     if (services_.game.Wager != -1) {
-      engine_.Forfeit();
-      if (closing() || !engine_.Stopped()) return;
+      engine_.person().Forfeit();
+      if (closing() || !engine_.person().Stopped()) return;
     }
     services_.navigator.EndProgram();
   });

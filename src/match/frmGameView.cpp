@@ -25,13 +25,13 @@ void frmGame::TableChanged(Seat seat, int index) {
   if (index == 0) {
     side(seat).ClearTable();
   } else {
-    side(seat).ShowTableCard(index, engine_.Table(seat)[static_cast<std::size_t>(index) - 1]);
+    side(seat).ShowTableCard(index, engine_.shown().Table(seat)[static_cast<std::size_t>(index) - 1]);
   }
-  side(seat).ShowTotal(engine_.Total(seat));
+  side(seat).ShowTotal(engine_.shown().Total(seat));
 }
 
 void frmGame::HandChanged(Seat seat, int slot) {
-  const CardCode& code = engine_.HandCard(seat, slot);
+  const CardCode& code = engine_.shown().HandCard(seat, slot);
   if (seat == Seat::Player) {
     hand_->ShowCard(slot, code);
   } else {
@@ -40,11 +40,11 @@ void frmGame::HandChanged(Seat seat, int slot) {
 }
 
 void frmGame::SetWinAdded(Seat seat) {
-  side(seat).ShowSetWins(engine_.SetWins(seat));
+  side(seat).ShowSetWins(engine_.shown().SetWins(seat));
 }
 
 void frmGame::ControlsChanged() {
-  const MatchControls& controls = engine_.controls();
+  const MatchControls& controls = engine_.shown().controls;
   cmdTurn_->setEnabled(controls.endTurn);
   cmdStand_->setEnabled(controls.stand);
   cmdForfeit_->setEnabled(controls.forfeit);
@@ -59,9 +59,9 @@ void frmGame::ControlsChanged() {
 void frmGame::LightsChanged() {
   services_.effects.StopFade();
   for (const Seat seat : {Seat::Player, Seat::Opponent}) side(seat).RepaintLight();
-  if (engine_.Light(Seat::Player)) services_.navigator.CallPlayer();
+  if (engine_.shown().Light(Seat::Player)) services_.navigator.CallPlayer();
   for (const Seat seat : {Seat::Player, Seat::Opponent}) {
-    if (!engine_.Light(seat)) continue;
+    if (!engine_.shown().Light(seat)) continue;
     // Without pulsing effects a light simply shines, and nothing moves while the person thinks.
     if (services_.player.LightPulse_Opt) {
       services_.effects.FadeLoop(side(seat).LightPair(), kLightFade);
@@ -73,7 +73,7 @@ void frmGame::LightsChanged() {
 }
 
 void frmGame::BannerChanged() {
-  const MatchBanner& banner = engine_.banner();
+  const MatchBanner& banner = engine_.shown().banner;
   ctlBust_->lblBust().setText(QString::fromStdString(banner.text));
   ctlButton& button = ctlBust_->cmdBust();
   button.setCaption(QString::fromStdString(banner.caption));
@@ -129,7 +129,7 @@ bool frmGame::eventFilter(QObject* watched, QEvent* event) {
   if (GameKey(key)) return true;
   const int slot = hand_->SlotOf(watched);
   if (slot != 0 && (IsEnter(key.key()) || key.key() == Qt::Key_Space)) {
-    if (!key.isAutoRepeat()) engine_.PlayHandCard(slot);
+    if (!key.isAutoRepeat()) engine_.person().PlayHandCard(slot);
     return true;
   }
   return FocusKey(key);
@@ -143,19 +143,19 @@ bool frmGame::GameKey(const QKeyEvent& event) {
   const KeyAction action = KeyActionOf(keys_, code, HeldOf(event.modifiers()), hand_->flips());
   switch (action.command) {
     case KeyCommand::EndTurn:
-      engine_.EndTurn();
+      engine_.person().EndTurn();
       break;
     case KeyCommand::Stand:
-      engine_.Stand();
+      engine_.person().Stand();
       break;
     case KeyCommand::Play:
-      engine_.PlayHandCard(action.slot);
+      engine_.person().PlayHandCard(action.slot);
       break;
     case KeyCommand::FirstFlip:
-      engine_.FirstFlip(action.slot);
+      engine_.person().FirstFlip(action.slot);
       break;
     case KeyCommand::SecondFlip:
-      engine_.SecondFlip(action.slot);
+      engine_.person().SecondFlip(action.slot);
       break;
     case KeyCommand::None:
       break;
@@ -178,7 +178,7 @@ bool frmGame::FocusKey(const QKeyEvent& event) {
       ctlBust_->cmdBust().click();
       return true;
     case Qt::Key_Escape:
-      if (!event.isAutoRepeat() && ctlTitlebar_->Enabled()) engine_.Forfeit();
+      if (!event.isAutoRepeat() && ctlTitlebar_->Enabled()) engine_.person().Forfeit();
       return true;
     default:
       return false;

@@ -69,10 +69,10 @@ Place NetworkGame::place() const {
     return matchUnderWay() ? Place::Desk : Place::Cards;
   }
   if (!matchUnderWay()) return Place::Over;
-  if (!match_->begun()) return Place::Opening;
-  if (match_->decision()) return Place::Decided;
-  if (match_->betweenSets()) return Place::Banner;
-  switch (match_->peerTurn()) {
+  if (!match_->peer().begun()) return Place::Opening;
+  if (match_->peer().decision()) return Place::Decided;
+  if (match_->peer().betweenSets()) return Place::Banner;
+  switch (match_->peer().peerTurn()) {
     case PeerTurn::Theirs:
       return Place::Theirs;
     case PeerTurn::Soon:
@@ -94,7 +94,7 @@ void NetworkGame::ScreensClosed() {
 void NetworkGame::MatchOpened(MatchEngine& match) {
   match_ = &match;
   peer_.OwnTable();
-  if (peer_.playerStarts) match.setPlayerStarts(*std::exchange(peer_.playerStarts, {}));
+  if (peer_.playerStarts) match.peer().setPlayerStarts(*std::exchange(peer_.playerStarts, {}));
 }
 
 // --- Greeting --------------------------------------------------------------------------------------------
@@ -240,7 +240,7 @@ void NetworkGame::Leave() {
   const bool known = !link_.Unsent("[Turn]") && !link_.Unsent("[TAck]");
   link_.Leave();
   if (!matchUnderWay()) return;
-  if (match_ != nullptr && known && match_->BookDecision()) return;
+  if (match_ != nullptr && known && match_->peer().BookDecision()) return;
   StakeToRecord(*game_, *player_);
   booking_->SaveLoss();
 }

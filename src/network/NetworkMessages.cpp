@@ -156,7 +156,7 @@ bool NetworkGame::Handle(const msg::WhoS& who) {
   if (hosting_) return false;
   peer_.Begins(who.youStart);
   if (match_ != nullptr) {
-    match_->setPlayerStarts(who.youStart);
+    match_->peer().setPlayerStarts(who.youStart);
   } else {
     peer_.playerStarts = who.youStart;
   }
@@ -165,40 +165,41 @@ bool NetworkGame::Handle(const msg::WhoS& who) {
 
 template <>
 bool NetworkGame::Handle(const msg::Card& card) {
-  const bool left = match_->MainDeckCount(card.value) < kCopiesInDeck;
-  if (peer_.drawn() || match_->OpponentStood() || !left) return false;
+  const bool left = match_->board().MainDeckCount(card.value) < kCopiesInDeck;
+  if (peer_.drawn() || match_->shown().Stood(Seat::Opponent) || !left) return false;
   peer_.Draws();
-  const int before = match_->Total(Seat::Opponent);
-  match_->LoadNextCard(CardCode(CardType::MainDeck, card.value), true);
-  match_->DeductDrawCard(card.value);
+  const int before = match_->shown().Total(Seat::Opponent);
+  match_->peer().OppDraw(card.value);
   services_.playEffect("draw");
-  if (before <= kTargetTotal && match_->Total(Seat::Opponent) > kTargetTotal) services_.playEffect("bust");
+  if (before <= kTargetTotal && match_->shown().Total(Seat::Opponent) > kTargetTotal)
+    services_.playEffect("bust");
   return true;
 }
 
 template <>
 bool NetworkGame::Handle(const msg::Hand& hand) {
-  const bool full = match_->Table(Seat::Opponent).size() == kTableSize;
-  const bool spent = match_->HandCard(Seat::Opponent, hand.slot) == EmptiedSlot();
-  if (!peer_.drawn() || peer_.played() || match_->OpponentStood() || full || spent) return false;
+  const bool full = match_->shown().Table(Seat::Opponent).size() == kTableSize;
+  const bool spent = match_->shown().HandCard(Seat::Opponent, hand.slot) == EmptiedSlot();
+  if (!peer_.drawn() || peer_.played() || match_->shown().Stood(Seat::Opponent) || full || spent)
+    return false;
   peer_.PlaysCard();
-  match_->OppPlayHand(hand.slot, hand.code);
+  match_->peer().OppPlayHand(hand.slot, hand.code);
   return true;
 }
 
 template <>
 bool NetworkGame::Handle(const msg::Stnd&) {
-  if (!peer_.drawn() || match_->OpponentStood()) return false;
-  match_->OppStand();
+  if (!peer_.drawn() || match_->shown().Stood(Seat::Opponent)) return false;
+  match_->peer().OppStand();
   return true;
 }
 
 template <>
 bool NetworkGame::Handle(const msg::Turn&) {
   // Without a move since its last it is a repetition that came late.
-  if (!peer_.drawn() && !match_->OpponentStood()) return peer_.repeatsTurn();
+  if (!peer_.drawn() && !match_->shown().Stood(Seat::Opponent)) return peer_.repeatsTurn();
   peer_.EndsTurn();
-  match_->AI_EndTurn();
+  match_->peer().AI_EndTurn();
   return true;
 }
 
@@ -216,15 +217,15 @@ bool NetworkGame::Handle(const msg::Forf&) {
   peer_.Forfeits();
   if (place() == Place::Over) {
     // Both may have ended it at the same time; or it gave up before it knew that it had won.
-    if (match_->LostByPlay()) {
+    if (match_->peer().LostByPlay()) {
       AddChatLine("[" + game_->OppName + " has forfeit this match. You Win.]");
-      match_->WinAfterAll();
+      match_->peer().WinAfterAll();
     }
     return true;
   }
   AddChatLine("[" + game_->OppName + " has forfeit this match. You Win.]");
   if (match_ != nullptr) {
-    match_->OppForfeit();
+    match_->peer().OppForfeit();
   } else {
     WinAtTheDesk();
   }
@@ -245,15 +246,15 @@ bool NetworkGame::WinByItsLeaving(bool unanswered) {
   if (match_ != nullptr) {
     // A result that the peer knew stands; it did not know what this side's last turn had decided if it never
     // answered it.
-    const auto& decision = match_->decision();
+    const auto& decision = match_->peer().decision();
     const bool known = !unanswered || (decision && decision->closing == Seat::Opponent);
     if (decision && decision->endsMatch && known) {
       const bool won = decision->result == GameStep::PlayerWins;
-      return match_->BookDecision() && won;
+      return match_->peer().BookDecision() && won;
     }
     if (place() == Place::Over) {
-      const bool reversed = !known && match_->LostByPlay();
-      if (reversed) match_->WinAfterAll();
+      const bool reversed = !known && match_->peer().LostByPlay();
+      if (reversed) match_->peer().WinAfterAll();
       return reversed;
     }
   }
@@ -280,7 +281,8 @@ bool NetworkGame::Handle(const msg::Quit&) {
 // --- All of them -------------------------------------------------------------------------------------------
 
 Course NetworkGame::CourseOf(const Message& message) {
-  Course course = peer_.CourseOf(message.index(), place(), match_ != nullptr && match_->waitsForPeer());
+  Course course =
+      peer_.CourseOf(message.index(), place(), match_ != nullptr && match_->peer().waitsForPeer());
   if (!std::holds_alternative<msg::Turn>(message)) return course;
   // Repetitions can come at any time, and each is answered.
   if (peer_.turnHeld()) course = Course::Ignore;

@@ -159,9 +159,9 @@ TEST_F(ProgramTest, EveryControlOfEveryScreenHasANameAndARole) {
   check();
   while (!Match().cmdTurn().Enabled()) Settle(1000);
   QAccessibleInterface* card = QAccessible::queryAccessibleInterface(&Match().hand().ctlYourDeck(1));
-  const std::size_t cards = Match().engine().Table(Seat::Player).size();
+  const std::size_t cards = Match().engine().shown().Table(Seat::Player).size();
   card->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-  EXPECT_EQ(Match().engine().Table(Seat::Player).size(), cards + 1);
+  EXPECT_EQ(Match().engine().shown().Table(Seat::Player).size(), cards + 1);
 }
 
 /// Clicks and keys anywhere at any time, on whatever screen is open: the program neither falls nor hangs, a
@@ -209,8 +209,8 @@ TEST_F(ProgramTest, SurvivesAMonkey) {
     Settle(upTo(600));
     if (frmGame* match = program->screenAs<frmGame>()) {
       for (const Seat seat : {Seat::Player, Seat::Opponent}) {
-        EXPECT_EQ(match->side(seat).lblTotal().text().toInt(), match->engine().Total(seat));
-        EXPECT_EQ(match->side(seat).table().size(), match->engine().Table(seat).size());
+        EXPECT_EQ(match->side(seat).lblTotal().text().toInt(), match->engine().shown().Total(seat));
+        EXPECT_EQ(match->side(seat).table().size(), match->engine().shown().Table(seat).size());
       }
     }
     if (step % 50 == 0) static_cast<void>(Stored("ann"));
@@ -252,7 +252,7 @@ TEST_F(ProgramTest, EndsAtOnceWithoutAQuestionAndKeepsTheRecord) {
       dialogs.whileOpen = {};
     } else {
       scheduler.At(200, [this] { program->EndAtOnce(); });
-      Match().engine().EndTurn();
+      Match().engine().person().EndTurn();
     }
     Settle(6000);
     EXPECT_EQ(quits, 1);
@@ -330,7 +330,7 @@ TEST_F(ProgramTest, EndsInTheMiddleOfAPause) {
   Settle(6000);
   dialogs.answers = {true};
   scheduler.At(200, [this] { program->screen()->LeaveProgram(); });
-  Match().engine().EndTurn();
+  Match().engine().person().EndTurn();
   Settle(6000);
   EXPECT_EQ(quits, 1);
   EXPECT_EQ(scheduler.RunningTimers(), 0);

@@ -121,7 +121,7 @@ TEST_P(ScreensWalkTest, ClosesInTheMiddleOfAPause) {
     stage.Settle(3000);
     stage.scheduler.At(200, [&stage] { stage.program->EndProgram(); });
     if (auto* match = stage.program->screenAs<frmGame>()) {
-      match->engine().EndTurn();
+      match->engine().person().EndTurn();
     } else {
       Set(stage, "txtPIN", "1");
       stage.Click("lblPINReveal");

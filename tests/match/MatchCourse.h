@@ -31,9 +31,9 @@ class MatchCourse {
     table.Start();
     if (network) {
       table.PeerReady();
-      if (table.engine->peerTurn() == PeerTurn::Theirs) {
-        table.engine->LoadNextCard(CardCode("no7"), true);
-        table.engine->AI_EndTurn();
+      if (table.engine->peer().peerTurn() == PeerTurn::Theirs) {
+        table.engine->peer().OppDraw(7);
+        table.engine->peer().AI_EndTurn();
         table.Run();
       }
     }
@@ -50,14 +50,14 @@ class MatchCourse {
   void TryEverything() {
     MatchEngine& engine = *table.engine;
     engine.GameTick();
-    engine.QuietTick();
+    engine.pauses().QuietTick();
     for (int slot = 1; slot <= kHandSize; ++slot) {
-      engine.PlayHandCard(slot);
-      engine.FirstFlip(slot);
-      engine.SecondFlip(slot);
+      engine.person().PlayHandCard(slot);
+      engine.person().FirstFlip(slot);
+      engine.person().SecondFlip(slot);
     }
-    engine.EndTurn();
-    engine.Stand();
+    engine.person().EndTurn();
+    engine.person().Stand();
     table.Run();
   }
 

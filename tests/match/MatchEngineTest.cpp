@@ -13,10 +13,10 @@ TEST(Turn, BeginsWithADrawAndWaitsForThePlayer) {
   MatchTable table({.hand = {"ps3"}, .draws = {7}});
   table.Start();
   EXPECT_EQ(table.Cards(Seat::Player), "no7");
-  EXPECT_EQ(table.engine->Total(Seat::Player), 7);
-  EXPECT_TRUE(table.engine->Light(Seat::Player));
-  EXPECT_TRUE(table.engine->controls().endTurn && table.engine->controls().hand &&
-              table.engine->controls().forfeit);
+  EXPECT_EQ(table.engine->shown().Total(Seat::Player), 7);
+  EXPECT_TRUE(table.engine->shown().Light(Seat::Player));
+  EXPECT_TRUE(table.engine->shown().controls.endTurn && table.engine->shown().controls.hand &&
+              table.engine->shown().controls.forfeit);
   EXPECT_EQ(table.sounds, (std::vector<std::string>{"turn", "draw"}));
   EXPECT_EQ(table.pauses, (std::vector<int>{350, 380}));
 }
@@ -28,7 +28,7 @@ TEST(Turn, OneSideCardOnly) {
   EXPECT_EQ(table.Cards(Seat::Player), "no7 ps3");
   table.Play(2);
   EXPECT_EQ(table.Cards(Seat::Player), "no7 ps3") << "a second card in the same turn";
-  EXPECT_TRUE(table.engine->HandCard(Seat::Player, 1).empty());
+  EXPECT_TRUE(table.engine->shown().HandCard(Seat::Player, 1).empty());
   EXPECT_EQ(table.sent, (std::vector<std::string>{"[Hand]1ps3"}));
   table.EndTurn();
   EXPECT_EQ(table.Cards(Seat::Opponent), "no5");
@@ -36,7 +36,7 @@ TEST(Turn, OneSideCardOnly) {
   table.Play(1);
   EXPECT_EQ(table.Cards(Seat::Player), "no7 ps3 no2") << "an empty slot plays nothing";
   table.Play(2);
-  EXPECT_EQ(table.engine->Total(Seat::Player), 14);
+  EXPECT_EQ(table.engine->shown().Total(Seat::Player), 14);
 }
 
 TEST(Turn, TwentyStandsByItself) {
@@ -44,22 +44,22 @@ TEST(Turn, TwentyStandsByItself) {
   drawn.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); }, test::StandOpponent};
   drawn.Start();
   drawn.EndTurn();
-  EXPECT_TRUE(drawn.engine->PlayerStood());
-  EXPECT_EQ(drawn.engine->banner().text, "you win the set.");
+  EXPECT_TRUE(drawn.engine->shown().Stood(Seat::Player));
+  EXPECT_EQ(drawn.engine->shown().banner.text, "you win the set.");
 
   MatchTable played({.hand = {"fp4"}, .draws = {6, 1, 10, 2}});
   played.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); }, test::StandOpponent};
   played.Start();
   played.EndTurn();
   played.Play(1);
-  EXPECT_EQ(played.engine->Total(Seat::Player), 20);
-  EXPECT_TRUE(played.engine->PlayerStood());
-  EXPECT_EQ(played.engine->SetWins(Seat::Player), 1);
+  EXPECT_EQ(played.engine->shown().Total(Seat::Player), 20);
+  EXPECT_TRUE(played.engine->shown().Stood(Seat::Player));
+  EXPECT_EQ(played.engine->shown().SetWins(Seat::Player), 1);
 }
 
 TEST(Turn, NothingCanBePressedWhileACardThatReachesTwentyIsLookedAt) {
   MatchTable table({.hand = {"ps10", "ps1"}, .draws = {10}, .mode = std::string(kModeNetwork)});
-  table.engine->setPlayerStarts(true);
+  table.engine->peer().setPlayerStarts(true);
   table.Start();
   table.PeerReady();
   table.sent.clear();
@@ -67,9 +67,9 @@ TEST(Turn, NothingCanBePressedWhileACardThatReachesTwentyIsLookedAt) {
   table.inPause = [&] {
     EXPECT_FALSE(table.screen.controls.endTurn || table.screen.controls.stand ||
                  table.screen.controls.forfeit || table.screen.controls.hand);
-    table.engine->PlayHandCard(2);
-    table.engine->EndTurn();
-    table.engine->Stand();
+    table.engine->person().PlayHandCard(2);
+    table.engine->person().EndTurn();
+    table.engine->person().Stand();
   };
   table.Play(1);
   EXPECT_EQ(table.sent, (std::vector<std::string>{"[Hand]1ps10", "[Stnd]", "[Turn]", "(repeat)"}));
@@ -85,24 +85,24 @@ TEST(Turn, WhoStoodTakesNoMoreTurns) {
   table.Stand();
   EXPECT_EQ(table.Cards(Seat::Player), "no10");
   EXPECT_EQ(table.Cards(Seat::Opponent), "no5 no6 no7");
-  EXPECT_EQ(table.engine->banner().text, "The opponent wins the set.");
+  EXPECT_EQ(table.engine->shown().banner.text, "The opponent wins the set.");
 }
 
 TEST(Turn, FlipsStayUsableUntilAForfeit) {
   MatchTable table({.hand = {"ps3", "fp2", "s51"}, .draws = {7, 5, 2}});
   table.engine->Activate();
-  table.engine->FirstFlip(2);
-  EXPECT_EQ(table.engine->HandCard(Seat::Player, 2).text(), "fp2") << "not before the first turn";
+  table.engine->person().FirstFlip(2);
+  EXPECT_EQ(table.engine->shown().HandCard(Seat::Player, 2).text(), "fp2") << "not before the first turn";
   table.Run();
   table.Play(1);
-  table.engine->FirstFlip(2);
-  table.engine->SecondFlip(3);
-  EXPECT_EQ(table.engine->HandCard(Seat::Player, 2).text(), "fm2");
-  EXPECT_EQ(table.engine->HandCard(Seat::Player, 3).text(), "s52");
+  table.engine->person().FirstFlip(2);
+  table.engine->person().SecondFlip(3);
+  EXPECT_EQ(table.engine->shown().HandCard(Seat::Player, 2).text(), "fm2");
+  EXPECT_EQ(table.engine->shown().HandCard(Seat::Player, 3).text(), "s52");
   EXPECT_EQ(table.game.SideDeck->Value(2).text(), "fp2") << "the dealt hand keeps its codes";
-  table.engine->Forfeit();
-  table.engine->FirstFlip(2);
-  EXPECT_EQ(table.engine->HandCard(Seat::Player, 2).text(), "fm2");
+  table.engine->person().Forfeit();
+  table.engine->person().FirstFlip(2);
+  EXPECT_EQ(table.engine->shown().HandCard(Seat::Player, 2).text(), "fm2");
 }
 
 TEST(SpecialCards, DoubleAndInvertersLand) {
@@ -110,10 +110,10 @@ TEST(SpecialCards, DoubleAndInvertersLand) {
   table.Start();
   table.Play(1);
   EXPECT_EQ(table.Cards(Seat::Player), "no7 s27");
-  EXPECT_EQ(table.engine->Total(Seat::Player), 14);
+  EXPECT_EQ(table.engine->shown().Total(Seat::Player), 14);
   table.EndTurn();
   table.LoadTable(Seat::Player, {"no2", "ps4", "fm4", "s24", "no6"});
-  EXPECT_EQ(table.engine->Total(Seat::Player), 15 + 2 + 4 - 4 + 4 + 6);
+  EXPECT_EQ(table.engine->shown().Total(Seat::Player), 15 + 2 + 4 - 4 + 4 + 6);
   table.Play(2);
   EXPECT_EQ(table.Cards(Seat::Player), "no7 s27 no1 no-2 pi4 fj4 s24 no6 s300");
 }
@@ -124,14 +124,14 @@ TEST(MatchEnd, ThreeSetsAreBookedOnce) {
   table.Start();
   for (int set = 1; set <= 3; ++set) {
     table.Stand();
-    EXPECT_EQ(table.engine->SetWins(Seat::Player), set);
+    EXPECT_EQ(table.engine->shown().SetWins(Seat::Player), set);
     EXPECT_EQ(table.bookings, set == 3 ? 1 : 0);
     if (set < 3) table.Continue();
   }
   EXPECT_EQ(table.booked, 1);
-  EXPECT_EQ(table.engine->banner().text, "You have defeated your opponent!");
+  EXPECT_EQ(table.engine->shown().banner.text, "You have defeated your opponent!");
   EXPECT_TRUE(table.Heard("winmatch"));
-  table.engine->Forfeit();  // the title bar's close now acts as the banner's button
+  table.engine->person().Forfeit();  // the title bar's close now acts as the banner's button
   EXPECT_TRUE(table.left);
   EXPECT_TRUE(table.questions.empty());
   table.engine->Continue();
@@ -143,12 +143,12 @@ TEST(MatchEnd, ATieCountsForNobodyAndIsReplayed) {
   table.strategy.turns = {test::StandOpponent};
   table.Start();
   table.Stand();
-  EXPECT_EQ(table.engine->banner().text, "The set is tied.");
+  EXPECT_EQ(table.engine->shown().banner.text, "The set is tied.");
   EXPECT_TRUE(table.Heard("tie"));
   table.Continue();
-  EXPECT_EQ(table.engine->SetWins(Seat::Player) + table.engine->SetWins(Seat::Opponent), 0);
+  EXPECT_EQ(table.engine->shown().SetWins(Seat::Player) + table.engine->shown().SetWins(Seat::Opponent), 0);
   EXPECT_EQ(table.Cards(Seat::Player), "no8");
-  EXPECT_EQ(table.engine->MainDeckCount(5), 0) << "the main deck is renewed";
+  EXPECT_EQ(table.engine->board().MainDeckCount(5), 0) << "the main deck is renewed";
 }
 
 TEST(Forfeit, AsksThenLosesWhateverTheScore) {
@@ -160,19 +160,19 @@ TEST(Forfeit, AsksThenLosesWhateverTheScore) {
   table.Stand();
   table.Continue();
   table.answer = false;
-  table.engine->Forfeit();
+  table.engine->person().Forfeit();
   EXPECT_EQ(table.questions.front(),
             "Kelm Vantri: Forfeit Match|Are you sure you wish to forfeit this match?|!");
-  EXPECT_TRUE(table.engine->controls().forfeit);
+  EXPECT_TRUE(table.engine->shown().controls.forfeit);
   EXPECT_EQ(table.bookings, 0);
   table.answer = true;
-  table.engine->Forfeit();
-  EXPECT_EQ(table.engine->SetWins(Seat::Player), 2);
-  EXPECT_EQ(table.engine->SetWins(Seat::Opponent), 3);
+  table.engine->person().Forfeit();
+  EXPECT_EQ(table.engine->shown().SetWins(Seat::Player), 2);
+  EXPECT_EQ(table.engine->shown().SetWins(Seat::Opponent), 3);
   EXPECT_EQ(table.booked, -1);
-  EXPECT_TRUE(table.engine->Stopped());
+  EXPECT_TRUE(table.engine->person().Stopped());
   EXPECT_FALSE(table.gameTimer);
-  EXPECT_EQ(table.engine->banner().text, "You have been defeated.");
+  EXPECT_EQ(table.engine->shown().banner.text, "You have been defeated.");
   table.Continue();
   EXPECT_TRUE(table.left);
 }
@@ -182,10 +182,10 @@ TEST(Network, MovesAreHandedToThePeer) {
   host.Start();
   EXPECT_EQ(host.sent, (std::vector<std::string>{"[WhoS]False", "[Play]"}));
   EXPECT_TRUE(host.netTimer);
-  host.engine->NetWaitTick();
+  host.engine->peer().NetWaitTick();
   EXPECT_EQ(host.Cards(Seat::Player), "");
   host.ready = true;
-  host.engine->NetWaitTick();
+  host.engine->peer().NetWaitTick();
   host.Run();
   EXPECT_FALSE(host.netTimer);
   EXPECT_EQ(host.Cards(Seat::Player), "no7");
@@ -193,22 +193,22 @@ TEST(Network, MovesAreHandedToThePeer) {
   host.Play(1);
   host.Stand();
   EXPECT_EQ(host.sent, (std::vector<std::string>{"[Hand]1ps3", "[Stnd]", "[Turn]", "(repeat)"}));
-  EXPECT_EQ(host.engine->WagerText(), "Wager: 10\nBonus: 1");
-  EXPECT_EQ(host.engine->Title(), "Network Match");
+  EXPECT_EQ(host.engine->shown().wager, "Wager: 10\nBonus: 1");
+  EXPECT_EQ(host.engine->shown().title, "Network Match");
 
   // The peer plays: its messages drive the opponent's side and no strategy is asked.
   EXPECT_EQ(host.strategy.asked, 0);
-  host.engine->LoadNextCard(CardCode("no9"), true);
-  host.engine->PlayCard(CardCode("ps2"), true);
-  host.engine->OppStand();
-  host.engine->AI_EndTurn();
+  host.engine->board().LoadNextCard(CardCode("no9"), true);
+  host.engine->board().PlayCard(CardCode("ps2"), true);
+  host.engine->peer().OppStand();
+  host.engine->peer().AI_EndTurn();
   host.Run();
-  EXPECT_EQ(host.engine->banner().text, "The opponent wins the set.");
+  EXPECT_EQ(host.engine->shown().banner.text, "The opponent wins the set.");
   host.sent.clear();
   host.Continue();
   EXPECT_EQ(host.sent, (std::vector<std::string>{"[Play]"}));
-  EXPECT_EQ(host.engine->banner().caption, "(waiting)");
-  host.engine->Forfeit();
+  EXPECT_EQ(host.engine->shown().banner.caption, "(waiting)");
+  host.engine->person().Forfeit();
   EXPECT_EQ(host.sent.back(), "[Forf]");
 }
 
@@ -216,15 +216,15 @@ TEST(Network, ThePeerGivesUp) {
   MatchTable guest({.mode = std::string(kModeNetworkArcade)});
   guest.Start();
   EXPECT_EQ(guest.sent, (std::vector<std::string>{"[Play]"}));
-  EXPECT_EQ(guest.engine->WagerText(), "Wager: 10");
-  guest.engine->OppForfeit();
+  EXPECT_EQ(guest.engine->shown().wager, "Wager: 10");
+  guest.engine->peer().OppForfeit();
   EXPECT_EQ(guest.booked, 1);
-  EXPECT_FALSE(guest.engine->controls().titlebar);
-  guest.engine->OppForfeit();
+  EXPECT_FALSE(guest.engine->shown().controls.titlebar);
+  guest.engine->peer().OppForfeit();
   EXPECT_EQ(guest.bookings, 1);
   guest.Continue();
   guest.ready = true;
-  guest.engine->NetWaitTick();
+  guest.engine->peer().NetWaitTick();
   EXPECT_TRUE(guest.left);
 }
 

@@ -13,13 +13,13 @@ TEST(Turn, LowTotalsEndByThemselvesUnlessTheOpponentStandsBehind) {
   MatchTable table({.draws = {4, 3, 5, 2, 7}, .options = {.turnMode = 1, .autoTurn = true}});
   table.Start();
   EXPECT_EQ(table.Cards(Seat::Player), "no4 no5 no7");
-  EXPECT_TRUE(table.engine->controls().endTurn);
+  EXPECT_TRUE(table.engine->shown().controls.endTurn);
 
   MatchTable behind({.draws = {3, 3, 1}, .options = {.turnMode = 1, .autoTurn = true}});
   behind.strategy.turns = {test::StandOpponent};
   behind.Start();
   EXPECT_EQ(behind.Cards(Seat::Player), "no3 no1") << "4 against a standing 3 is the player's to decide";
-  EXPECT_TRUE(behind.engine->controls().stand);
+  EXPECT_TRUE(behind.engine->shown().controls.stand);
 }
 
 TEST(AutoDialogs, ConfirmAfterTheirTick) {
@@ -28,30 +28,30 @@ TEST(AutoDialogs, ConfirmAfterTheirTick) {
   table.Start();
   table.Stand();
   EXPECT_TRUE(table.autoTimer);
-  EXPECT_FALSE(table.engine->banner().buttonEnabled);
+  EXPECT_FALSE(table.engine->shown().banner.buttonEnabled);
   table.engine->Continue();
-  EXPECT_TRUE(table.engine->banner().visible) << "the disabled button does nothing";
+  EXPECT_TRUE(table.engine->shown().banner.visible) << "the disabled button does nothing";
   table.engine->AutoDialogsTick();
   table.Run();
-  EXPECT_FALSE(table.engine->banner().visible);
+  EXPECT_FALSE(table.engine->shown().banner.visible);
   EXPECT_EQ(table.Cards(Seat::Player), "no7");
 }
 
 TEST(MainDeck, HoldsFourOfEachValue) {
   MatchTable table({.draws = {3, 3, 3, 3, 3, 3, 8, 1}});
   table.engine->Activate();
-  for (int i = 0; i < 4; ++i) table.engine->DeductDrawCard(3);
+  for (int i = 0; i < 4; ++i) table.engine->board().DeductDrawCard(3);
   table.Run();
   EXPECT_EQ(table.Cards(Seat::Player), "no8");
-  EXPECT_THROW(table.engine->DeductDrawCard(0), std::out_of_range);
-  EXPECT_THROW(table.engine->DeductDrawCard(11), std::out_of_range);
+  EXPECT_THROW(table.engine->board().DeductDrawCard(0), std::out_of_range);
+  EXPECT_THROW(table.engine->board().DeductDrawCard(11), std::out_of_range);
 }
 
 TEST(MainDeck, ReportedDrawsWithoutEndDoNotStopTheNext) {
   MatchTable table({.draws = {8}});
   table.engine->Activate();
   for (int value = 1; value <= 10; ++value) {
-    for (int i = 0; i < 5; ++i) table.engine->DeductDrawCard(value);
+    for (int i = 0; i < 5; ++i) table.engine->board().DeductDrawCard(value);
   }
   table.Run();
   EXPECT_EQ(table.Cards(Seat::Player), "no8");
@@ -65,7 +65,7 @@ std::string Starters(MatchOptions options, int firstDraw, const std::string& mod
   deal.draws.insert(deal.draws.end(), 6, 5);
   MatchTable table(deal);
   table.strategy.turns.assign(3, test::StandOpponent);
-  if (!hosting) table.engine->setPlayerStarts(true);
+  if (!hosting) table.engine->peer().setPlayerStarts(true);
   const bool network = mode != kModeArcade;
   table.Start();
   std::string starters;
@@ -168,18 +168,18 @@ TEST(AutoTurn, LeavesTheTurnToAPlayerWhoIsNotBehindAStandingOpponent) {
     MatchTable table({.draws = {5, drawn, 9}, .playerStarts = false, .options = {.autoTurn = true}});
     table.strategy.turns = {test::StandOpponent};
     table.Start();
-    EXPECT_EQ(table.engine->Table(Seat::Player).size(), drawn < 5 ? 2U : 1U) << drawn << " against 5";
+    EXPECT_EQ(table.engine->shown().Table(Seat::Player).size(), drawn < 5 ? 2U : 1U) << drawn << " against 5";
   }
 }
 
 TEST(AutoDialogs, ConfirmTheEndOfTheMatchToo) {
   MatchTable table({.draws = {9}, .options = {.turnMode = 1, .autoDialogs = true}});
   table.Start();
-  table.engine->Forfeit();
+  table.engine->person().Forfeit();
   EXPECT_TRUE(table.autoTimer);
   EXPECT_FALSE(table.screen.banner.buttonEnabled);
   table.sounds.clear();
-  table.engine->Forfeit();  // the title bar's close acts as the banner's button, which is off
+  table.engine->person().Forfeit();  // the title bar's close acts as the banner's button, which is off
   EXPECT_TRUE(table.sounds.empty());
   EXPECT_FALSE(table.left);
   table.engine->AutoDialogsTick();
@@ -192,7 +192,7 @@ TEST(AutoDialogs, ConfirmTheEndOfTheMatchToo) {
   off.sounds.clear();
   off.engine->AutoDialogsTick();
   EXPECT_TRUE(off.sounds.empty()) << "no banner, nothing to confirm";
-  off.engine->Forfeit();
+  off.engine->person().Forfeit();
   EXPECT_FALSE(off.autoTimer);
   EXPECT_TRUE(off.screen.banner.buttonEnabled);
 }
@@ -211,7 +211,7 @@ TEST(MainDeck, AFifthCopyIsDrawnAgainAndEverySetHasAWholeDeck) {
   table.Continue();
   EXPECT_EQ(table.Cards(Seat::Player), "no3");
   for (int value = 1; value <= 10; ++value) {
-    EXPECT_EQ(table.engine->MainDeckCount(value), value == 3 ? 1 : 0) << value;
+    EXPECT_EQ(table.engine->board().MainDeckCount(value), value == 3 ? 1 : 0) << value;
   }
 }
 
@@ -221,8 +221,8 @@ TEST(MainDeck, IsOneForBothSidesOfANetworkMatch) {
     table.Start();
     table.PeerReady();
     table.EndTurn();
-    for (int copy = 0; copy < peersCopies; ++copy) table.engine->DeductDrawCard(3);
-    table.engine->AI_EndTurn();
+    for (int copy = 0; copy < peersCopies; ++copy) table.engine->board().DeductDrawCard(3);
+    table.engine->peer().AI_EndTurn();
     table.Run();
     EXPECT_EQ(table.Cards(Seat::Player), peersCopies == 2 ? "no3 no3" : "no3 no8");
     EXPECT_EQ(table.sent.back(), peersCopies == 2 ? "[Card]no3" : "[Card]no8");

@@ -30,15 +30,15 @@ TEST(Pauses, AForfeitInAnyOfThemIsAskedForAfterItAndEndsTheMatchOnce) {
       MatchCourse course(mode);
       MatchTable& table = course.table;
       course.InPause(at, [&] {
-        table.engine->Forfeit();
-        table.engine->QuietTick();
+        table.engine->person().Forfeit();
+        table.engine->pauses().QuietTick();
         EXPECT_TRUE(table.questions.empty()) << "a box would hold up the pause";
       });
       table.inQuestion = [&] { EXPECT_EQ(table.pausesOpen, 0); };
       course.Play();
       EXPECT_EQ(table.questions.size(), 1U);
       EXPECT_EQ(table.booked, -1);
-      EXPECT_EQ(table.engine->SetWins(Seat::Opponent), 3);
+      EXPECT_EQ(table.engine->shown().SetWins(Seat::Opponent), 3);
       EXPECT_EQ(table.screen.banner.text, "You have been defeated.");
       EXPECT_TRUE(table.screen.AllDark());
       EXPECT_EQ(table.Sent("[Forf]"), course.network ? 1 : 0);
@@ -59,13 +59,13 @@ TEST(Pauses, ThePeersForfeitInAnyOfThemWinsAtOnce) {
     std::vector<std::string> story;
     std::vector<std::string> sent;
     course.InPause(at, [&] {
-      table.engine->OppForfeit();
+      table.engine->peer().OppForfeit();
       story = table.screen.story;
       sent = table.sent;
     });
     course.Play();
     EXPECT_EQ(table.booked, 1);
-    EXPECT_EQ(table.engine->SetWins(Seat::Player), 3);
+    EXPECT_EQ(table.engine->shown().SetWins(Seat::Player), 3);
     EXPECT_EQ(table.screen.banner.text, "You have defeated your opponent!");
     EXPECT_TRUE(table.screen.AllDark());
     EXPECT_FALSE(table.screen.controls.titlebar);
@@ -87,7 +87,7 @@ TEST(Pauses, AScreenClosedInAnyOfThemStaysAsItIs) {
         std::vector<std::string> story;
         std::vector<std::string> sent;
         course.InPause(at, [&] {
-          table.engine->Forfeit();  // a question that will never open
+          table.engine->person().Forfeit();  // a question that will never open
           table.closing = cutShort;
           table.engine->Close();
           story = table.screen.story;
@@ -95,9 +95,9 @@ TEST(Pauses, AScreenClosedInAnyOfThemStaysAsItIs) {
         });
         course.Play();
         EXPECT_FALSE(table.gameTimer || table.autoTimer || table.netTimer || table.quietTimer);
-        table.engine->QuietTick();
-        table.engine->Forfeit();
-        table.engine->OppForfeit();
+        table.engine->pauses().QuietTick();
+        table.engine->person().Forfeit();
+        table.engine->peer().OppForfeit();
         table.engine->Continue();
         table.engine->Reset();
         table.engine->GameTick();
@@ -115,17 +115,17 @@ TEST(Pauses, WhatWaitsForQuietIsDoneOnceAndAtOnceOutsideThem) {
   MatchTable& table = course.table;
   int done = 0;
   course.InPause(2, [&] {
-    table.engine->WhenQuiet([&] { ++done; });
-    table.engine->QuietTick();
+    table.engine->pauses().WhenQuiet([&] { ++done; });
+    table.engine->pauses().QuietTick();
     EXPECT_EQ(done, 0);
     EXPECT_TRUE(table.quietTimer);
   });
   course.Play();
   EXPECT_EQ(done, 1);
   EXPECT_FALSE(table.quietTimer);
-  table.engine->QuietTick();
+  table.engine->pauses().QuietTick();
   EXPECT_EQ(done, 1);
-  table.engine->WhenQuiet([&] { ++done; });
+  table.engine->pauses().WhenQuiet([&] { ++done; });
   EXPECT_EQ(done, 2);
 }
 
@@ -133,16 +133,16 @@ TEST(Forfeit, ADecidedLastSetIsNoLongerGivenUp) {
   for (const int theirs : {5, 9}) {  // against the player's 7: three sets won, three sets lost
     MatchTable table(ThreeSets(7, theirs));
     table.inPause = [&] {
-      const auto& decision = table.engine->decision();
-      if (decision && decision->endsMatch) table.engine->Forfeit();
+      const auto& decision = table.engine->peer().decision();
+      if (decision && decision->endsMatch) table.engine->person().Forfeit();
     };
     // Decided in the pause before the question, and again while the result's tick is due.
-    table.inQuestion = [&] { EXPECT_TRUE(table.engine->decision().has_value()); };
+    table.inQuestion = [&] { EXPECT_TRUE(table.engine->peer().decision().has_value()); };
     PlaySets(table, 3);
     EXPECT_EQ(table.questions.size(), 1U);
     EXPECT_EQ(table.booked, theirs == 5 ? 1 : -1);
-    EXPECT_FALSE(table.engine->Stopped());
-    EXPECT_EQ(table.engine->SetWins(theirs == 5 ? Seat::Player : Seat::Opponent), 3);
+    EXPECT_FALSE(table.engine->person().Stopped());
+    EXPECT_EQ(table.engine->shown().SetWins(theirs == 5 ? Seat::Player : Seat::Opponent), 3);
   }
 }
 
@@ -159,13 +159,13 @@ TEST(Forfeit, TheAnswerIsWeighedAgainstWhatHappenedBehindTheQuestion) {
     }
     table.strategy.turns = {test::StandOpponent};
     table.inQuestion = [&] {
-      table.engine->Stand();
+      table.engine->person().Stand();
       table.engine->GameTick();
     };
-    table.engine->Forfeit();
+    table.engine->person().Forfeit();
     table.Run();
     EXPECT_EQ(table.booked, won == 2 ? 1 : -1);
-    EXPECT_EQ(table.engine->SetWins(Seat::Player), won == 2 ? 3 : 0);
+    EXPECT_EQ(table.engine->shown().SetWins(Seat::Player), won == 2 ? 3 : 0);
     EXPECT_EQ(table.bookings, 1);
   }
 }
@@ -173,8 +173,8 @@ TEST(Forfeit, TheAnswerIsWeighedAgainstWhatHappenedBehindTheQuestion) {
 TEST(Forfeit, IsNotAskedForOnceThePauseHasEndedTheMatch) {
   MatchCourse course{std::string(kModeNetwork)};
   course.InPause(2, [&] {
-    course.table.engine->Forfeit();
-    course.table.engine->OppForfeit();
+    course.table.engine->person().Forfeit();
+    course.table.engine->peer().OppForfeit();
   });
   course.Play();
   EXPECT_TRUE(course.table.questions.empty());
@@ -184,12 +184,12 @@ TEST(Forfeit, IsNotAskedForOnceThePauseHasEndedTheMatch) {
 TEST(Forfeit, AnsweredNoChangesNothing) {
   MatchCourse course;
   course.table.answer = false;
-  course.InPause(3, [&] { course.table.engine->Forfeit(); });
+  course.InPause(3, [&] { course.table.engine->person().Forfeit(); });
   course.Play();
   EXPECT_EQ(course.table.questions.size(), 1U);
   EXPECT_EQ(course.table.pauses, MatchCourse::Pauses(course.table.game.Mode));
   EXPECT_EQ(course.table.bookings, 0);
-  EXPECT_EQ(course.table.engine->SetWins(Seat::Player), 1);
+  EXPECT_EQ(course.table.engine->shown().SetWins(Seat::Player), 1);
 }
 
 TEST(Forfeit, AsABannerWaitsForThePeerGivesItsButtonBack) {
@@ -200,12 +200,12 @@ TEST(Forfeit, AsABannerWaitsForThePeerGivesItsButtonBack) {
     table.Continue();
     EXPECT_EQ(table.screen.banner.caption, "(waiting)");
     EXPECT_FALSE(table.screen.banner.buttonEnabled);
-    EXPECT_TRUE(table.engine->waitsForPeer());
-    own ? table.engine->Forfeit() : table.engine->OppForfeit();
+    EXPECT_TRUE(table.engine->peer().waitsForPeer());
+    own ? table.engine->person().Forfeit() : table.engine->peer().OppForfeit();
     EXPECT_EQ(table.screen.banner.caption, "continue");
     EXPECT_TRUE(table.screen.banner.buttonEnabled);
     EXPECT_TRUE(table.screen.AllDark());
-    EXPECT_FALSE(table.engine->waitsForPeer());
+    EXPECT_FALSE(table.engine->peer().waitsForPeer());
     table.PeerReady();
     EXPECT_FALSE(table.gameTimer || table.left) << "the set that was waited for never begins";
     table.Continue();
@@ -226,7 +226,7 @@ TEST(Forfeit, AQuestionThatOutlivesTheMatchIsDropped) {
       if (set < 3) table.Continue();
     }
   };
-  table.engine->Forfeit();
+  table.engine->person().Forfeit();
   EXPECT_EQ(table.booked, 1);
   EXPECT_EQ(table.bookings, 1);
 }

@@ -17,14 +17,14 @@ TEST(SetEnd, BustIsDecidedBeforeAllElse) {
     table.LoadTable(Seat::Player, {"no10", "no10"});
     if (opponentOver) table.LoadTable(Seat::Opponent, {"no10", "no10", "no5"});
     table.EndTurn();
-    EXPECT_EQ(table.engine->banner().text, "The opponent wins the set.");
+    EXPECT_EQ(table.engine->shown().banner.text, "The opponent wins the set.");
   }
   MatchTable table({.draws = {5, 10}});
   table.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); }};
   table.Start();
   table.LoadTable(Seat::Opponent, {"no10", "no1"});
   table.EndTurn();
-  EXPECT_EQ(table.engine->banner().text, "you win the set.");
+  EXPECT_EQ(table.engine->shown().banner.text, "you win the set.");
   EXPECT_TRUE(table.Heard("bust"));
 }
 
@@ -33,7 +33,7 @@ TEST(SetEnd, ExactlyTwentyIsNoBust) {
   table.Start();
   table.LoadTable(Seat::Opponent, {"no10"});
   table.EndTurn();
-  EXPECT_FALSE(table.engine->OpponentStood());
+  EXPECT_FALSE(table.engine->shown().Stood(Seat::Opponent));
   EXPECT_EQ(table.Cards(Seat::Player), "no5 no1");
 }
 
@@ -44,7 +44,7 @@ TEST(SetEnd, NineCardsWin) {
   drawn.LoadTable(Seat::Opponent, {"no10", "no9"});
   drawn.LoadTable(Seat::Player, eight);
   drawn.Run();
-  EXPECT_EQ(drawn.engine->banner().text, "you win the set.") << "a lower total, but nine cards";
+  EXPECT_EQ(drawn.engine->shown().banner.text, "you win the set.") << "a lower total, but nine cards";
 
   MatchTable opponent({.opponentHand = {"ps1"}, .draws = {1, 1}, .playerStarts = false});
   opponent.strategy.turns = {[](AiOperations& side) {
@@ -56,8 +56,8 @@ TEST(SetEnd, NineCardsWin) {
   opponent.LoadTable(Seat::Player, {"no10", "no9"});
   opponent.LoadTable(Seat::Opponent, {"no1", "no1", "no1", "no1", "no1", "no1", "no1"});
   opponent.Run();
-  EXPECT_EQ(opponent.engine->Table(Seat::Opponent).size(), 9U);
-  EXPECT_EQ(opponent.engine->banner().text, "The opponent wins the set.");
+  EXPECT_EQ(opponent.engine->shown().Table(Seat::Opponent).size(), 9U);
+  EXPECT_EQ(opponent.engine->shown().banner.text, "The opponent wins the set.");
 }
 
 TEST(SetEnd, OnlyTheClosingSidesLastCardBreaksATie) {
@@ -78,7 +78,7 @@ TEST(SetEnd, OnlyTheClosingSidesLastCardBreaksATie) {
     table.Start();
     table.LoadTable(Seat::Player, {c.playerLast});
     table.Stand();
-    EXPECT_EQ(table.engine->banner().text, c.text);
+    EXPECT_EQ(table.engine->shown().banner.text, c.text);
   }
   MatchTable table({.hand = {"s11"}, .draws = {5, 6}, .playerStarts = false});
   table.strategy.turns = {test::StandOpponent};
@@ -86,7 +86,7 @@ TEST(SetEnd, OnlyTheClosingSidesLastCardBreaksATie) {
   table.LoadTable(Seat::Opponent, {"no2"});
   table.Play(1);
   table.Stand();
-  EXPECT_EQ(table.engine->banner().text, "you win the set.");
+  EXPECT_EQ(table.engine->shown().banner.text, "you win the set.");
 }
 
 TEST(SetEnd, NineCardsOverTwentyLose) {
@@ -94,15 +94,15 @@ TEST(SetEnd, NineCardsOverTwentyLose) {
   table.engine->Activate();
   table.LoadTable(Seat::Player, {"no2", "no2", "no2", "no2", "no2", "no2", "no2", "no2"});
   table.Run();
-  EXPECT_EQ(table.engine->Table(Seat::Player).size(), 9U);
-  EXPECT_EQ(table.engine->Total(Seat::Player), 21);
+  EXPECT_EQ(table.engine->shown().Table(Seat::Player).size(), 9U);
+  EXPECT_EQ(table.engine->shown().Total(Seat::Player), 21);
   EXPECT_EQ(table.screen.banner.text, "The opponent wins the set.");
 
   MatchTable opponent({.draws = {5}, .playerStarts = false});
   opponent.engine->Activate();
   opponent.LoadTable(Seat::Opponent, {"no2", "no2", "no2", "no2", "no2", "no2", "no2", "no2"});
   opponent.Run();
-  EXPECT_EQ(opponent.engine->Table(Seat::Opponent).size(), 9U);
+  EXPECT_EQ(opponent.engine->shown().Table(Seat::Opponent).size(), 9U);
   EXPECT_EQ(opponent.screen.banner.text, "you win the set.");
 }
 
@@ -115,8 +115,8 @@ TEST(SetEnd, NineAgainstNineIsThePlayers) {
     table.LoadTable(Seat::Opponent, eight);
     table.LoadTable(playerStarts ? Seat::Opponent : Seat::Player, {"no2"});
     table.Run();
-    EXPECT_EQ(table.engine->Table(Seat::Player).size(), 9U);
-    EXPECT_EQ(table.engine->Table(Seat::Opponent).size(), 9U);
+    EXPECT_EQ(table.engine->shown().Table(Seat::Player).size(), 9U);
+    EXPECT_EQ(table.engine->shown().Table(Seat::Opponent).size(), 9U);
     EXPECT_EQ(table.screen.banner.text, "you win the set.") << "whoever lays the last one";
   }
 }
@@ -126,7 +126,7 @@ TEST(SetEnd, ANinthCardFromTheHandStandsByItself) {
   table.engine->Activate();
   table.LoadTable(Seat::Player, {"no1", "no1", "no1", "no1", "no1", "no1", "no1"});
   table.Run();
-  EXPECT_FALSE(table.engine->PlayerStood()) << "eight are not yet nine";
+  EXPECT_FALSE(table.engine->shown().Stood(Seat::Player)) << "eight are not yet nine";
   table.Play(1);
   EXPECT_EQ(table.screen.banner.text, "you win the set.");
   EXPECT_EQ(table.strategy.asked, 0);
@@ -153,7 +153,7 @@ TEST(SetEnd, ATiebreakerCountsAsTheLastCardOfThePlayerWhoCloses) {
     table.Start();
     table.LoadTable(Seat::Player, c.player);
     table.Stand();
-    EXPECT_EQ(table.engine->Total(Seat::Player), table.engine->Total(Seat::Opponent));
+    EXPECT_EQ(table.engine->shown().Total(Seat::Player), table.engine->shown().Total(Seat::Opponent));
     EXPECT_EQ(table.screen.banner.text, c.text) << table.Cards(Seat::Player);
   }
 }
@@ -161,12 +161,12 @@ TEST(SetEnd, ATiebreakerCountsAsTheLastCardOfThePlayerWhoCloses) {
 TEST(Booking, ADecidedLastSetIsBookedBeforeItIsShown) {
   for (const int theirs : {5, 9}) {
     MatchTable table(ThreeSets(7, theirs));
-    EXPECT_FALSE(table.engine->BookDecision());
+    EXPECT_FALSE(table.engine->peer().BookDecision());
     std::vector<std::string> story;
     table.inPause = [&] {
-      if (!table.engine->decision()) return;
-      const bool last = table.engine->decision()->endsMatch;
-      EXPECT_EQ(table.engine->BookDecision(), last);
+      if (!table.engine->peer().decision()) return;
+      const bool last = table.engine->peer().decision()->endsMatch;
+      EXPECT_EQ(table.engine->peer().BookDecision(), last);
       story = table.screen.story;
     };
     PlaySets(table, 3);
@@ -175,25 +175,25 @@ TEST(Booking, ADecidedLastSetIsBookedBeforeItIsShown) {
     EXPECT_EQ(table.screen.story, story) << "the result is not shown any more";
     EXPECT_TRUE(table.screen.AllDark());
     EXPECT_FALSE(table.gameTimer);
-    EXPECT_FALSE(table.engine->BookDecision()) << "only once";
+    EXPECT_FALSE(table.engine->peer().BookDecision()) << "only once";
   }
 }
 
 TEST(Booking, OnlyAMatchLostAtTheTableIsWonAfterAll) {
   MatchTable lost(ThreeSets(5, 9));
-  EXPECT_FALSE(lost.engine->LostByPlay());
+  EXPECT_FALSE(lost.engine->peer().LostByPlay());
   PlaySets(lost, 2);
-  EXPECT_FALSE(lost.engine->LostByPlay());
-  lost.engine->WinAfterAll();
+  EXPECT_FALSE(lost.engine->peer().LostByPlay());
+  lost.engine->peer().WinAfterAll();
   EXPECT_EQ(lost.turned, 0);
   lost.Continue();
   lost.strategy.turns = {test::StandOpponent};
   lost.Stand();
-  EXPECT_TRUE(lost.engine->LostByPlay());
-  lost.engine->WinAfterAll();
-  lost.engine->WinAfterAll();
+  EXPECT_TRUE(lost.engine->peer().LostByPlay());
+  lost.engine->peer().WinAfterAll();
+  lost.engine->peer().WinAfterAll();
   EXPECT_EQ(lost.turned, 1);
-  EXPECT_EQ(lost.engine->SetWins(Seat::Opponent), 2);
+  EXPECT_EQ(lost.engine->shown().SetWins(Seat::Opponent), 2);
   EXPECT_EQ(lost.screen.banner.text, "You have defeated your opponent!");
   EXPECT_EQ(lost.sounds.back(), "winmatch");
 
@@ -201,10 +201,10 @@ TEST(Booking, OnlyAMatchLostAtTheTableIsWonAfterAll) {
   PlaySets(won, 3);
   MatchTable givenUp(ThreeSets(9, 5));
   givenUp.Start();
-  givenUp.engine->Forfeit();
+  givenUp.engine->person().Forfeit();
   for (MatchTable* table : {&won, &givenUp}) {
-    EXPECT_FALSE(table->engine->LostByPlay());
-    table->engine->WinAfterAll();
+    EXPECT_FALSE(table->engine->peer().LostByPlay());
+    table->engine->peer().WinAfterAll();
     EXPECT_EQ(table->turned, 0);
   }
 }

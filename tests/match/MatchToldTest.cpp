@@ -82,7 +82,7 @@ TEST(Told, AForfeitDarkensEverything) {
     table.PeerReady();
     EXPECT_FALSE(table.screen.AllDark());
     table.screen.story.clear();
-    own ? table.engine->Forfeit() : table.engine->OppForfeit();
+    own ? table.engine->person().Forfeit() : table.engine->peer().OppForfeit();
     EXPECT_TRUE(table.screen.AllDark());
     EXPECT_EQ(table.screen.controls.titlebar, own) << "which closes the match that was given up here";
     EXPECT_EQ(table.screen.story.front(), "your light off");

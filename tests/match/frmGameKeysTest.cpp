@@ -32,9 +32,9 @@ TEST_P(frmGameKeysTest, ARepeatedGameKeyDoesNothing) {
     Repeat(*match.screen, key, QString::fromLatin1(text));
     Repeat(match.screen->cmdTurn(), key, QString::fromLatin1(text));
   }
-  EXPECT_EQ(match.engine().Total(Seat::Player), 4);
-  EXPECT_TRUE(match.engine().controls().endTurn) << "a turn ended by the key of the turn before";
-  EXPECT_FALSE(match.engine().PlayerStood());
+  EXPECT_EQ(match.engine().shown().Total(Seat::Player), 4);
+  EXPECT_TRUE(match.engine().shown().controls.endTurn) << "a turn ended by the key of the turn before";
+  EXPECT_FALSE(match.engine().shown().Stood(Seat::Player));
   EXPECT_EQ(match.screen->hand().ctlYourDeck(2).Card(), "fp2");
   ScreenHand(*match.screen).Key(Qt::Key_W);
   EXPECT_EQ(match.screen->hand().ctlYourDeck(2).Card(), "fm2") << "the first press of it acts";
@@ -47,7 +47,7 @@ TEST_P(frmGameKeysTest, ARepeatedEnterOrEscapeNeitherPlaysNorConfirmsNorAsks) {
   match.Begin();
   Repeat(match.screen->hand().ctlYourDeck(1), Qt::Key_Return, QStringLiteral("\r"));
   Repeat(match.screen->hand().ctlYourDeck(1), Qt::Key_Space, QStringLiteral(" "));
-  EXPECT_EQ(match.engine().Total(Seat::Player), 4);
+  EXPECT_EQ(match.engine().shown().Total(Seat::Player), 4);
   Repeat(*match.screen, Qt::Key_Escape);
   EXPECT_TRUE(match.dialogs.boxes.empty());
   match.dialogs.answers = {true};

@@ -65,12 +65,12 @@ TEST_P(frmGameLeavingTest, AutoConfirm) {
   EXPECT_FALSE(match.screen->banner().cmdBust().Enabled());
   const int clicks = match.sound.Count("click");
   match.scheduler.Advance(780);
-  EXPECT_EQ(match.engine().Table(Seat::Player).size(), 1u);
+  EXPECT_EQ(match.engine().shown().Table(Seat::Player).size(), 1u);
   match.scheduler.Advance(400);
   EXPECT_EQ(match.sound.Count("click"), clicks + 1);
   match.Settle();
   EXPECT_FALSE(match.screen->banner().isVisible());
-  EXPECT_EQ(match.engine().SetWins(Seat::Opponent), 1);
+  EXPECT_EQ(match.engine().shown().SetWins(Seat::Opponent), 1);
 }
 
 /// Closes the screen at every few milliseconds of a match: in pauses, between turns, under the banner.
@@ -82,7 +82,7 @@ TEST_P(frmGameLeavingTest, ClosesAtAnyMoment) {
       side.AI_Stand();
     });
     match.scheduler.At(moment, [&] { match.screen->CloseScreen(); });
-    match.scheduler.At(1100, [&] { match.engine().Stand(); });
+    match.scheduler.At(1100, [&] { match.engine().person().Stand(); });
     match.Begin();
     EXPECT_FALSE(match.screen->isVisible());
     const std::size_t pauses = match.scheduler.pauses.size();

@@ -101,7 +101,7 @@ TEST_P(frmGameTest, AWholeSetWithTheMouse) {
   EXPECT_FALSE(match.screen->cmdTurn().Enabled());
   match.Settle();
   hand.DoubleClick(match.screen->hand().ctlYourDeck(2));
-  EXPECT_EQ(match.engine().Total(Seat::Player), 9 + 8 + 2);
+  EXPECT_EQ(match.engine().shown().Total(Seat::Player), 9 + 8 + 2);
   EXPECT_FALSE(match.screen->hand().ctlYourDeck(2).isVisible());
   EXPECT_FALSE(match.screen->hand().ctlYourDeck(1).Enabled()) << "one side card a turn";
   EXPECT_EQ(match.sent, std::vector<std::string>{"[Hand]2fp2"});
@@ -126,7 +126,7 @@ TEST_P(frmGameTest, DragAndDrop) {
   const QPoint half(card.width() / 2, card.height() / 2);
 
   hand.Click(card);
-  EXPECT_EQ(match.engine().Total(Seat::Player), 4) << "a single click does nothing";
+  EXPECT_EQ(match.engine().shown().Total(Seat::Player), 4) << "a single click does nothing";
   // One pixel outside each edge it comes back.
   const double middleX = (grid().dropLeft + grid().dropRight) / 2;
   const double middleY = (grid().dropTop + grid().dropBottom) / 2;
@@ -135,13 +135,13 @@ TEST_P(frmGameTest, DragAndDrop) {
         QPointF(middleX, grid().dropTop - 1), QPointF(middleX, grid().dropBottom + 1)}) {
     hand.Drag(card, {3, 3}, outside.toPoint() - half);
     EXPECT_EQ(card.pos(), home);
-    EXPECT_EQ(match.engine().Total(Seat::Player), 4);
+    EXPECT_EQ(match.engine().shown().Total(Seat::Player), 4);
   }
   // The centre exactly on the corner of the area plays it.
   QPoint corner(static_cast<int>(grid().dropLeft), static_cast<int>(grid().dropTop));
   if (card.width() % 2 == 1) corner.rx() += 1;  // the centre lies between two pixels
   hand.Drag(card, {3, 3}, corner - half);
-  EXPECT_EQ(match.engine().Total(Seat::Player), 5);
+  EXPECT_EQ(match.engine().shown().Total(Seat::Player), 5);
   EXPECT_FALSE(card.isVisible());
   EXPECT_EQ(card.pos(), home);
 }
@@ -157,7 +157,7 @@ TEST_P(frmGameTest, EndingTheTurnInTheMiddleOfADrag) {
   hand.Key(Qt::Key_Space);
   EXPECT_EQ(card.pos(), home);
   hand.Release({300, 200});
-  EXPECT_EQ(match.engine().Table(Seat::Player).size(), 1u);
+  EXPECT_EQ(match.engine().shown().Table(Seat::Player).size(), 1u);
   match.Settle();
   EXPECT_TRUE(card.isVisible());
   EXPECT_TRUE(card.Enabled());
@@ -178,7 +178,7 @@ TEST_P(frmGameTest, ABoxInTheMiddleOfADragSendsTheCardHome) {
   QCoreApplication::sendEvent(&card, &hover);
   EXPECT_EQ(card.pos(), home) << "the card does not stick to the pointer";
   hand.Release({300, 200});
-  EXPECT_EQ(match.engine().Table(Seat::Player).size(), 1u);
+  EXPECT_EQ(match.engine().shown().Table(Seat::Player).size(), 1u);
 }
 
 TEST_P(frmGameTest, FlipButtons) {
@@ -229,10 +229,10 @@ TEST_P(frmGameTest, KeysEndAndStandAndNothingElse) {
   EXPECT_FALSE(match.screen->cmdTurn().Enabled());
   hand.Key(Qt::Key_Space);  // not the player's turn
   hand.Key(Qt::Key_1);
-  EXPECT_EQ(match.engine().Table(Seat::Player).size(), 1u);
+  EXPECT_EQ(match.engine().shown().Table(Seat::Player).size(), 1u);
   match.Settle();
   hand.Key(Qt::Key_Tab);
-  EXPECT_TRUE(match.engine().PlayerStood());
+  EXPECT_TRUE(match.engine().shown().Stood(Seat::Player));
 }
 
 TEST_P(frmGameTest, EverythingByFocusWhenTheGameKeysAreOff) {
@@ -255,30 +255,30 @@ TEST_P(frmGameTest, EverythingByFocusWhenTheGameKeysAreOff) {
   EXPECT_TRUE(has(match.screen->hand().imgFlip(2)));
   match.screen->hand().ctlYourDeck(1).setFocus();
   hand.Key(Qt::Key_Return);
-  EXPECT_EQ(match.engine().Total(Seat::Player), 7);
+  EXPECT_EQ(match.engine().shown().Total(Seat::Player), 7);
 }
 
 TEST_P(frmGameTest, NoKeyDoesAnythingInANetworkMatch) {
   MatchScreenSetup setup = Setup({4});
   setup.mode = std::string(kModeNetwork);
   MatchScreen match(setup);
-  match.engine().setPlayerStarts(true);
+  match.engine().peer().setPlayerStarts(true);
   match.ready = true;
   match.Begin();
   EXPECT_EQ(match.screen->lblWager().text(), QStringLiteral("Wager: 10\nBonus: 1"));
   EXPECT_EQ(match.screen->titlebar().Caption(), QStringLiteral("Network Match"));
   ScreenHand hand(*match.screen);
   // It is the player's turn: in any other match each of these would act.
-  ASSERT_TRUE(match.engine().controls().hand && match.engine().controls().flips);
+  ASSERT_TRUE(match.engine().shown().controls.hand && match.engine().shown().controls.flips);
   hand.Key(Qt::Key_3, Qt::ShiftModifier);
   hand.Key(Qt::Key_E);
   EXPECT_EQ(match.screen->hand().ctlYourDeck(3).Card(), "s11");
   hand.Key(Qt::Key_1);
   hand.Key(Qt::Key_Space);
   hand.Key(Qt::Key_Tab);
-  EXPECT_EQ(match.engine().Total(Seat::Player), 4);
-  EXPECT_TRUE(match.engine().controls().endTurn);
-  EXPECT_FALSE(match.engine().PlayerStood());
+  EXPECT_EQ(match.engine().shown().Total(Seat::Player), 4);
+  EXPECT_TRUE(match.engine().shown().controls.endTurn);
+  EXPECT_FALSE(match.engine().shown().Stood(Seat::Player));
 }
 
 TEST_P(frmGameTest, PortraitsAndLights) {

@@ -29,7 +29,7 @@ class CrossingTest : public test::NetworkFixture {
     clock.At(5, [this, is = std::move(is), act = std::move(act)] { When(is, act); });
   }
   [[nodiscard]] static bool Decided(NetworkPlayer& player) {
-    return player.match() != nullptr && player.match()->engine().decision().has_value();
+    return player.match() != nullptr && player.match()->engine().peer().decision().has_value();
   }
   [[nodiscard]] static bool Unsent(NetworkPlayer& player, const char* command) {
     return player.program->network()->link().Unsent(command);
@@ -37,24 +37,25 @@ class CrossingTest : public test::NetworkFixture {
   /// The host's next move decides the match: it holds more than a guest that stands, or is bust.
   [[nodiscard]] bool AtTheLastMove(bool hostWins) {
     MatchEngine& engine = host.match()->engine();
-    if (!engine.controls().endTurn) return false;
-    const int total = engine.Total(Seat::Player);
-    if (!hostWins) return total > kTargetTotal && engine.SetWins(Seat::Opponent) == kSetsToWin - 1;
-    return HostIsAhead() && engine.SetWins(Seat::Player) == kSetsToWin - 1;
+    if (!engine.shown().controls.endTurn) return false;
+    const int total = engine.shown().Total(Seat::Player);
+    if (!hostWins) return total > kTargetTotal && engine.shown().SetWins(Seat::Opponent) == kSetsToWin - 1;
+    return HostIsAhead() && engine.shown().SetWins(Seat::Player) == kSetsToWin - 1;
   }
   [[nodiscard]] bool HostIsAhead() {
     const MatchEngine& engine = host.match()->engine();
-    return engine.OpponentStood() && engine.Total(Seat::Player) > engine.Total(Seat::Opponent);
+    return engine.shown().Stood(Seat::Opponent) &&
+           engine.shown().Total(Seat::Player) > engine.shown().Total(Seat::Opponent);
   }
   /// No side cards: the guest stands on its first card, and the host goes on until it has more, or is bust.
   void Move(bool hostWins) {
     for (NetworkPlayer* each : {&host, &guest}) {
       MatchEngine& engine = each->match()->engine();
-      if (engine.banner().visible) engine.Continue();
+      if (engine.shown().banner.visible) engine.Continue();
       if (each == &guest || (hostWins && HostIsAhead())) {
-        engine.Stand();
+        engine.person().Stand();
       } else {
-        engine.EndTurn();
+        engine.person().EndTurn();
       }
     }
   }
@@ -68,10 +69,10 @@ class CrossingTest : public test::NetworkFixture {
       left = true;
       if (!row.givesUp) return leaver.Say("/disconnect");
       leaver.dialogs.answers = {true};
-      leaver.match()->engine().Forfeit();
+      leaver.match()->engine().person().Forfeit();
     });
     MatchEngine& engine = host.match()->engine();
-    const auto move = [&] { byPlay ? engine.Stand() : engine.EndTurn(); };
+    const auto move = [&] { byPlay ? engine.person().Stand() : engine.person().EndTurn(); };
     if (row.comesFirst) {
       When([this] { return host.program->network()->link().waiting() > 0; }, move);
     } else {
@@ -149,7 +150,7 @@ TEST_F(CrossingTest, WhoGivesUpBeforeThePeerIsAtTheTableHasLost) {
     ASSERT_EQ(host.ScreenName(), "frmGame");
     ASSERT_EQ(guest.ScreenName(), "frmCards");
     host.dialogs.answers = {true};
-    host.match()->engine().Forfeit();
+    host.match()->engine().person().Forfeit();
     Pass(1500);
     EXPECT_TRUE(guest.Saw("[Hanna has forfeit this match. You Win.]"));
     EXPECT_EQ(guest.ScreenName(), "frmNetwork");

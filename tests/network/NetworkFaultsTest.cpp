@@ -20,21 +20,21 @@ TEST_F(NetworkFaultsTest, MessagesOutOfPlaceChangeNothing) {
 
   ToTurn(Seat::Player);
   MatchEngine& engine = host.match()->engine();
-  const int total = engine.Total(Seat::Opponent);
+  const int total = engine.shown().Total(Seat::Opponent);
   for (const char* message : {"[Card]no7", "[Hand]1ps3", "[Stnd]", "[Play]", "[Wage]5", "[Acpt]"}) {
     Refused(host, message);
   }
-  EXPECT_EQ(engine.Total(Seat::Opponent), total);
-  EXPECT_TRUE(engine.controls().endTurn) << "still this side's turn";
+  EXPECT_EQ(engine.shown().Total(Seat::Opponent), total);
+  EXPECT_TRUE(engine.shown().controls.endTurn) << "still this side's turn";
 
-  engine.EndTurn();
-  PlayUntil([this] { return guest.match()->engine().controls().endTurn; });
+  engine.person().EndTurn();
+  PlayUntil([this] { return guest.match()->engine().shown().controls.endTurn; });
   Pass(500);
   Refused(host, "[Card]no3");  // it has drawn
   const int slot = 2;
   Forge(host, "[Hand]2fp3");
-  EXPECT_EQ(engine.HandCard(Seat::Opponent, slot).text(), "00");
-  EXPECT_EQ(engine.Table(Seat::Opponent).back().text(), "fp3");
+  EXPECT_EQ(engine.shown().HandCard(Seat::Opponent, slot).text(), "00");
+  EXPECT_EQ(engine.shown().Table(Seat::Opponent).back().text(), "fp3");
   Refused(host, "[Hand]3ps1");  // one side card a turn
 }
 
@@ -44,7 +44,7 @@ TEST_F(NetworkFaultsTest, ATurnThatIsRepeatedEndsOnce) {
   const std::size_t before = host.socket->sent.size();
   for (int time = 0; time < 3; ++time) host.socket->Receive("[Turn]\x87");
   Pass(250);
-  EXPECT_EQ(host.match()->engine().peerTurn(), PeerTurn::NotTheirs);
+  EXPECT_EQ(host.match()->engine().peer().peerTurn(), PeerTurn::NotTheirs);
   Pass(2000);
   const std::string answers = host.socket->sent.substr(before);
   std::size_t count = 0;
@@ -96,16 +96,16 @@ TEST_F(NetworkFaultsTest, BothDrawFromOneDeckThatHoldsFourOfEachCard) {
   Meet();
   ToTurn(Seat::Opponent);
   MatchEngine& engine = host.match()->engine();
-  const auto theirs = [&engine] { return engine.peerTurn() == PeerTurn::Theirs; };
+  const auto theirs = [&engine] { return engine.peer().peerTurn() == PeerTurn::Theirs; };
   guest.acts = host.acts = false;
   Forge(host, "[Turn]");
-  PlayUntil([&engine] { return engine.controls().stand; });
-  engine.Stand();
-  while (engine.MainDeckCount(1) < 4) {
+  PlayUntil([&engine] { return engine.shown().controls.stand; });
+  engine.person().Stand();
+  while (engine.board().MainDeckCount(1) < 4) {
     PlayUntil(theirs);
-    const int total = engine.Total(Seat::Opponent);
+    const int total = engine.shown().Total(Seat::Opponent);
     Forge(host, "[Card]no1");
-    ASSERT_EQ(engine.Total(Seat::Opponent), total + 1);
+    ASSERT_EQ(engine.shown().Total(Seat::Opponent), total + 1);
     Forge(host, "[Turn]");
   }
   PlayUntil(theirs);

@@ -49,8 +49,8 @@ class NetworkFixture : public testing::Test, protected TwoPrograms {
     acts.plays = false;
     PlayUntil([&] {
       if (!BothOn("frmGame")) return false;
-      return acts.match()->engine().controls().endTurn &&
-             Other(acts).match()->engine().peerTurn() == PeerTurn::Theirs;
+      return acts.match()->engine().shown().controls.endTurn &&
+             Other(acts).match()->engine().peer().peerTurn() == PeerTurn::Theirs;
     });
     acts.plays = true;
     Pass(500);

@@ -183,7 +183,7 @@ TEST_F(NetworkGameTest, WhoGivesUpLosesTheStake) {
   Meet();
   ToTurn(Seat::Player);
   host.dialogs.answers = {true};
-  host.match()->engine().Forfeit();
+  host.match()->engine().person().Forfeit();
   Pass(1000);
   EXPECT_TRUE(guest.Saw("[Hanna has forfeit this match. You Win.]"));
   PlayUntil([this] { return BothOn("frmNetwork"); });
@@ -239,9 +239,10 @@ TEST_F(NetworkGameTest, ADroppedLineIsBookedByTheStateOfTheGame) {
     PlayUntil([this, sets] {
       const MatchEngine& engine = guest.match()->engine();
       const bool shown =
-          engine.banner().visible && engine.SetWins(Seat::Player) + engine.SetWins(Seat::Opponent) >= sets;
-      if (!shown && engine.banner().visible) guest.match()->engine().Continue();
-      if (engine.controls().endTurn) guest.match()->engine().EndTurn();
+          engine.shown().banner.visible &&
+          engine.shown().SetWins(Seat::Player) + engine.shown().SetWins(Seat::Opponent) >= sets;
+      if (!shown && engine.shown().banner.visible) guest.match()->engine().Continue();
+      if (engine.shown().controls.endTurn) guest.match()->engine().person().EndTurn();
       return shown;
     });
     guest.acts = true;
@@ -265,7 +266,8 @@ TEST_F(NetworkGameTest, ADroppedLineIsBookedByTheStateOfTheGame) {
       {"banner of a set", [&] { banner(1); }, halved},
       {"match won",
        [&] {
-         ToTurn(Seat::Player), host.dialogs.answers = {true}, host.match()->engine().Forfeit(), Pass(1000);
+         ToTurn(Seat::Player), host.dialogs.answers = {true}, host.match()->engine().person().Forfeit(),
+                               Pass(1000);
        },
        {155, 1, 0, 0}},
       {"arcade cards", [&] { arcade(), ToCards(false); }, untouched},
@@ -307,7 +309,7 @@ TEST_F(NetworkGameTest, AScreenThatClosesUnderItsQuestionIsKeptUntilTheAnswer) {
     Pass(1000);
     EXPECT_EQ(guest.ScreenName(), "frmNetwork");
   };
-  guest.match()->engine().Forfeit();
+  guest.match()->engine().person().Forfeit();
   Pass(1000);
   EXPECT_EQ(guest.program->Retired(), 0u);
   EXPECT_EQ(Account(guest), (Accounts{155, 1, 0, 0}));

@@ -126,10 +126,11 @@ class NetworkPlayer {
     }
   }
   void ActInMatch(MatchEngine& engine) {
-    if (engine.banner().visible) {
-      const std::array<int, 2> sets = {engine.SetWins(Seat::Player), engine.SetWins(Seat::Opponent)};
-      if (engine.banner().buttonEnabled && program->game()->Wager == -1) results.push_back(sets);
-      if (program->game()->Wager == -1 && !engine.banner().buttonEnabled && told_ != &engine) {
+    if (engine.shown().banner.visible) {
+      const std::array<int, 2> sets = {engine.shown().SetWins(Seat::Player),
+                                       engine.shown().SetWins(Seat::Opponent)};
+      if (engine.shown().banner.buttonEnabled && program->game()->Wager == -1) results.push_back(sets);
+      if (program->game()->Wager == -1 && !engine.shown().banner.buttonEnabled && told_ != &engine) {
         results.push_back(sets);  // the banner continues by itself
       }
       if (program->game()->Wager == -1) told_ = &engine;
@@ -137,16 +138,16 @@ class NetworkPlayer {
       return;
     }
     told_ = nullptr;
-    if (!engine.controls().endTurn || !plays) return;
+    if (!engine.shown().controls.endTurn || !plays) return;
     const double what = chance_.Rnd();
     const int slot = 1 + static_cast<int>(chance_.Rnd() * kHandSize);
-    if (what < 0.25) engine.FirstFlip(slot);
+    if (what < 0.25) engine.person().FirstFlip(slot);
     if (what < 0.4) {
-      engine.PlayHandCard(slot);
-    } else if (what < 0.55 && engine.Total(Seat::Player) > 14) {
-      engine.Stand();
+      engine.person().PlayHandCard(slot);
+    } else if (what < 0.55 && engine.shown().Total(Seat::Player) > 14) {
+      engine.person().Stand();
     } else {
-      engine.EndTurn();
+      engine.person().EndTurn();
     }
   }
 

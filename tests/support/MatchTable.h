@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "match/MatchEngine.h"
+#include "platform/Dialogs.h"
 #include "support/DealtHand.h"
 #include "support/RecordingNetwork.h"
 #include "support/ToldScreen.h"
@@ -75,7 +76,7 @@ class MatchTable final : public MatchView,
   void Run() {
     while (gameTimer || (quietTimer && pausesOpen == 0)) {
       if (quietTimer && pausesOpen == 0) {
-        engine->QuietTick();  // the faster of the two
+        engine->pauses().QuietTick();  // the faster of the two
       } else {
         engine->GameTick();
       }
@@ -87,15 +88,15 @@ class MatchTable final : public MatchView,
   }
   /// The player's moves, each followed by all that happens until the player is asked again.
   void Play(int slot) {
-    engine->PlayHandCard(slot);
+    engine->person().PlayHandCard(slot);
     Run();
   }
   void EndTurn() {
-    engine->EndTurn();
+    engine->person().EndTurn();
     Run();
   }
   void Stand() {
-    engine->Stand();
+    engine->person().Stand();
     Run();
   }
   void Continue() {
@@ -105,26 +106,26 @@ class MatchTable final : public MatchView,
   /// The peer has come as far as this side, which goes on.
   void PeerReady() {
     ready = true;
-    engine->NetWaitTick();
+    engine->peer().NetWaitTick();
     ready = false;
     Run();
   }
   /// The peer draws `draw`, if its turn has come, and stands.
   void PeerStands(int draw) {
-    if (engine->peerTurn() != PeerTurn::Theirs) return;
-    engine->LoadNextCard(CardCode(CardType::MainDeck, draw), true);
-    engine->OppStand();
-    engine->AI_EndTurn();
+    if (engine->peer().peerTurn() != PeerTurn::Theirs) return;
+    engine->peer().OppDraw(draw);
+    engine->peer().OppStand();
+    engine->peer().AI_EndTurn();
     Run();
   }
   /// Lays cards on a table that nobody has drawn.
   void LoadTable(Seat seat, const std::vector<const char*>& codes) {
-    for (const char* code : codes) engine->LoadNextCard(CardCode(code), seat == Seat::Opponent);
+    for (const char* code : codes) engine->board().LoadNextCard(CardCode(code), seat == Seat::Opponent);
   }
 
   [[nodiscard]] std::string Cards(Seat seat) const {
     std::string text;
-    for (const CardCode& card : engine->Table(seat)) text += (text.empty() ? "" : " ") + card.text();
+    for (const CardCode& card : engine->shown().Table(seat)) text += (text.empty() ? "" : " ") + card.text();
     return text;
   }
   [[nodiscard]] bool Heard(const std::string& sound) const {
@@ -157,11 +158,11 @@ class MatchTable final : public MatchView,
   void TableChanged(Seat, int) override {}
   void HandChanged(Seat, int) override {}
   void SetWinAdded(Seat) override {}
-  void ControlsChanged() override { screen.TellControls(engine->controls()); }
+  void ControlsChanged() override { screen.TellControls(engine->shown().controls); }
   void LightsChanged() override {
-    screen.TellLights(engine->Light(Seat::Player), engine->Light(Seat::Opponent));
+    screen.TellLights(engine->shown().Light(Seat::Player), engine->shown().Light(Seat::Opponent));
   }
-  void BannerChanged() override { screen.TellBanner(engine->banner()); }
+  void BannerChanged() override { screen.TellBanner(engine->shown().banner); }
   void RunTimer(MatchTimer timer, bool run) override {
     switch (timer) {
       case MatchTimer::Game:

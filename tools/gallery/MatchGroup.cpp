@@ -27,10 +27,10 @@ void Start(Gallery& gallery) {
 void Turn(Gallery& gallery) {
   test::MatchScreen match(Setup(gallery, {4, 6, 2, 8, 3}));
   match.Begin();
-  for (const char* code : {"ps6", "pi4", "s300"}) match.engine().LoadNextCard(CardCode(code), false);
-  match.engine().EndTurn();
+  for (const char* code : {"ps6", "pi4", "s300"}) match.engine().board().LoadNextCard(CardCode(code), false);
+  match.engine().person().EndTurn();
   match.Settle();
-  match.engine().EndTurn();
+  match.engine().person().EndTurn();
   match.Settle();
   match.scheduler.Advance(kLightStep);
   gallery.Save(*match.screen, "match-turn");
@@ -40,8 +40,8 @@ void OpponentsTurn(Gallery& gallery) {
   test::MatchScreen match(Setup(gallery, {9, 8, 6, 5}));
   match.strategy.turns.assign(2, [](AiOperations& side) { side.AI_PlayCard(2); });
   match.Begin();
-  match.engine().PlayHandCard(1);
-  match.engine().EndTurn();
+  match.engine().person().PlayHandCard(1);
+  match.engine().person().EndTurn();
   match.Settle();
   gallery.Save(*match.screen, "match-opponent");
 }
@@ -50,9 +50,9 @@ void SetWon(Gallery& gallery) {
   test::MatchScreen match(Setup(gallery, {10, 7, 9, 10}));
   match.strategy.turns.assign(2, [](AiOperations& side) { side.AI_Stand(); });
   match.Begin();
-  match.engine().EndTurn();
+  match.engine().person().EndTurn();
   match.Settle();
-  match.engine().Stand();
+  match.engine().person().Stand();
   match.Settle();
   gallery.Save(*match.screen, "match-set-won");
 }
@@ -60,7 +60,7 @@ void SetWon(Gallery& gallery) {
 void Won(Gallery& gallery) {
   test::MatchScreen match(Setup(gallery, {10, 7}));
   match.Begin();
-  match.engine().OppForfeit();
+  match.engine().peer().OppForfeit();
   match.Settle();
   gallery.Save(*match.screen, "match-won");
 }

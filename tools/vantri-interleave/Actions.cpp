@@ -61,7 +61,7 @@ bool PossibleAtCards(Side& side, Deed deed) {
 
 bool PossibleInMatch(Side& side, Deed deed) {
   const MatchEngine& engine = side.match()->engine();
-  const MatchControls& controls = engine.controls();
+  const MatchControls& controls = engine.shown().controls;
   switch (deed) {
     case Deed::EndTurn:
       return controls.endTurn;
@@ -74,7 +74,7 @@ bool PossibleInMatch(Side& side, Deed deed) {
     case Deed::Forfeit:
       return controls.titlebar;
     case Deed::Banner:
-      return engine.banner().visible && engine.banner().buttonEnabled;
+      return engine.shown().banner.visible && engine.shown().banner.buttonEnabled;
     default:
       return deed == Deed::LeaveProgram;
   }
@@ -107,19 +107,19 @@ void DoInMatch(Side& side, const Action& action) {
   MatchEngine& engine = side.match()->engine();
   switch (action.deed) {
     case Deed::EndTurn:
-      engine.EndTurn();
+      engine.person().EndTurn();
       break;
     case Deed::Stand:
-      engine.Stand();
+      engine.person().Stand();
       break;
     case Deed::Play:
-      engine.PlayHandCard(action.value);
+      engine.person().PlayHandCard(action.value);
       break;
     case Deed::Flip:
-      engine.FirstFlip(action.value);
+      engine.person().FirstFlip(action.value);
       break;
     case Deed::Forfeit:
-      engine.Forfeit();
+      engine.person().Forfeit();
       break;
     case Deed::Banner:
       engine.Continue();
@@ -280,8 +280,8 @@ Deed WayBack(Side& side) {
   if (side.match() == nullptr) return Deed::Nothing;
   const MatchEngine& engine = side.match()->engine();
   if (Possible(side, Deed::Banner)) return Deed::Banner;
-  if (!engine.controls().endTurn) return Deed::Nothing;
-  return engine.Total(Seat::Player) >= kStandingTotal ? Deed::Stand : Deed::EndTurn;
+  if (!engine.shown().controls.endTurn) return Deed::Nothing;
+  return engine.shown().Total(Seat::Player) >= kStandingTotal ? Deed::Stand : Deed::EndTurn;
 }
 
 }  // namespace kv::interleave

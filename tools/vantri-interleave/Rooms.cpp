@@ -17,8 +17,8 @@ MatchRoom::MatchRoom(const RoomServices& services)
               services.dialogs, services.random),
       timers_{services.scheduler.NewTimer(kGameInterval, [this] { engine_.GameTick(); }),
               services.scheduler.NewTimer(kAutoDialogsInterval, [this] { engine_.AutoDialogsTick(); }),
-              services.scheduler.NewTimer(kNetWaitInterval, [this] { engine_.NetWaitTick(); }),
-              services.scheduler.NewTimer(kQuietInterval, [this] { engine_.QuietTick(); })} {}
+              services.scheduler.NewTimer(kNetWaitInterval, [this] { engine_.peer().NetWaitTick(); }),
+              services.scheduler.NewTimer(kQuietInterval, [this] { engine_.pauses().QuietTick(); })} {}
 
 void MatchRoom::Close() {
   life_.Close();
@@ -35,7 +35,7 @@ void MatchRoom::Leave() {
 }
 
 void MatchRoom::LeaveProgram() {
-  engine_.WhenQuiet([this] { AskToLeave(); });
+  engine_.pauses().WhenQuiet([this] { AskToLeave(); });
 }
 
 void MatchRoom::AskToLeave() {

@@ -114,12 +114,12 @@ class Runner {
     CheckTurns();
   }
   [[nodiscard]] static bool HasTurn(Side& side) {
-    return side.match()->engine().begun() && side.match()->engine().Light(Seat::Player);
+    return side.match()->engine().peer().begun() && side.match()->engine().shown().Light(Seat::Player);
   }
   [[nodiscard]] static bool Plays(Side& side) {
     if (side.match() == nullptr || side.boxes() > 0) return false;
     const MatchEngine& engine = side.match()->engine();
-    return engine.begun() && !engine.banner().visible && side.game().Wager != -1;
+    return engine.peer().begun() && !engine.shown().banner.visible && side.game().Wager != -1;
   }
   void CheckTurns() {
     const bool playing = Plays(host_) && Plays(guest_) && host_.network().connected() &&
@@ -226,12 +226,12 @@ class Runner {
       words << kPlaces.at(static_cast<std::size_t>(side->where()));
       if (MatchRoom* match = side->match()) {
         const MatchEngine& engine = match->engine();
-        words << (engine.begun() ? "" : " opening") << " sets " << engine.SetWins(Seat::Player) << ':'
-              << engine.SetWins(Seat::Opponent) << " totals " << engine.Total(Seat::Player) << ':'
-              << engine.Total(Seat::Opponent);
-        if (engine.banner().visible) words << " banner " << engine.banner().caption;
-        if (engine.Light(Seat::Player)) words << " own-light";
-        if (engine.Light(Seat::Opponent)) words << " peer-light";
+        words << (engine.peer().begun() ? "" : " opening") << " sets " << engine.shown().SetWins(Seat::Player)
+              << ':' << engine.shown().SetWins(Seat::Opponent) << " totals "
+              << engine.shown().Total(Seat::Player) << ':' << engine.shown().Total(Seat::Opponent);
+        if (engine.shown().banner.visible) words << " banner " << engine.shown().banner.caption;
+        if (engine.shown().Light(Seat::Player)) words << " own-light";
+        if (engine.shown().Light(Seat::Opponent)) words << " peer-light";
       }
       if (side->game().Wager != -1) words << " wager " << side->game().Wager;
       words << (side->network().connected() ? " connected" : " not connected") << ", boxes " << side->boxes()

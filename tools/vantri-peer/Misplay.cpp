@@ -20,8 +20,8 @@ constexpr std::array kMoves = {"[Card]no5", "[Hand]1ps3", "[Stnd]", "[Turn]"};
 
 /// One set has been won, and this side is at its turn: a good moment to spoil a match.
 bool InTheMiddle(const MisplayScene& scene) {
-  if (scene.match == nullptr || !scene.match->Light(Seat::Player)) return false;
-  return scene.match->SetWins(Seat::Player) + scene.match->SetWins(Seat::Opponent) > 0;
+  if (scene.match == nullptr || !scene.match->shown().Light(Seat::Player)) return false;
+  return scene.match->shown().SetWins(Seat::Player) + scene.match->shown().SetWins(Seat::Opponent) > 0;
 }
 
 std::string Rubbish(Random& random, std::size_t size) {
@@ -34,8 +34,9 @@ std::string Rubbish(Random& random, std::size_t size) {
 void OutOfTurn(MisplayScene& scene) {
   if (scene.match == nullptr) return;
   // Before a set begins the next turn may be this side's own; against a side that stands it is, at once.
-  const bool inSet = scene.match->begun() && !scene.match->banner().visible && !scene.match->OpponentStood();
-  const bool waits = inSet && scene.match->peerTurn() != PeerTurn::NotTheirs;
+  const bool inSet = scene.match->peer().begun() && !scene.match->shown().banner.visible &&
+                     !scene.match->shown().Stood(Seat::Opponent);
+  const bool waits = inSet && scene.match->peer().peerTurn() != PeerTurn::NotTheirs;
   const bool moved = scene.done % 2 == 1;
   if (waits == moved) return;
   if (waits) scene.network.NetSend(kMoves.at(scene.done / 2 % kMoves.size()));
@@ -62,7 +63,7 @@ void Vanish(MisplayScene& scene) {
 }
 
 void Forfeit(MisplayScene& scene) {
-  if (InTheMiddle(scene)) scene.match->Forfeit();
+  if (InTheMiddle(scene)) scene.match->person().Forfeit();
 }
 
 void Disconnect(MisplayScene& scene) {

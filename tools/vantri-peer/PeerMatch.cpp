@@ -18,8 +18,8 @@ PeerMatch::PeerMatch(const PeerServices& services)
               services.report, services.random),
       timers_{NewTimer(kGameInterval, [this] { engine_.GameTick(); }),
               NewTimer(kAutoDialogsInterval, [this] { engine_.AutoDialogsTick(); }),
-              NewTimer(kNetWaitInterval, [this] { engine_.NetWaitTick(); }),
-              NewTimer(kQuietInterval, [this] { engine_.QuietTick(); })},
+              NewTimer(kNetWaitInterval, [this] { engine_.peer().NetWaitTick(); }),
+              NewTimer(kQuietInterval, [this] { engine_.pauses().QuietTick(); })},
       tmrContinue_(NewTimer(kReadingInterval, [this] {
         tmrContinue_->setEnabled(false);
         engine_.Continue();
@@ -33,7 +33,7 @@ void PeerMatch::Closing() {
 }
 
 void PeerMatch::BannerChanged() {
-  tmrContinue_->setEnabled(engine_.banner().visible && engine_.banner().buttonEnabled);
+  tmrContinue_->setEnabled(engine_.shown().banner.visible && engine_.shown().banner.buttonEnabled);
 }
 
 void PeerMatch::RunTimer(MatchTimer timer, bool run) {

@@ -70,7 +70,7 @@ PeerServices PeerProgram::ScreenServices() {
 }
 
 int PeerProgram::SetWins(bool own) const {
-  return match_ == nullptr ? 0 : match_->engine().SetWins(own ? Seat::Player : Seat::Opponent);
+  return match_ == nullptr ? 0 : match_->engine().shown().SetWins(own ? Seat::Player : Seat::Opponent);
 }
 
 void PeerProgram::Start() {

@@ -51,17 +51,19 @@ void CheckMatchState(const MatchEngine& engine) {
   std::array<int, 11> drawn{};
   for (const Seat seat : {Seat::Player, Seat::Opponent}) {
     int sum = 0;
-    for (const CardCode& card : engine.Table(seat)) {
+    for (const CardCode& card : engine.shown().Table(seat)) {
       sum += card.cardValue();
       if (card.type() == CardType::MainDeck) ++drawn.at(static_cast<std::size_t>(std::abs(card.number())));
     }
     // While signs are being turned the total still is the one shown before; it follows with the card itself.
-    Require(engine.Table(seat).size() <= kTableSize, "more than nine cards on a table");
-    Require(engine.SetWins(seat) >= 0 && engine.SetWins(seat) <= kSetsToWin, "more than three sets won");
-    if (engine.banner().visible) Require(engine.Total(seat) == sum, "a total is not the sum of its table");
+    Require(engine.shown().Table(seat).size() <= kTableSize, "more than nine cards on a table");
+    Require(engine.shown().SetWins(seat) >= 0 && engine.shown().SetWins(seat) <= kSetsToWin,
+            "more than three sets won");
+    if (engine.shown().banner.visible)
+      Require(engine.shown().Total(seat) == sum, "a total is not the sum of its table");
   }
   for (int value = 1; value <= 10; ++value) {
-    const int counted = engine.MainDeckCount(value);
+    const int counted = engine.board().MainDeckCount(value);
     const int lying = drawn.at(static_cast<std::size_t>(value));
     Require(counted <= 4, "a main-deck value was drawn five times");
     Require(lying <= counted && counted - lying <= 1, "the main deck was not conserved");

@@ -1,0 +1,105 @@
+#include "match/MatchBoard.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <span>
+#include <stdexcept>
+#include <string>
+
+namespace kv {
+namespace {
+
+constexpr int kCopiesInMainDeck = 4;  // of each value 1 to 10
+
+constexpr Seat SeatOf(bool isOpponent) {
+  return isOpponent ? Seat::Opponent : Seat::Player;
+}
+
+int TableTotal(std::span<const CardCode> table) {
+  int total = 0;
+  for (const CardCode& card : table) total += card.cardValue();
+  return total;
+}
+
+}  // namespace
+
+// The player's flips stay on the table: the hand that was dealt keeps its codes.
+MatchBoard::MatchBoard(MatchShown& shown, const clsGame& game, MatchView& view, Random& random)
+    : shown_(shown),
+      view_(view),
+      random_(random),
+      hands_{std::make_shared<clsDeckArray>(*game.SideDeck), game.CompDeck} {
+  for (std::size_t i = 0; i < hands_.size(); ++i) shown_.sides.at(i).hand = hands_.at(i);
+}
+
+void MatchBoard::Clear() {
+  mainDeckCount_.fill(0);
+  for (MatchSide& each : shown_.sides) {
+    each.total = 0;
+    each.table.clear();
+  }
+  for (const Seat seat : {Seat::Player, Seat::Opponent}) view_.TableChanged(seat, 0);
+}
+
+bool MatchBoard::EvenChance() {
+  return std::floor(random_.Rnd() + 0.5) != 0;
+}
+
+CardCode MatchBoard::DrawMainCard() {
+  random_.Randomize();
+  // A peer that reports more draws than there are cards must not leave this side without any.
+  const bool empty = std::all_of(mainDeckCount_.begin() + 1, mainDeckCount_.end(),
+                                 [](std::uint8_t drawn) { return drawn >= kCopiesInMainDeck; });
+  if (empty) mainDeckCount_.fill(0);
+  int value = 0;
+  do {
+    value = static_cast<int>(random_.Rnd() * 10) + 1;
+  } while (mainDeckCount_.at(static_cast<std::size_t>(value)) >= kCopiesInMainDeck);
+  DeductDrawCard(value);
+  return {CardType::MainDeck, value};
+}
+
+void MatchBoard::DeductDrawCard(int value) {
+  if (value < 1 || value > 10) throw std::out_of_range("a main-deck card is 1 to 10");
+  ++mainDeckCount_.at(static_cast<std::size_t>(value));
+}
+
+void MatchBoard::PlayCard(const CardCode& code, bool isOpponent) {
+  const auto& table = shown_.Table(SeatOf(isOpponent));
+  const bool unchosen = code.number() == kNotChosen;
+  if (unchosen && code.type() == CardType::Double && !table.empty()) {
+    LoadNextCard(CardCode("s2" + std::string(table.back().numericPart())), isOpponent);
+  } else if (unchosen && (code.type() == CardType::Flip24 || code.type() == CardType::Flip36)) {
+    const bool is24 = code.type() == CardType::Flip24;
+    InvertTable(SeatOf(isOpponent), is24 ? 2 : 3, is24 ? 4 : 6);
+    LoadNextCard(CardCode(is24 ? "s300" : "s400"), isOpponent);
+  } else {
+    LoadNextCard(code, isOpponent);
+  }
+}
+
+void MatchBoard::InvertTable(Seat seat, int a, int b) {
+  auto& table = shown_.side(seat).table;
+  for (std::size_t i = 0; i < table.size(); ++i) {
+    const int size = std::abs(table[i].cardValue());
+    if (size != a && size != b) continue;
+    table[i] = table[i].Inverted();
+    view_.TableChanged(seat, static_cast<int>(i) + 1);
+  }
+}
+
+void MatchBoard::LoadNextCard(const CardCode& code, bool isOpponent) {
+  MatchSide& owner = shown_.side(SeatOf(isOpponent));
+  if (owner.table.size() == kTableSize) return;
+  owner.table.push_back(code);
+  owner.total = TableTotal(owner.table);
+  view_.TableChanged(SeatOf(isOpponent), static_cast<int>(owner.table.size()));
+}
+
+void MatchBoard::EmptyHandSlot(Seat seat, int slot) {
+  hand(seat).setValue(slot, seat == Seat::Opponent ? EmptiedSlot() : CardCode());
+  view_.HandChanged(seat, slot);
+}
+
+}  // namespace kv

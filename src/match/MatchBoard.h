@@ -1,0 +1,53 @@
+// The cards of a match: both tables, both hands and the common main deck, and what a card does when it lands.
+// It knows neither turns nor who wins: when a card may be laid is the engine's business.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+
+#include "match/MatchShown.h"
+#include "match/MatchView.h"
+#include "match/clsGame.h"
+#include "platform/Random.h"
+
+namespace kv {
+
+class MatchBoard {
+ public:
+  /// Shows the hands of `game`, which must be dealt. All references must outlive the board.
+  MatchBoard(MatchShown& shown, const clsGame& game, MatchView& view, Random& random);
+
+  /// A set begins: both tables are empty and the main deck is complete.
+  void Clear();
+  /// By the same chance that draws the cards.
+  [[nodiscard]] bool EvenChance();
+  /// A card from the main deck, at random.
+  [[nodiscard]] CardCode DrawMainCard();
+  /// A card drawn on either side leaves the common main deck. Throws std::out_of_range outside 1 to 10.
+  void DeductDrawCard(int value);
+  /// How often a value 1 to 10 was drawn in this set.
+  [[nodiscard]] int MainDeckCount(int value) const {
+    return mainDeckCount_.at(static_cast<std::size_t>(value));
+  }
+
+  /// Plays `code` on a table with the effects of its type.
+  void PlayCard(const CardCode& code, bool isOpponent);
+  /// Lays `code` on a table; a full table takes no more.
+  void LoadNextCard(const CardCode& code, bool isOpponent);
+
+  [[nodiscard]] clsDeckArray& hand(Seat seat) { return *hands_[static_cast<std::size_t>(seat)]; }
+  /// Hand slot 1 to 4 is empty.
+  void EmptyHandSlot(Seat seat, int slot);
+
+ private:
+  void InvertTable(Seat seat, int a, int b);
+
+  MatchShown& shown_;
+  MatchView& view_;
+  Random& random_;
+  std::array<std::shared_ptr<clsDeckArray>, 2> hands_;  // by Seat
+  std::array<std::uint8_t, 11> mainDeckCount_{};        // [1] to [10]
+};
+
+}  // namespace kv
