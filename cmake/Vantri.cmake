@@ -83,9 +83,9 @@ function(kv_link_floors)
   kv_embed_layouts()
   kv_add_program()
   if(TARGET kv_platform_ui)
-    # Only the mixer's headers: the library itself is loaded by name after the first window stands.
-    pkg_check_modules(SDL2_MIXER REQUIRED SDL2_mixer)
-    target_include_directories(kv_platform_ui SYSTEM PRIVATE ${SDL2_MIXER_INCLUDE_DIRS})
+    # Only the sound library's headers: it is loaded itself by name after the first window stands.
+    pkg_check_modules(SDL2 REQUIRED IMPORTED_TARGET sdl2)
+    target_include_directories(kv_platform_ui SYSTEM PRIVATE ${SDL2_INCLUDE_DIRS})
     # Without its headers for the toolkit's own use the size of everything is fixed.
     target_link_libraries(kv_platform_ui PRIVATE $<TARGET_NAME_IF_EXISTS:Qt6::GuiPrivate>)
     kv_floor_uses(kv_platform_ui ${CMAKE_DL_LIBS} Qt6::Network)

@@ -17,6 +17,8 @@ class SoundDevice {
   virtual void PlayBuffer(int buffer) = 0;
   /// Plays one wave file once, without keeping it; a missing file plays nothing.
   virtual void PlayOnce(const std::string& wavePath) = 0;
+  /// Of all sounds, from 0 (silence) to 100 percent, which it is at first; also of those that sound now.
+  virtual void setVolume(int percent) = 0;
 };
 
 }  // namespace kv

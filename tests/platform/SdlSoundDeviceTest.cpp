@@ -4,7 +4,9 @@
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
+#include <cstring>
 #include <thread>
+#include <vector>
 
 #include "platform/SdlSoundDevice.h"
 #include "platform/Waves.h"
@@ -14,7 +16,7 @@
 namespace kv {
 namespace {
 
-/// Polls, for at most some seconds: the mixer plays on a thread of its own.
+/// Polls, for at most some seconds: the device takes from a thread of its own.
 template <class Condition>
 bool Soon(Condition condition) {
   for (int i = 0; i < 5000; ++i) {
@@ -42,6 +44,22 @@ class SdlSoundDeviceTest : public testing::Test {
   [[nodiscard]] bool Heard() const {
     const std::string samples = folder.Get("heard.raw");
     return samples.find_first_not_of('\0') != std::string::npos;
+  }
+  /// What is heard of a buffer that is played now, from the first to the last sample that is not silent.
+  [[nodiscard]] std::vector<std::int16_t> HeardOf(SdlSoundDevice& device, int buffer) {
+    folder.Put("heard.raw", "");
+    device.PlayBuffer(buffer);
+    EXPECT_TRUE(Soon([&] {
+      scheduler.Advance(5000);
+      return !device.Awake();
+    }));
+    const std::string bytes = folder.Get("heard.raw");
+    std::vector<std::int16_t> samples(bytes.size() / sizeof(std::int16_t));
+    std::memcpy(samples.data(), bytes.data(), samples.size() * sizeof(std::int16_t));
+    const auto sounds = [](std::int16_t sample) { return sample != 0; };
+    samples.erase(samples.begin(), std::ranges::find_if(samples, sounds));
+    while (!samples.empty() && samples.back() == 0) samples.pop_back();
+    return samples;
   }
 
   const test::TempFolder folder;
@@ -83,6 +101,20 @@ TEST_F(SdlSoundDeviceTest, APlayedBufferComesOutAndTheDeviceThenSleeps) {
   EXPECT_FALSE(device.Awake());
   device.PlayOnce(PutWave("once.wav"));
   EXPECT_TRUE(Soon([this] { return Heard(); }));
+}
+
+TEST_F(SdlSoundDeviceTest, ASoundIsHeardWholeAndAsLoudAsTheVolumeSays) {
+  UseDiskDriver();
+  SdlSoundDevice device(scheduler);
+  const int buffer = device.LoadBuffer(PutWave("a.wav"));
+  for (const int volume : {100, 50, 10}) {
+    device.setVolume(volume);
+    const std::vector<std::int16_t> heard = HeardOf(device, buffer);
+    ASSERT_EQ(heard.size(), 2U * 4410) << volume;
+    EXPECT_EQ(*std::ranges::max_element(heard), 8192 * volume / 100);
+  }
+  device.setVolume(0);
+  EXPECT_TRUE(HeardOf(device, buffer).empty());
 }
 
 TEST_F(SdlSoundDeviceTest, WakesEarlySoThatTheFirstSoundIsNotLate) {

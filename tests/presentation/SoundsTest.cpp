@@ -24,6 +24,7 @@ class BufferLog final : public SoundDevice {
   }
   void PlayBuffer(int buffer) override { played.push_back(buffer - 99); }
   void PlayOnce(const std::string& wavePath) override { once.push_back(wavePath); }
+  void setVolume(int /*percent*/) override {}
 
   std::vector<std::string> loaded;
   std::vector<int> played;  // entry numbers from 1

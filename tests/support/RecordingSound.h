@@ -17,6 +17,7 @@ class RecordingSound final : public SoundDevice {
   std::vector<std::string> played;  // in order; from buffers and once alike
   std::vector<int> buffers;         // the numbers played from buffers
   std::set<std::string> missing;    // names whose files are as good as absent
+  int volume = 100;                 // percent
 
   int LoadBuffer(const std::string& wavePath) override {
     const std::string name = std::filesystem::path(wavePath).stem().string();
@@ -32,6 +33,7 @@ class RecordingSound final : public SoundDevice {
   void PlayOnce(const std::string& wavePath) override {
     played.push_back(std::filesystem::path(wavePath).stem().string());
   }
+  void setVolume(int percent) override { volume = percent; }
   [[nodiscard]] int Count(const std::string& name) const {
     return static_cast<int>(std::count(played.begin(), played.end(), name));
   }

@@ -1,5 +1,5 @@
-// Sound files of any kind that the game's own mixer reads, as samples in the form the game ships: 44.1 kHz,
-// two channels. It opens no real device.
+// Sound files of the usual kinds, as samples in the form the game ships: 44.1 kHz, two channels. It opens no
+// device.
 #pragma once
 
 #include <string>
