@@ -95,7 +95,8 @@ ScreenServices Program::Services() {
           globals_.look,
           [this](int number) { return pictures_.getPic(number); },
           portraits_,
-          *this};
+          *this,
+          services_.announcer == nullptr ? nobody_ : *services_.announcer};
 }
 
 // --- Opening and closing ---------------------------------------------------------------------------------

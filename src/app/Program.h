@@ -15,6 +15,7 @@
 #include "match/MatchPartners.h"
 #include "match/clsGame.h"
 #include "network/NetworkGame.h"
+#include "platform/Announcer.h"
 #include "platform/SoundDevice.h"
 #include "platform/TcpSocket.h"
 #include "presentation/Pictures.h"
@@ -41,6 +42,8 @@ struct ProgramServices {
   std::function<std::vector<std::string>()> localAddresses{};
   /// The size of everything that is drawn; null: as laid out.
   QtSizeFactor* sizes = nullptr;
+  /// Tells what happens to who does not see it; null: nobody listens.
+  Announcer* announcer = nullptr;
 };
 
 /// Without a slash at their ends.
@@ -112,6 +115,7 @@ class Program final : public Navigator {
   ProgramServices services_;
   ProgramFolders folders_;
   Stage stage_;  // holds the screens, and goes after them
+  Announcer nobody_;
   CountedDialogs dialogs_;
   Sounds sounds_;
   ButtonContext buttons_;

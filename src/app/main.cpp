@@ -11,6 +11,7 @@
 #include "app/StartCheck.h"
 #include "platform/Folders.h"
 #include "platform/Memory.h"
+#include "platform/QtAnnouncer.h"
 #include "platform/QtDialogs.h"
 #include "platform/QtFontSystem.h"
 #include "platform/QtScheduler.h"
@@ -85,8 +86,10 @@ int main(int argc, char** argv) {
   // A plain end of the event loop: asking every window first whether it may be closed would let one refuse.
   const auto quit = [] { QCoreApplication::exit(0); };
   kv::QtSizeFactor sizes;
-  kv::Program program({scheduler, dialogs, random, sound, quit, OpenFolder, OpenAddress, {}, {}, &sizes},
-                      {programFolder, working, kv::PortraitFolder(programFolder, working)});
+  kv::QtAnnouncer announcer;
+  kv::Program program(
+      {scheduler, dialogs, random, sound, quit, OpenFolder, OpenAddress, {}, {}, &sizes, &announcer},
+      {programFolder, working, kv::PortraitFolder(programFolder, working)});
   if (ends.ended()) return 0;
   ends.Ended = [&program] { program.EndAtOnce(); };
   program.Start();

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "cards/CardFaces.h"
+#include "platform/Announcer.h"
 #include "platform/Dialogs.h"
 #include "platform/Picture.h"
 #include "platform/Random.h"
@@ -25,6 +26,7 @@ struct ScreenServices {
   std::function<Picture(int number)> getPic;
   Portraits& portraits;
   Navigator& navigator;
+  Announcer& announcer;
 };
 
 }  // namespace kv

@@ -19,6 +19,7 @@
 #include "match/frmGame.h"
 #include "support/HandScheduler.h"
 #include "support/LoopbackSocket.h"
+#include "support/RecordingAnnouncer.h"
 #include "support/RecordingSound.h"
 #include "support/ScreenHand.h"
 #include "support/ScriptedDialogs.h"
@@ -46,7 +47,9 @@ class ProgramStage {
                         {},
                         {},
                         [this] { return std::make_unique<LoopbackSocket>(net, "10.0.0.1"); },
-                        [] { return std::vector<std::string>{"10.0.0.1"}; }},
+                        [] { return std::vector<std::string>{"10.0.0.1"}; },
+                        nullptr,
+                        &announcer},
         ProgramFolders{programFolder, folder.path(), folder / "Portraits"});
     program->Start();
     Settle(1000);
@@ -102,6 +105,7 @@ class ProgramStage {
   ScriptedDialogs dialogs;
   SeededRandom random{7};
   RecordingSound sound;
+  RecordingAnnouncer announcer;
   int quits = 0;
   std::unique_ptr<Program> program;
 };
