@@ -109,7 +109,8 @@ ScreenServices Program::Services() {
           [this](int number) { return pictures_.getPic(number); },
           portraits_,
           *this,
-          stage_};
+          stage_,
+          services_.announcer == nullptr ? nobody_ : *services_.announcer};
 }
 
 // --- Opening and closing ---------------------------------------------------------------------------------

@@ -15,6 +15,7 @@
 #include "match/MatchPartners.h"
 #include "match/clsGame.h"
 #include "network/NetworkGame.h"
+#include "platform/Announcer.h"
 #include "platform/SoundDevice.h"
 #include "platform/TcpSocket.h"
 #include "presentation/Pictures.h"
@@ -44,6 +45,8 @@ struct ProgramServices {
   QtSizeFactor* sizes = nullptr;
   /// What is remembered for all players; null: nothing.
   SettingsStore* settings = nullptr;
+  /// Tells what happens to who does not see it; null: nobody listens.
+  Announcer* announcer = nullptr;
 };
 
 /// Without a slash at their ends.
@@ -118,6 +121,7 @@ class Program final : public Navigator {
   SettingsStore noSettings_;
   Settings settings_;
   Stage stage_;  // holds the screens, and goes after them
+  Announcer nobody_;
   CountedDialogs dialogs_;
   Sounds sounds_;
   ButtonContext buttons_;

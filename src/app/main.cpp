@@ -12,6 +12,7 @@
 #include "platform/FileSettings.h"
 #include "platform/Folders.h"
 #include "platform/Memory.h"
+#include "platform/QtAnnouncer.h"
 #include "platform/QtDialogs.h"
 #include "platform/QtFontSystem.h"
 #include "platform/QtScheduler.h"
@@ -87,9 +88,20 @@ int main(int argc, char** argv) {
   const auto quit = [] { QCoreApplication::exit(0); };
   kv::QtSizeFactor sizes;
   kv::FileSettings settings(kv::SettingsFolder() + "/settings.ini", scheduler);
-  kv::Program program(
-      {scheduler, dialogs, random, sound, quit, OpenFolder, OpenAddress, {}, {}, &sizes, &settings},
-      {programFolder, working, kv::PortraitFolder(programFolder, working)});
+  kv::QtAnnouncer announcer;
+  kv::Program program({scheduler,
+                       dialogs,
+                       random,
+                       sound,
+                       quit,
+                       OpenFolder,
+                       OpenAddress,
+                       {},
+                       {},
+                       &sizes,
+                       &settings,
+                       &announcer},
+                      {programFolder, working, kv::PortraitFolder(programFolder, working)});
   if (ends.ended()) return 0;
   ends.Ended = [&program] { program.EndAtOnce(); };
   program.Start();

@@ -66,8 +66,11 @@ class Screen : public QWidget {
   /// A picture of the data file in the window's tint, to lie on the background without a seam.
   [[nodiscard]] Picture TintedPicture(int number);
   [[nodiscard]] std::unique_ptr<Timer> NewTimer(int milliseconds, std::function<void()> tick) const;
-  /// Sound, question, pause: shorthand for what every screen does.
+  /// Sound, sentence, pause: shorthand for what every screen does.
   void PlayEffect(std::string_view effect) { services().buttons.PlayEffect(effect); }
+  void Announce(const std::string& text, Urgency urgency = Urgency::Polite) {
+    services().announcer.Announce(text, urgency);
+  }
   [[nodiscard]] bool Pause(int milliseconds) { return services().scheduler.Pause(milliseconds, lifetime_); }
 
   [[nodiscard]] const ScreenServices& services() const { return screenServices_; }

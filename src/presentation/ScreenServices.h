@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "cards/CardFaces.h"
+#include "platform/Announcer.h"
 #include "platform/Dialogs.h"
 #include "platform/Picture.h"
 #include "platform/Random.h"
@@ -27,6 +28,7 @@ struct ScreenServices {
   Portraits& portraits;
   Navigator& navigator;
   WindowSize& window;
+  Announcer& announcer;
 };
 
 }  // namespace kv

@@ -20,6 +20,7 @@
 #include "support/HandScheduler.h"
 #include "support/LoopbackSocket.h"
 #include "support/MemorySettings.h"
+#include "support/RecordingAnnouncer.h"
 #include "support/RecordingSound.h"
 #include "support/ScreenHand.h"
 #include "support/ScriptedDialogs.h"
@@ -49,7 +50,8 @@ class ProgramStage {
                         [this] { return std::make_unique<LoopbackSocket>(net, "10.0.0.1"); },
                         [] { return std::vector<std::string>{"10.0.0.1"}; },
                         sizes,
-                        &settings},
+                        &settings,
+                        &announcer},
         ProgramFolders{programFolder, folder.path(), folder / "Portraits"});
     program->Start();
     Settle(1000);
@@ -107,6 +109,7 @@ class ProgramStage {
   RecordingSound sound;
   MemorySettings settings;
   QtSizeFactor* sizes = nullptr;  // one that is set gives what is drawn another size
+  RecordingAnnouncer announcer;
   int quits = 0;
   std::unique_ptr<Program> program;
 };

@@ -16,6 +16,7 @@
 #include "presentation/Sounds.h"
 #include "profile/clsPlayer.h"
 #include "support/HandScheduler.h"
+#include "support/RecordingAnnouncer.h"
 #include "support/RecordingNavigator.h"
 #include "support/RecordingSound.h"
 #include "support/ScriptedDialogs.h"
@@ -58,7 +59,8 @@ class ScreenStage {
             [this](int number) { return pictures.getPic(number); },
             portraits,
             *navigator,
-            window};
+            window,
+            announcer};
   }
 
   /// Lets the events be handled and `milliseconds` pass.
@@ -71,6 +73,7 @@ class ScreenStage {
   HandScheduler scheduler;
   ScriptedDialogs dialogs;
   ScriptedRandom random{};
+  RecordingAnnouncer announcer;
   RecordingSound sound;
   Sounds sounds;
   ButtonContext buttons;
