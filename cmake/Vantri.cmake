@@ -6,7 +6,10 @@
 
 add_library(kv_options INTERFACE)
 target_include_directories(kv_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
-target_compile_options(kv_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror)
+target_compile_options(kv_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor)
+if(KV_WERROR)
+  target_compile_options(kv_options INTERFACE -Werror)
+endif()
 # gcc 12 warns wrongly of overlapping copies in std::string's operator+ (GCC bug 105651).
 target_compile_options(kv_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 # A target with KV_UNCHECKED is compiled as it is: what paints the pictures is not what the sanitizers look at.
@@ -54,6 +57,14 @@ function(kv_add_floor name)
   endif()
 endfunction()
 
+# The one source that is told the version: not every source is compiled anew when it changes.
+set_source_files_properties(${PROJECT_SOURCE_DIR}/src/platform/Version.cpp
+  PROPERTIES COMPILE_DEFINITIONS KV_VERSION="${PROJECT_VERSION}" SKIP_PRECOMPILE_HEADERS ON)
+# And the one that is told where the installed data lies, seen from the program.
+file(RELATIVE_PATH data_from_program ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_DATADIR}/kelm-vantri)
+set_source_files_properties(${PROJECT_SOURCE_DIR}/src/platform/Folders.cpp
+  PROPERTIES COMPILE_DEFINITIONS KV_DATA_FROM_PROGRAM="${data_from_program}" SKIP_PRECOMPILE_HEADERS ON)
+
 # kv_floor_uses(name [lib...]): links every library of a floor to the libraries below it.
 function(kv_floor_uses target)
   get_target_property(type ${target} TYPE)
@@ -98,7 +109,7 @@ function(kv_embed_layouts)
   set(out ${PROJECT_BINARY_DIR}/layouts/LayoutText.cpp)
   add_custom_command(
     OUTPUT ${out}
-    COMMAND ${CMAKE_COMMAND} -DOUT=${out} "-DLAYOUTS=${layouts}" -P ${PROJECT_SOURCE_DIR}/cmake/EmbedLayouts.cmake
+    COMMAND ${CMAKE_COMMAND} -DOUT=${out} -DVERSION=${PROJECT_VERSION} "-DLAYOUTS=${layouts}" -P ${PROJECT_SOURCE_DIR}/cmake/EmbedLayouts.cmake
     DEPENDS ${layouts} ${PROJECT_SOURCE_DIR}/cmake/EmbedLayouts.cmake
     COMMENT "Embedding screen layouts"
     VERBATIM)

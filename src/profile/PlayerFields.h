@@ -5,16 +5,13 @@
 #include <cstdint>
 #include <memory>
 #include <string>
-#include <string_view>
 
 #include "cards/clsCardArray.h"
 #include "cards/clsDeckArray.h"
 #include "cards/clsNumbers.h"
+#include "platform/Version.h"
 
 namespace kv {
-
-inline constexpr std::string_view kProgramVersion = "1.2.4";
-inline constexpr int kProgramVersionNumber = 124;
 
 /// All texts are UTF-8. The boxes and arrays are shared: a match holds the same ones, so they are made once,
 /// are never null and are changed only through what they point at.

@@ -1,0 +1,81 @@
+// Where the game looks for its own files and for the player's, whatever the system says or leaves out.
+#include <gtest/gtest.h>
+#include <pwd.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <string>
+
+#include "platform/Folders.h"
+#include "support/TempFolder.h"
+
+namespace kv {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A variable of the environment that gets its value back.
+class Variable {
+ public:
+  Variable(const char* name, const char* value) : name_(name) {
+    if (const char* old = std::getenv(name)) old_ = old;
+    Set(value);
+  }
+  ~Variable() { Set(old_ ? old_->c_str() : nullptr); }
+  Variable(const Variable&) = delete;
+  Variable& operator=(const Variable&) = delete;
+
+ private:
+  void Set(const char* value) const {
+    if (value == nullptr) {
+      unsetenv(name_);
+    } else {
+      setenv(name_, value, 1);
+    }
+  }
+
+  const char* name_;
+  std::optional<std::string> old_;
+};
+
+TEST(UserFolder, FollowsTheConventionAndElseTheListOfUsers) {
+  const std::string listed = getpwuid(getuid())->pw_dir;
+  const struct {
+    const char* data;
+    const char* home;
+    std::string folder;
+  } cases[] = {
+      {"/data", "/home/mara", "/data/kelm-vantri"},
+      {"data", "/home/mara", "/home/mara/.local/share/kelm-vantri"},  // relative: as if it were not set
+      {nullptr, "/home/mara", "/home/mara/.local/share/kelm-vantri"},
+      {nullptr, nullptr, listed + "/.local/share/kelm-vantri"},
+      {nullptr, "", listed + "/.local/share/kelm-vantri"},
+      {"", "mara", listed + "/.local/share/kelm-vantri"},
+  };
+  for (const auto& one : cases) {
+    const Variable data("XDG_DATA_HOME", one.data);
+    const Variable home("HOME", one.home);
+    EXPECT_EQ(UserFolder(), one.folder);
+  }
+}
+
+TEST(DataFolder, IsBesideTheProgramOrWhereItWasInstalledWhereverThatWasMovedTo) {
+  const test::TempFolder folder;
+  const fs::path prefix = fs::path(folder.path()) / "moved";
+  const fs::path bin = prefix / "bin";
+  const fs::path share = prefix / "share" / "kelm-vantri";
+  for (const fs::path& made : {bin, share}) fs::create_directories(made);
+  const auto put = [](const fs::path& file) { std::ofstream(file) << "pictures"; };
+
+  EXPECT_EQ(DataFolder(bin.string(), "vntdata.dat"), bin.string());
+  put(share / "vntdata.dat");
+  EXPECT_EQ(DataFolder(bin.string(), "vntdata.dat"), share.string());
+  put(bin / "vntdata.dat");
+  EXPECT_EQ(DataFolder(bin.string(), "vntdata.dat"), bin.string());
+}
+
+}  // namespace
+}  // namespace kv
