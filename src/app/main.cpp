@@ -1,9 +1,14 @@
-// The game. It takes no options: everything it remembers is in the player file.
+// The game. It has no options of its own: everything it remembers is in the player file.
 #include <QApplication>
 #include <QDesktopServices>
 #include <QIcon>
 #include <QUrl>
+#include <algorithm>
+#include <array>
 #include <filesystem>
+#include <iostream>
+#include <span>
+#include <string_view>
 
 #include "app/AccessibleRoles.h"
 #include "app/Program.h"
@@ -19,7 +24,9 @@
 #include "platform/QtSignals.h"
 #include "platform/QtSizeFactor.h"
 #include "platform/SdlSoundDevice.h"
+#include "platform/StandardOptions.h"
 #include "presentation/Fonts.h"
+#include "presentation/PictureSizes.h"
 
 namespace {
 
@@ -33,22 +40,45 @@ void OpenAddress(const std::string& address) {
   QDesktopServices::openUrl(QUrl::fromUserInput(QString::fromStdString(address)));
 }
 
-/// The icon's sizes that lie beside the program; a missing one is no fault.
-QIcon ProgramIcon(const std::string& programFolder) {
+/// The icon's sizes that lie with the data; a missing one is no fault.
+QIcon ProgramIcon(const std::string& dataFolder) {
   QIcon icon;
   for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
-    const std::string file = programFolder + "/Icons/kelm-vantri-" + std::to_string(size) + ".png";
+    const std::string file = dataFolder + "/Icons/kelm-vantri-" + std::to_string(size) + ".png";
     if (std::filesystem::exists(file)) icon.addFile(QString::fromStdString(file));
   }
   return icon;
 }
 
+constexpr std::string_view kHelp =
+    "usage: vantri [--help | --version]\n"
+    "Opens Kelm Vantri, a card game. Players, options and decks are kept in ~/.local/share/kelm-vantri/\n"
+    "(with XDG_DATA_HOME set: $XDG_DATA_HOME/kelm-vantri/).\n";
+
+/// What a session manager or a developer tells the toolkit; each has a value behind it.
+constexpr std::array<std::string_view, 2> kToolkitOptions = {"-platform", "-session"};
+
+/// The first word that nobody here knows; empty for none.
+std::string_view UnknownWord(std::span<char*> words) {
+  for (std::size_t i = 1; i < words.size(); i += 2) {
+    const std::string_view word = words[i];
+    if (std::ranges::find(kToolkitOptions, word) == kToolkitOptions.end()) return word;
+  }
+  return {};
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+  if (kv::AnswersStandardOption(argc, argv, "vantri", kHelp)) return 0;
+  const std::string_view unknown = UnknownWord({argv, static_cast<std::size_t>(argc)});
+  if (!unknown.empty()) {
+    std::cerr << "vantri: what is \"" << unknown << "\"? --help tells what there is\n";
+    return 2;
+  }
   kv::ReturnLargeBlocks();
   // Everything that the player owns is found in the working folder from here on.
-  const std::string programFolder = kv::ProgramFolder();
+  const std::string dataFolder = kv::DataFolder(kv::ProgramFolder(), kv::kDataFileName);
   std::error_code error;  // a folder that cannot be made is told when the player is saved
   const std::string playerFolder = std::filesystem::absolute(kv::UserFolder(), error).string();
   std::filesystem::create_directories(playerFolder, error);
@@ -68,8 +98,9 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   // No display name: the toolkit would add it to every title.
   QApplication::setApplicationName(QStringLiteral("kelm-vantri"));
-  QGuiApplication::setDesktopFileName(QStringLiteral("kelm-vantri"));
-  QApplication::setWindowIcon(ProgramIcon(programFolder));
+  // Flatpak lists the game under a name of its own.
+  QGuiApplication::setDesktopFileName(qEnvironmentVariable("FLATPAK_ID", QStringLiteral("kelm-vantri")));
+  QApplication::setWindowIcon(ProgramIcon(dataFolder));
   QApplication::setQuitOnLastWindowClosed(false);
   kv::InstallAccessibleRoles();
   kv::QtSignals ends;
@@ -77,12 +108,12 @@ int main(int argc, char** argv) {
 
   kv::QtScheduler scheduler;
   kv::QtDialogs dialogs(scheduler);
-  if (!kv::CheckProgramFiles(programFolder, working, dialogs)) return 1;
+  if (!kv::CheckProgramFiles(dataFolder, working, dialogs)) return 1;
   kv::SystemRandom random;
   kv::SdlSoundDevice sound(scheduler);
   kv::QtFontSystem fonts;
   for (const kv::DisplayFont& font : kv::kDisplayFonts) {
-    kv::InstallFont(programFolder + "/" + font.file, font.name, false, fonts, dialogs);
+    kv::InstallFont(dataFolder + "/" + font.file, font.name, false, fonts, dialogs);
   }
   // A plain end of the event loop: asking every window first whether it may be closed would let one refuse.
   const auto quit = [] { QCoreApplication::exit(0); };
@@ -101,7 +132,7 @@ int main(int argc, char** argv) {
                        &sizes,
                        &settings,
                        &announcer},
-                      {programFolder, working, kv::PortraitFolder(programFolder, working)});
+                      {dataFolder, working, kv::PortraitFolder(dataFolder, working)});
   if (ends.ended()) return 0;
   ends.Ended = [&program] { program.EndAtOnce(); };
   program.Start();

@@ -6,7 +6,9 @@ repertoire and given names of their own, as the licence asks of a changed font. 
 bytes: no clock time goes into the files.
 """
 
-import sys
+import argparse
+import pathlib
+import re
 
 from fontTools import subset
 from fontTools.ttLib import TTFont
@@ -71,8 +73,22 @@ def rename(font, family, source):
         names.setName(text, number, 1, 0, 0)
 
 
+def version():
+    top = pathlib.Path(__file__).resolve().parents[2] / "CMakeLists.txt"
+    return re.search(r"project\(\w+ VERSION (\S+)", top.read_text(encoding="utf-8")).group(1)
+
+
+def arguments():
+    parser = argparse.ArgumentParser(prog="build-fonts", description="Makes the two display typefaces of the game.")
+    parser.add_argument("--version", action="version", version=f"build-fonts {version()}")
+    parser.add_argument("play", help="the folder with Play-Regular.ttf and Play-Bold.ttf")
+    parser.add_argument("folder", help="where the typefaces go")
+    return parser.parse_args()
+
+
 def main():
-    source_folder, target_folder = sys.argv[1:3]
+    words = arguments()
+    source_folder, target_folder = words.play, words.folder
     for file, source, family, factor in FACES:
         font = TTFont(f"{source_folder}/{source}", recalcTimestamp=False)
         cut_down(font)

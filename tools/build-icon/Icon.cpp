@@ -14,12 +14,27 @@ QPainterPath Square(double inset, double corner) {
   return path;
 }
 
+QRectF Circle(double radius) {
+  return {kMiddle.x() - radius, kMiddle.y() - radius, 2 * radius, 2 * radius};
+}
+
 QPainterPath Arcs(double radius, double reach) {
   QPainterPath path;
-  const QRectF round(kMiddle.x() - radius, kMiddle.y() - radius, 2 * radius, 2 * radius);
   for (const double middle : {0.0, 180.0}) {
-    path.arcMoveTo(round, middle - reach);
-    path.arcTo(round, middle - reach, 2 * reach);
+    path.arcMoveTo(Circle(radius), middle - reach);
+    path.arcTo(Circle(radius), middle - reach, 2 * reach);
+  }
+  return path;
+}
+
+/// The arcs as areas between two circles.
+QPainterPath Bows(double inner, double outer, double reach) {
+  QPainterPath path;
+  for (const double middle : {0.0, 180.0}) {
+    path.arcMoveTo(Circle(outer), middle - reach);
+    path.arcTo(Circle(outer), middle - reach, 2 * reach);
+    path.arcTo(Circle(inner), middle + reach, -2 * reach);
+    path.closeSubpath();
   }
   return path;
 }
@@ -134,6 +149,17 @@ QString Svg(const std::vector<Shape>& shapes) {
              "%1\">\n<defs>\n%2</defs>\n%3</svg>\n")
       .arg(kSide)
       .arg(defs, body);
+}
+
+QString SymbolicSvg() {
+  // Only what is filled takes the desktop's colour: the arcs are outlines, not strokes.
+  QPainterPath sign = Bows(160, 228, 48);
+  sign.addPath(Lozenge(108, 136));
+  return QStringLiteral(
+             "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"16\" height=\"16\" viewBox=\"0 0 %1 %1\">\n"
+             "<path fill=\"#2e3436\" d=\"%2\"/>\n</svg>\n")
+      .arg(kSide)
+      .arg(PathData(sign));
 }
 
 }  // namespace kv::icon

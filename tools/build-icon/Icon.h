@@ -25,5 +25,7 @@ inline constexpr int kSide = 512;
 [[nodiscard]] std::vector<Shape> Shapes(bool small);
 void Paint(QPainter& painter, const std::vector<Shape>& shapes);
 [[nodiscard]] QString Svg(const std::vector<Shape>& shapes);
+/// The sign alone, without its plate, in the one colour that desktops replace by that of their own text.
+[[nodiscard]] QString SymbolicSvg();
 
 }  // namespace kv::icon

@@ -10,8 +10,14 @@
 #include "Master.h"
 #include "SoundFile.h"
 #include "platform/Files.h"
+#include "platform/StandardOptions.h"
 
 namespace {
+
+constexpr const char* kUsage =
+    "usage: build-sounds [--art ART] FOLDER  writes the wave files; those of ART/sounds take the effects'\n"
+    "                                        places\n"
+    "       build-sounds --table FOLDER      measures them\n";
 
 using kv::sound::Effect;
 using kv::sound::Stereo;
@@ -77,11 +83,10 @@ int Table(const std::filesystem::path& folder) {
 
 int main(int count, char** arguments) {
   const std::string first = count > 1 ? arguments[1] : "";
-  if (count == 2) return Build(first, "");
+  if (kv::AnswersStandardOption(count, arguments, "build-sounds", kUsage)) return 0;
+  if (count == 2 && !first.starts_with('-')) return Build(first, "");
   if (count == 4 && first == "--art") return Build(arguments[3], arguments[2]);
   if (count == 3 && first == "--table") return Table(arguments[2]);
-  std::cerr << "build-sounds [--art ART] FOLDER  writes the wave files; those of ART/sounds take the "
-               "effects' places\n"
-               "build-sounds --table FOLDER      measures them\n";
+  std::cerr << kUsage;
   return 2;
 }

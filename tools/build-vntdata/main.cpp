@@ -1,10 +1,4 @@
-// Paints every picture of the game and writes the data file.
-//   build-vntdata OUT.dat              the data file
-//   build-vntdata --sheet OUT.png      a contact sheet of all pictures with their numbers
-//   build-vntdata --picture N OUT.png  one picture in its stored size
-//   build-vntdata --sizes              how many bytes each picture takes
-//   build-vntdata --seeds FOLDER       small whole modules to start the fuzzing of the reader from
-// With --art FOLDER in front, the pictures of FOLDER/pictures take their painters' places.
+// Paints every picture of the game and writes the data file; --help tells the rest.
 #include <QGuiApplication>
 #include <cstdio>
 #include <string>
@@ -15,11 +9,20 @@
 #include "packing/Seeds.h"
 #include "packing/Sheet.h"
 #include "platform/Files.h"
+#include "platform/StandardOptions.h"
 #include "portraits/Table.h"
 #include "presentation/PictureSizes.h"
 
 namespace kv::datafile {
 namespace {
+
+constexpr const char* kUsage =
+    "usage: build-vntdata OUT.dat              the data file\n"
+    "       build-vntdata --sheet OUT.png      a contact sheet of all pictures with their numbers\n"
+    "       build-vntdata --picture N OUT.png  one picture in its stored size\n"
+    "       build-vntdata --sizes              how many bytes each picture takes\n"
+    "       build-vntdata --seeds FOLDER       small whole modules to start the fuzzing of the reader from\n"
+    "With --art FOLDER in front, the pictures of FOLDER/pictures take their painters' places.\n";
 
 using Arguments = std::vector<std::string>;
 
@@ -83,7 +86,8 @@ int Do(const Catalogue& catalogue, const Arguments& wanted) {
     return Save(catalogue.Paint(number), wanted[2]);
   }
   if (wanted.size() == 1 && wanted[0][0] != '-') return WriteDataFile(catalogue, wanted[0]);
-  return Fail("say where the data file goes");
+  std::fputs(kUsage, stderr);
+  return 2;
 }
 
 int Run(Arguments arguments) {
@@ -104,6 +108,7 @@ int Run(Arguments arguments) {
 }  // namespace kv::datafile
 
 int main(int argc, char** argv) {
+  if (kv::AnswersStandardOption(argc, argv, "build-vntdata", kv::datafile::kUsage)) return 0;
   qputenv("QT_QPA_PLATFORM", "offscreen");  // it paints, but shows nothing
   const QGuiApplication application(argc, argv);
   return kv::datafile::Run({argv + 1, argv + argc});

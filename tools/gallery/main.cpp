@@ -1,6 +1,5 @@
-// vantri-gallery FOLDER [--contrast]: renders every screen in both styles, at scale 1 and 2, and fails if a
-// text of theirs has a contrast of less than 4.5 to 1 where that is asked for. The data file and the fonts
-// are those beside this tool.
+// vantri-gallery: renders every screen in both styles, at scale 1 and 2. The data file and the fonts are
+// those beside this tool.
 #include <QApplication>
 #include <QProcess>
 #include <algorithm>
@@ -11,11 +10,16 @@
 #include "Gallery.h"
 #include "platform/Folders.h"
 #include "platform/QtFontSystem.h"
+#include "platform/StandardOptions.h"
 #include "presentation/Fonts.h"
 
 namespace {
 
 constexpr const char* kScale = "QT_SCALE_FACTOR";
+constexpr const char* kUsage =
+    "usage: vantri-gallery FOLDER [--contrast]\n"
+    "Renders every screen in both styles into FOLDER. With --contrast it fails if a text of theirs has a\n"
+    "contrast of less than 4.5 to 1.\n";
 
 /// The scale belongs to a whole process: one for each.
 int RenderInProcesses(const QStringList& arguments) {
@@ -54,9 +58,10 @@ int RenderStyle(kv::Gallery gallery, bool contrast) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  if (kv::AnswersStandardOption(argc, argv, "vantri-gallery", kUsage)) return 0;
   const bool contrast = argc == 3 && std::strcmp(argv[2], "--contrast") == 0;
-  if (argc != 2 && !contrast) {
-    std::cerr << "usage: vantri-gallery FOLDER [--contrast]\n";
+  if ((argc != 2 && !contrast) || argv[1][0] == '-') {
+    std::cerr << kUsage;
     return 2;
   }
   qputenv("QT_QPA_PLATFORM", "offscreen");

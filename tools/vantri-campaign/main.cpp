@@ -8,15 +8,17 @@
 #include <string>
 #include <string_view>
 
+#include "platform/StandardOptions.h"
 #include "vantri-campaign/CampaignSeries.h"
 #include "vantri-strength/Tournament.h"
 
 namespace {
 
 constexpr const char* kUsage =
-    "vantri-campaign [--strategy S] [--stakes P] [--hasty] [--keep] [--campaigns N] [--give-up N] [--seed "
+    "usage: vantri-campaign [--strategy S] [--stakes P] [--hasty] [--keep] [--campaigns N] [--give-up N] "
+    "[--seed "
     "N]\n"
-    "                [--threads N] [--table]\n"
+    "                       [--threads N] [--table]\n"
     "  S: standard, ember, careless; P: least, quarter, most\n"
     "  --hasty meets each opponent as soon as its least stake is there; --keep never buys a card; --give-up "
     "N\n"
@@ -154,6 +156,7 @@ bool ReadPlan(int count, char** words, kv::CampaignPlan& plan, bool& table) {
 }  // namespace
 
 int main(int count, char** words) {
+  if (kv::AnswersStandardOption(count, words, "vantri-campaign", kUsage)) return 0;
   kv::CampaignPlan plan;
   bool table = false;
   if (!ReadPlan(count, words, plan, table)) {

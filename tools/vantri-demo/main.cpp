@@ -1,6 +1,5 @@
-// vantri-demo [--option value]... FOLDER: goes the whole way through the game by itself, off screen and in
-// real time, and leaves a picture of every screen in FOLDER, in both styles or in that of "--style". The
-// options are those of vantri-player. It fails when something does not happen that should.
+// vantri-demo: goes the whole way through the game by itself, off screen and in real time. It fails when
+// something does not happen that should.
 #include <QApplication>
 #include <QProcess>
 #include <QTimer>
@@ -17,12 +16,17 @@
 #include "platform/QtDialogs.h"
 #include "platform/QtFontSystem.h"
 #include "platform/QtScheduler.h"
+#include "platform/StandardOptions.h"
 #include "presentation/Fonts.h"
 #include "support/TempFolder.h"
 #include "vantri-player/PlayerOptions.h"
 
 namespace {
 
+constexpr const char* kUsage =
+    "usage: vantri-demo [--option value]... FOLDER\n"
+    "Goes the whole way through the game by itself, off screen, and leaves a picture of every screen in\n"
+    "FOLDER, in both styles or in that of --style. The options are those of its player:\n";
 constexpr const char* kStyleOption = "--style";
 constexpr std::uint64_t kSeed = 20;  // the cards fall the same way each time
 constexpr int kLongest = 240000;     // milliseconds for the whole way
@@ -97,6 +101,7 @@ int GoInBothStyles(const std::vector<std::string>& words) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  if (kv::AnswersStandardOption(argc, argv, "vantri-demo", kUsage + kv::PlayerOptionsHelp())) return 0;
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   const std::vector<std::string> words(argv + 1, argv + argc);
   int none = 1;  // the toolkit would take "--style" for an option of its own
@@ -110,9 +115,8 @@ int main(int argc, char** argv) {
   std::string error;
   const auto rest = kv::ApplyPlayerOptions(words, checked, error);
   if (!rest || rest->size() != 1) {
-    std::cerr << "vantri-demo: " << (rest ? "one folder must be named" : error)
-              << "\nusage: vantri-demo [--option value]... FOLDER\n"
-              << kv::PlayerOptionsHelp();
+    std::cerr << "vantri-demo: " << (rest ? "one folder must be named" : error) << "\n"
+              << kUsage << kv::PlayerOptionsHelp();
     return 2;
   }
   std::filesystem::create_directories(rest->front());

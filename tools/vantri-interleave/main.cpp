@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/StandardOptions.h"
 #include "vantri-interleave/Run.h"
 
 namespace kv::interleave {
@@ -72,14 +73,15 @@ int ExploreAll(const Options& options) {
 
 int main(int argc, char** argv) {
   using namespace kv::interleave;
+  if (kv::AnswersStandardOption(argc, argv, "vantri-interleave", kUsage)) return 0;
   Options options;
   for (int at = 1; at < argc; ++at) {
     const std::string_view name = argv[at];
     const bool known = name == "--runs" || name == "--actions" || name == "--seed" || name == "--delay" ||
                        name == "--keep" || name == "--script";
     if (!known || at + 1 == argc) {
-      std::fputs(kUsage, name == "--help" ? stdout : stderr);
-      return name == "--help" ? 0 : 2;
+      std::fputs(kUsage, stderr);
+      return 2;
     }
     const char* value = argv[++at];
     if (name == "--runs") options.runs = std::atoi(value);

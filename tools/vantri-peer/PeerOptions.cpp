@@ -85,7 +85,7 @@ const std::array kRows = {
         [](PeerOptions& o, const std::string&) { return o.chat = true; }},
     Row{"--trace", "", "writes each message and its time to standard error",
         [](PeerOptions& o, const std::string&) { return o.trace = true; }},
-    Row{"--version", "TEXT", "greets as this version: 1.2.4",
+    Row{"--greet-as", "VERSION", "greets as another version than its own",
         [](PeerOptions& o, const std::string& word) {
           o.version = word;
           return !word.empty() && word.size() <= 16;
@@ -97,7 +97,6 @@ const std::array kRows = {
         }},
     Row{"--hurry", "N", "its clock runs N times as fast, for tests between two such peers: 1",
         [](PeerOptions& o, const std::string& word) { return TakeNumber(word, 1, kMostHurry, o.hurry); }},
-    Row{"--help", "", "this text", [](PeerOptions& o, const std::string&) { return o.help = true; }},
 };
 
 std::string Padded(std::string text, std::size_t width) {
@@ -119,7 +118,7 @@ std::optional<PeerOptions> ParsePeerOptions(std::span<const std::string> words, 
   PeerOptions options;
   std::vector<std::string_view> given;
   for (std::size_t i = 0; i < words.size(); ++i) {
-    const std::string name = words[i] == "-h" ? "--help" : words[i];
+    const std::string& name = words[i];
     const auto* row = std::ranges::find(kRows, name, &Row::name);
     if (row == kRows.end()) {
       options.playerOptions.push_back(name);
@@ -150,6 +149,7 @@ std::string PeerHelp() {
     const std::string left = "  " + std::string(row.name) + " " + std::string(row.argument);
     text += Padded(left, kWidth) + std::string(row.help) + "\n";
   }
+  text += Padded("  --help, --version", kWidth) + "this text, its own version\n";
   text += "\nThe options of its player, kept in the player file; --strategy is the one it plays by:\n" +
           PlayerOptionsHelp() + "\nWhat it can do wrong:\n";
   for (const Misplay& misplay : Misplays()) {

@@ -13,7 +13,6 @@
 namespace kv {
 
 struct PeerOptions {
-  bool help = false;
   bool hosting = true;
   std::string address;  // to listen at (empty: at all of the machine's) or to join
   int port = 6000;

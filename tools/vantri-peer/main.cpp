@@ -13,6 +13,7 @@
 #include "platform/Files.h"
 #include "platform/QtScheduler.h"
 #include "platform/QtTcpSocket.h"
+#include "platform/StandardOptions.h"
 #include "vantri-peer/HastyScheduler.h"
 #include "vantri-peer/PeerProgram.h"
 #include "vantri-peer/PeerSocket.h"
@@ -112,16 +113,13 @@ int Run(const kv::PeerOptions& options) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  if (kv::AnswersStandardOption(argc, argv, "vantri-peer", kv::PeerHelp())) return 0;
   int none = 1;  // the toolkit would take some of the words for options of its own
   const QCoreApplication application(none, argv);
   const std::vector<std::string> words(argv + 1, argv + argc);
   std::string error;
   const auto options = kv::ParsePeerOptions(words, error);
   if (!options) return Fail(kBadUsage, error);
-  if (options->help) {
-    std::cout << kv::PeerHelp();
-    return 0;
-  }
   if (const std::string wrong = WrongPlayerOption(options->playerOptions); !wrong.empty()) {
     return Fail(kBadUsage, wrong);
   }

@@ -7,6 +7,7 @@
 
 #include "platform/Files.h"
 #include "platform/Folders.h"
+#include "platform/StandardOptions.h"
 #include "profile/clsPlayer.h"
 #include "vantri-player/PlayerOptions.h"
 
@@ -32,19 +33,18 @@ constexpr const char* kUsage =
     "Prints the options of a player file and sets those that are named. Without FILE it is the one that the\n"
     "game opens; a file that does not exist is made.\n";
 
-int Fail(const std::string& message) {
+constexpr int kBadUsage = 2;
+
+int Fail(int code, const std::string& message) {
   std::cerr << "vantri-player: " << message << "\n";
-  return 1;
+  return code;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+  if (kv::AnswersStandardOption(argc, argv, "vantri-player", kUsage + kv::PlayerOptionsHelp())) return 0;
   std::vector<std::string> words(argv + 1, argv + argc);
-  if (words.size() == 1 && (words[0] == "-h" || words[0] == "--help")) {
-    std::cout << kUsage << kv::PlayerOptionsHelp();
-    return 0;
-  }
   ConsoleDialogs dialogs;
   kv::SystemRandom random;
   kv::clsPlayer player(dialogs, random);
@@ -55,11 +55,11 @@ int main(int argc, char** argv) {
   }
   std::string error;
   const auto files = kv::ApplyPlayerOptions(words, player, error);
-  if (!files) return Fail(error);
-  if (files->size() > 1) return Fail("more than one file is named");
+  if (!files) return Fail(kBadUsage, error);
+  if (files->size() > 1) return Fail(kBadUsage, "more than one file is named");
   const std::string path = files->empty() ? kv::UserFolder() + "/Player.vnt" : files->front();
   if (kv::FileExists(path)) {
-    if (player.LoadPlayerFile(path)) return Fail(path + " cannot be loaded");
+    if (player.LoadPlayerFile(path)) return Fail(1, path + " cannot be loaded");
     // Once more: loading has put the file's own values in their place.
     static_cast<void>(kv::ApplyPlayerOptions(words, player, error));
   } else {

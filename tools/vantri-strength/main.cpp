@@ -5,13 +5,15 @@
 #include <exception>
 #include <map>
 
+#include "platform/StandardOptions.h"
 #include "vantri-strength/Tournament.h"
 
 namespace {
 
 constexpr const char* kUsage =
-    "vantri-strength [--first S] [--second S] [--first-deck D] [--second-deck D] [--matches N] [--seed N]\n"
-    "                [--threads N] [--check] [--table]\n"
+    "usage: vantri-strength [--first S] [--second S] [--first-deck D] [--second-deck D] [--matches N] "
+    "[--seed N]\n"
+    "                       [--threads N] [--check] [--table]\n"
     "  S: standard, ember, careless, standard-rescue-ends, standard-rescue-stands\n"
     "  D: arcade, campaign, network, or a circuit opponent such as \"H6-J8\"\n"
     "  Half of the matches are played with the seats changed. --check proves the rules at every step.\n"
@@ -97,6 +99,7 @@ bool ReadPlan(int count, char** words, kv::TournamentPlan& plan, bool& table) {
 }  // namespace
 
 int main(int count, char** words) {
+  if (kv::AnswersStandardOption(count, words, "vantri-strength", kUsage)) return 0;
   kv::TournamentPlan plan{.first = {"standard", "arcade"}, .second = {"ember", "arcade"}};
   bool table = false;
   if (!ReadPlan(count, words, plan, table)) {
