@@ -11,9 +11,8 @@ ctlShape* NewFooter(QStringView control, QWidget& container, Layout& layout) {
 }
 
 Picture NewHoverPicture(QStringView control, ctlFlip::Kind kind, const QWidget& container, Layout& layout) {
-  // Fine enough for a window that is made larger while it is open.
   return ctlFlip::HoverPicture(kind, layout.bag(control), layout.rect(control).size(),
-                               std::max(2.0, container.devicePixelRatioF()));
+                               container.devicePixelRatioF());
 }
 
 QPoint PointOf(Spot spot) {
