@@ -23,6 +23,7 @@
 #include "platform/QtScheduler.h"
 #include "platform/QtSignals.h"
 #include "platform/QtSizeFactor.h"
+#include "platform/QtThrift.h"
 #include "platform/SdlSoundDevice.h"
 #include "platform/StandardOptions.h"
 #include "presentation/Fonts.h"
@@ -93,8 +94,7 @@ int main(int argc, char** argv) {
     return 0;
   }
 
-  // The game draws everything itself: a desktop's own theme would only cost memory and time.
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORMTHEME")) qputenv("QT_QPA_PLATFORMTHEME", "generic");
+  kv::QtThrift thrift;
   QApplication application(argc, argv);
   // No display name: the toolkit would add it to every title.
   QApplication::setApplicationName(QStringLiteral("kelm-vantri"));
@@ -136,6 +136,7 @@ int main(int argc, char** argv) {
   if (ends.ended()) return 0;
   ends.Ended = [&program] { program.EndAtOnce(); };
   program.Start();
+  thrift.Restore();
   instance.Listen([&program] { program.stage().Raise(); });
   return QApplication::exec();
 }
