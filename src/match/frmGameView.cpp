@@ -58,7 +58,10 @@ void frmGame::ControlsChanged() {
 
 void frmGame::LightsChanged() {
   services_.effects.StopFade();
-  for (const Seat seat : {Seat::Player, Seat::Opponent}) side(seat).RepaintLight();
+  for (const Seat seat : {Seat::Player, Seat::Opponent}) {
+    side(seat).RepaintLight();
+    side(seat).TellLight(engine_.Light(seat));
+  }
   if (engine_.Light(Seat::Player)) services_.navigator.CallPlayer();
   for (const Seat seat : {Seat::Player, Seat::Opponent}) {
     if (!engine_.Light(seat)) continue;
