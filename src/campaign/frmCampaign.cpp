@@ -119,7 +119,9 @@ void frmCampaign::BuildTarget(int index) {
 
 void frmCampaign::Activate() {
   ShowAccount();
-  if (circuit_.TakeLevelUp()) PlayEffect("levelup");
+  if (!circuit_.TakeLevelUp()) return;
+  PlayEffect("levelup");
+  Announce("A new opponent plays against you.");
 }
 
 void frmCampaign::ShowAccount() {

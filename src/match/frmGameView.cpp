@@ -180,6 +180,12 @@ bool frmGame::FocusKey(const QKeyEvent& event) {
       if (!ctlBust_->isVisible() || event.isAutoRepeat()) return false;
       ctlBust_->cmdBust().click();
       return true;
+    case Qt::Key_F2:
+      services_.announcer.Announce(SpokenTable(), Urgency::Assertive);
+      return true;
+    case Qt::Key_F3:
+      services_.announcer.Announce(SpokenHand(), Urgency::Assertive);
+      return true;
     case Qt::Key_Escape:
       if (!event.isAutoRepeat() && ctlTitlebar_->Enabled()) engine_.Forfeit();
       return true;

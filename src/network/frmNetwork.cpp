@@ -79,7 +79,7 @@ void frmNetwork::BuildPlayer() {
 }
 
 void frmNetwork::BuildPlay() {
-  chat_ = new ctlChat(this, layout(), services_.network);
+  chat_ = new ctlChat(this, layout(), services_.network, services().announcer);
   lblState_ = layout().NewLabel(u"lblState", this);
   cmdGameMode_ = NewButton(u"cmdGameMode", [this] { lobby_.PressMode(); });
   cmdStart_ = NewButton(u"cmdStart", [this] { lobby_.PressStart(); });

@@ -78,7 +78,8 @@ void frmSplash::BuildList() {
 void frmSplash::BuildCreation() {
   creation_ = std::make_unique<frmSplashCreation>(
       *this, layout(),
-      frmSplashCreation::Services{services().buttons, services().scheduler, lifetime(), splash_});
+      frmSplashCreation::Services{services().buttons, services().scheduler, services().announcer, lifetime(),
+                                  splash_});
   creation_->StepChanged = [this] { StepChanged(); };
   creation_->GivenUp = [this] { BackToList(); };
   creation_->Done = [this](const std::string& fileName, const std::string& pin) {

@@ -42,6 +42,13 @@ void frmSplash::PlayerSelected() {
 void frmSplash::MoveSelection(int rows) {
   if (!lstPlayers_->isEnabled()) return;
   lstPlayers_->setCurrentRow(std::clamp(lstPlayers_->currentRow() + rows, 0, lstPlayers_->count() - 1));
+  // The list has not got the focus, so that nothing else tells of it.
+  TellSelected();
+}
+
+void frmSplash::TellSelected() {
+  const QListWidgetItem* item = lstPlayers_->currentItem();
+  if (item != nullptr) Announce(item->text().toStdString() + " is selected.");
 }
 
 void frmSplash::FocusList() {
@@ -110,6 +117,7 @@ void frmSplash::SelectPlayer(const std::string& name, const std::string& pin) {
   if (row == files.size()) return;
   lstPlayers_->setCurrentRow(static_cast<int>(row));
   txtPIN_->setPIN(pin);
+  TellSelected();
 }
 
 void frmSplash::BackToList() {
