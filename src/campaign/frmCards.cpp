@@ -110,6 +110,12 @@ void frmCards::ShowSettled() {
   if (chat_ == nullptr || !chat_->writing()) setFocus();
 }
 
+bool frmCards::AskEndRun() {
+  const bool yes = services().dialogs.AskYesNo("Do you wish to end this arcade run?", "Kelm Vantri: End Run",
+                                               DialogIcon::Question);
+  return yes && !closing();
+}
+
 void frmCards::TitlebarQuit() {
   // Pressed twice it would end twice; after a no it can be pressed anew.
   ctlTitlebar_->setEnabled(false);
@@ -148,8 +154,8 @@ void frmCards::keyPressEvent(QKeyEvent* event) {
   if (button != nullptr && Usable(*button) && !event->isAutoRepeat()) {
     button->click();  // with the button's own sound
   } else if (key == Qt::Key_Escape && !event->isAutoRepeat()) {
-    // A key pressed in passing must not end a run, which nobody is asked about between two matches.
-    if (cards_.game.Mode != kModeArcade || !round_.desk().LeavesFreely()) TitlebarQuit();
+    // A key pressed in passing must not end a run, and the button that ends it does not ask.
+    if (cards_.game.Mode != kModeArcade || !round_.desk().LeavesFreely() || AskEndRun()) TitlebarQuit();
   } else {
     Screen::keyPressEvent(event);
   }

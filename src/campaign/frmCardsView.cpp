@@ -1,6 +1,7 @@
 // The card screen's controls: how they are built from the layout, and how they show what the desk holds.
 #include <QLabel>
 #include <QPainter>
+#include <utility>
 
 #include "campaign/frmCards.h"
 #include "match/clsGame.h"
@@ -111,6 +112,10 @@ void frmCards::BuildButtons() {
   cmdContinue_ = NewButton(u"cmdContinue", [this] { round_.Continue(); });
   if (!round_.desk().ContinueCaption().empty())
     cmdContinue_->setCaption(ToQString(round_.desk().ContinueCaption()));
+  // As the eye goes: the collection, the buttons beside it, the deck below, and on.
+  QWidget* last = cmdTrade_;
+  for (QWidget* next : slots_) setTabOrder(std::exchange(last, next), next);
+  setTabOrder(last, cmdContinue_);
 }
 
 ctlCard* frmCards::Bank(const CardPlace& place) {

@@ -29,8 +29,8 @@ frmNetwork::frmNetwork(const ScreenServices& services, const frmNetworkServices&
           {services.scheduler, services.dialogs, services.navigator, lobby.network, lobby.player, lifetime()},
           *this) {
   for (const char16_t* heading : kHeadings) layout().NewLabel(heading, this);
-  BuildConnection();
   BuildPlayer();
+  BuildConnection();
   BuildPlay();
   ctlTitlebar* titlebar = NewTitlebar();
   titlebar->Quit = [this] { services_.network.LeaveLobby(); };

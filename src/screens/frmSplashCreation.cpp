@@ -73,6 +73,7 @@ void frmSplashCreation::BuildFile() {
 
 void frmSplashCreation::Show(Step step) {
   step_ = step;
+  screen_.setFocus();  // what has it may be hidden now: it must not wander through the link on its way
   for (QWidget* part : std::initializer_list<QWidget*>{lblHeader_, lblCreateInfo_, cmdBack_}) {
     part->setVisible(step != Step::None);
   }
@@ -189,6 +190,7 @@ void frmSplashCreation::TrimFileName() {
 
 void frmSplashCreation::NewFile() {
   TrimFileName();
+  screen_.setFocus();  // else it would wander to the link
   for (ctlButton* button : {cmdNewFile_, cmdBack_}) button->setEnabled(false);  // while a box is open
   StepChanged();
   const std::string name = txtName_->text().toStdString();

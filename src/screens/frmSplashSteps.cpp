@@ -56,11 +56,12 @@ void frmSplash::FocusList() {
   if (lstPlayers_->isEnabled()) {
     txtPIN_->setFocus();
   } else {
-    setFocus();
+    cmdCreate_->setFocus();
   }
 }
 
 void frmSplash::EnableList(bool enabled) {
+  if (!enabled) setFocus();  // else it would wander to the link below
   lstPlayers_->setEnabled(enabled);
   txtPIN_->setEnabled(enabled);
   cmdContinue_->setEnabled(enabled);
