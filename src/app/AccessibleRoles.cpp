@@ -2,20 +2,41 @@
 
 #include <QAbstractButton>
 #include <QAccessibleWidget>
+#include <QCheckBox>
+#include <QRadioButton>
+#include <optional>
 
-#include "cards/ctlCard.h"
+#include "app/Stage.h"
+#include "campaign/ctlWager.h"
 #include "match/ctlBust.h"
 #include "match/ctlShape.h"
+#include "platform/Pressable.h"
 #include "presentation/FadeTarget.h"
+#include "presentation/Screen.h"
 #include "presentation/ctlTitlebar.h"
+#include "screens/PortraitList.h"
 
 namespace kv {
 namespace {
 
-/// A button or a card: pressing a card does what its double-click does.
-class Pressable final : public QAccessibleWidget {
+/// What a reader presses while the reader waits: the press itself comes later, from the event loop, for it
+/// may open a box that stays for minutes.
+void PressSoon(QWidget* widget) {
+  const auto press = [widget] {
+    if (!widget->isEnabled() || !widget->isVisible()) return;
+    if (auto* button = dynamic_cast<QAbstractButton*>(widget)) {
+      button->click();
+    } else if (auto* other = dynamic_cast<Pressable*>(widget); other != nullptr && other->pressable()) {
+      other->DoPress();
+    }
+  };
+  QMetaObject::invokeMethod(widget, press, Qt::QueuedConnection);
+}
+
+/// A button, or a picture, card or label that can be pressed.
+class PressableControl : public QAccessibleWidget {
  public:
-  explicit Pressable(QWidget* widget) : QAccessibleWidget(widget, QAccessible::Button) {}
+  explicit PressableControl(QWidget* widget) : QAccessibleWidget(widget, QAccessible::Button) {}
 
   // A card that nobody can play (on a table, or face down) is something to look at.
   QAccessible::Role role() const override { return pressable() ? QAccessible::Button : QAccessible::Graphic; }
@@ -25,37 +46,100 @@ class Pressable final : public QAccessibleWidget {
     return names;
   }
   void doAction(const QString& action) override {
-    if (action != pressAction()) {
+    if (action == pressAction()) {
+      PressSoon(widget());
+    } else {
       QAccessibleWidget::doAction(action);
-    } else if (auto* button = dynamic_cast<QAbstractButton*>(widget())) {
-      button->click();
-    } else if (const auto* card = dynamic_cast<ctlCard*>(widget()); card->Enabled() && card->DblClick) {
-      card->DblClick();
     }
   }
 
  private:
   bool pressable() const {
-    const auto* card = dynamic_cast<ctlCard*>(widget());
-    return card == nullptr || card->DblClick;
+    const auto* other = dynamic_cast<Pressable*>(widget());
+    return other == nullptr || other->pressable();
   }
 };
+
+/// A picture. One that is part of a choice is an entry of a list, and tells whether it is the chosen one.
+class PictureControl final : public PressableControl {
+ public:
+  using PressableControl::PressableControl;
+
+  QAccessible::Role role() const override {
+    return chosen() ? QAccessible::ListItem : PressableControl::role();
+  }
+  QAccessible::State state() const override {
+    QAccessible::State state = PressableControl::state();
+    if (!chosen()) return state;
+    state.selectable = true;
+    state.focusable = true;  // by way of the list, which has the keys
+    state.selected = *chosen();
+    state.focused = state.selected && widget()->parentWidget()->hasFocus();
+    return state;
+  }
+
+ private:
+  std::optional<bool> chosen() const { return static_cast<FadeTarget*>(widget())->selected(); }
+};
+
+/// A check box or option button. The toolkit would turn it over without a click, so that nobody hears of it.
+class CheckControl final : public QAccessibleWidget {
+ public:
+  using QAccessibleWidget::QAccessibleWidget;
+
+  QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.checkable = true;
+    state.checked = static_cast<QAbstractButton*>(widget())->isChecked();
+    return state;
+  }
+  QStringList actionNames() const override {
+    QStringList names = QAccessibleWidget::actionNames();
+    if (widget()->isEnabled()) names.prepend(toggleAction());
+    return names;
+  }
+  void doAction(const QString& action) override {
+    if (action == toggleAction()) {
+      PressSoon(widget());
+    } else {
+      QAccessibleWidget::doAction(action);
+    }
+  }
+};
+
+/// A screen lies on the window and bears the title that the window shows.
+class ScreenPane final : public QAccessibleWidget {
+ public:
+  explicit ScreenPane(QWidget* widget) : QAccessibleWidget(widget, QAccessible::Pane) {}
+
+  QString text(QAccessible::Text kind) const override {
+    return kind == QAccessible::Name ? widget()->windowTitle() : QAccessibleWidget::text(kind);
+  }
+};
+
+template <typename Kind>
+bool Is(QWidget* widget) {
+  return dynamic_cast<Kind*>(widget) != nullptr;
+}
 
 QAccessibleInterface* NewInterface(const QString&, QObject* object) {
   auto* widget = dynamic_cast<QWidget*>(object);
   if (widget == nullptr) return nullptr;
+  const auto plain = [widget](QAccessible::Role role) { return new QAccessibleWidget(widget, role); };
+  // All of them are owned by the toolkit.
+  if (Is<FadeTarget>(widget)) return new PictureControl(widget);
+  if (Is<QCheckBox>(widget)) return new CheckControl(widget, QAccessible::CheckBox);
+  if (Is<QRadioButton>(widget)) return new CheckControl(widget, QAccessible::RadioButton);
   // The toolkit knows its own buttons by their classes; ours bear none of those names.
   const bool ownButton = object->metaObject() == &QAbstractButton::staticMetaObject;
-  if (ownButton || dynamic_cast<ctlCard*>(widget) != nullptr) {
-    return new Pressable(widget);  // owned by the toolkit
-  }
-  if (dynamic_cast<ctlTitlebar*>(widget) != nullptr)
-    return new QAccessibleWidget(widget, QAccessible::TitleBar);
-  if (dynamic_cast<ctlBust*>(widget) != nullptr)
-    return new QAccessibleWidget(widget, QAccessible::AlertMessage);
-  if (dynamic_cast<FadeTarget*>(widget) != nullptr || dynamic_cast<ctlShape*>(widget) != nullptr) {
-    return new QAccessibleWidget(widget, QAccessible::Graphic);
-  }
+  if (ownButton || Is<Pressable>(widget)) return new PressableControl(widget);
+  if (Is<Screen>(widget)) return new ScreenPane(widget);
+  if (Is<Stage>(widget)) return plain(QAccessible::Window);
+  if (Is<ctlTitlebar>(widget)) return plain(QAccessible::TitleBar);
+  if (Is<ctlBust>(widget)) return plain(QAccessible::AlertMessage);
+  if (Is<ctlWager>(widget)) return plain(QAccessible::Grouping);
+  if (Is<PortraitList>(widget)) return plain(QAccessible::List);
+  if (Is<ctlShape>(widget)) return plain(QAccessible::Graphic);
   return nullptr;
 }
 

@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "presentation/PanelPainter.h"
+#include "presentation/SpokenValue.h"
 
 namespace kv {
 namespace {
@@ -35,6 +36,7 @@ ctlOpponent::ctlOpponent(QWidget* parent, Layout& layout, PortraitSource portrai
   setFixedSize(layout.rect(u"ctlOpponent").size());
   setAttribute(Qt::WA_TransparentForMouseEvents);
   ReadProperties(PropertyBag());
+  setNote({});
 }
 
 QLabel* ctlOpponent::NewPart(Layout& layout, QStringView label) {
@@ -65,16 +67,21 @@ void ctlOpponent::setEnabled(bool enabled) {
 }
 
 void ctlOpponent::setMaxWager(std::int32_t credits) {
-  lblMax_->setText(QString::number(credits));
+  ShowValue(*lblMax_, u"Max Wager", QString::number(credits));
 }
 
 void ctlOpponent::setMinWager(std::int32_t credits) {
-  lblMin_->setText(QString::number(credits));
+  ShowValue(*lblMin_, u"Min Wager", QString::number(credits));
 }
 
 void ctlOpponent::setOppName(const QString& name) {
-  lblOppName_->setText(name);
+  ShowValue(*lblOppName_, u"Opponent", name);
   setAccessibleName(name);
+}
+
+void ctlOpponent::setNote(const QString& note) {
+  lblNote_->setText(note);
+  lblNote_->setVisible(!note.isEmpty());
 }
 
 void ctlOpponent::setOppPic(std::int16_t number) {
@@ -85,7 +92,7 @@ void ctlOpponent::setOppPic(std::int16_t number) {
 
 void ctlOpponent::setWins(std::int16_t wins) {
   wins_ = wins;
-  lblWins_->setText(QString::number(wins));
+  ShowValue(*lblWins_, u"Wins Against", QString::number(wins));
   lblWins_->setVisible(wins != kNoWinsShown);
   lblWinsAgainst_->setVisible(wins != kNoWinsShown);
 }

@@ -43,7 +43,7 @@ class ctlOpponent final : public QWidget {
   void setWins(std::int16_t wins);
   /// A line at the foot of the tile; says in words what the grey of a disabled tile means.
   [[nodiscard]] QString Note() const { return lblNote_->text(); }
-  void setNote(const QString& note) { lblNote_->setText(note); }
+  void setNote(const QString& note);
 
   /// The border of both frames.
   void Color(const QColor& color);

@@ -1,11 +1,11 @@
 #include "campaign/ctlWager.h"
 
 #include <QKeyEvent>
-#include <QLabel>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <algorithm>
 
+#include "platform/Pressable.h"
 #include "platform/QtKeys.h"
 #include "platform/QtText.h"
 #include "presentation/PanelPainter.h"
@@ -20,12 +20,28 @@ constexpr QColor kStandsOut(255, 90, 90);
 
 }  // namespace
 
+/// A label that fills the amount when it is clicked.
+class ctlWager::Fill final : public QLabel, public Pressable {
+ public:
+  Fill(QWidget* parent, std::function<void()> fill) : QLabel(parent), fill_(std::move(fill)) {}
+
+  [[nodiscard]] bool pressable() const override { return true; }
+  void DoPress() override { fill_(); }
+
+ private:
+  std::function<void()> fill_;
+};
+
 ctlWager::ctlWager(QWidget* parent, Layout& layout, ButtonContext& context, WagerEntry& entry)
     : QWidget(parent), context_(context), entry_(entry) {
   setMouseTracking(true);
   lblPrompt_ = new QLabel(this);
-  lblCredits_ = NewFill();
-  lblWagerInfo_ = NewFill();
+  lblCredits_ = NewFill([this] {
+    if (CreditsClick) CreditsClick();
+  });
+  lblWagerInfo_ = NewFill([this] {
+    if (WagerInfoClick) WagerInfoClick();
+  });
   txtWager_ = new QLineEdit(this);
   txtWager_->setMaxLength(kLongestText);
   txtWager_->setAlignment(Qt::AlignCenter);
@@ -47,6 +63,7 @@ void ctlWager::TakeLayout(Layout& layout) {
   highest_ = layout.rect(u"ctlTitlebar").height();
   layout.Place(u"ctlWager", *this);
   layout.Dress(u"lblPrompt", *lblPrompt_);
+  setAccessibleName(lblPrompt_->text());
   layout.Dress(u"lblWagerCredits", *lblCredits_);
   layout.Dress(u"lblWagerInfo", *lblWagerInfo_);
   for (QLabel* label : {lblCredits_, lblWagerInfo_}) {
@@ -75,12 +92,20 @@ ctlButton* ctlWager::NewButton(const std::function<void()>& click) {
   return button;
 }
 
-QLabel* ctlWager::NewFill() {
-  auto* label = new QLabel(this);
+ctlWager::Fill* ctlWager::NewFill(const std::function<void()>& fill) {
+  auto* label = new Fill(this, fill);
   label->setFocusPolicy(Qt::TabFocus);
   label->setCursor(Qt::PointingHandCursor);
   label->installEventFilter(this);
   return label;
+}
+
+QLabel& ctlWager::getlblCredits() {
+  return *lblCredits_;
+}
+
+QLabel& ctlWager::getlblWagerInfo() {
+  return *lblWagerInfo_;
 }
 
 void ctlWager::Refresh() {
@@ -96,7 +121,7 @@ void ctlWager::Refresh() {
   const std::string info = entry_.InfoText();
   lblWagerInfo_->setText(QString::fromStdString(info));
   lblWagerInfo_->setVisible(!info.empty());
-  for (QLabel* label : {lblCredits_, lblWagerInfo_}) {
+  for (Fill* label : {lblCredits_, lblWagerInfo_}) {
     label->setAccessibleName(label->text() + QStringLiteral(" (fills the amount)"));
   }
   QFont font = lblCredits_->font();
@@ -139,7 +164,7 @@ bool ctlWager::eventFilter(QObject* watched, QEvent* event) {
   }
   const bool pressed = type == QEvent::MouseButtonPress || IsEnter(code) || code == Qt::Key_Space;
   if (!pressed || !entry_.boxEnabled()) return key && pressed;
-  if (const std::function<void()> click = watched == lblCredits_ ? CreditsClick : WagerInfoClick) click();
+  (watched == lblCredits_ ? lblCredits_ : lblWagerInfo_)->DoPress();
   return true;
 }
 

@@ -2,6 +2,7 @@
 // and hands every change back to it; what a stake means is decided elsewhere.
 #pragma once
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QWidget>
 #include <functional>
@@ -10,8 +11,6 @@
 #include "campaign/WagerEntry.h"
 #include "presentation/Layout.h"
 #include "presentation/ctlButton.h"
-
-class QLabel;
 
 namespace kv {
 
@@ -38,8 +37,8 @@ class ctlWager final : public QWidget {
   [[nodiscard]] QLineEdit& gettxtWager() { return *txtWager_; }
   [[nodiscard]] ctlButton& getcmdWager() { return *cmdWager_; }
   [[nodiscard]] ctlButton& getcmdEnd() { return *cmdEnd_; }
-  [[nodiscard]] QLabel& getlblCredits() { return *lblCredits_; }
-  [[nodiscard]] QLabel& getlblWagerInfo() { return *lblWagerInfo_; }
+  [[nodiscard]] QLabel& getlblCredits();
+  [[nodiscard]] QLabel& getlblWagerInfo();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -50,7 +49,8 @@ class ctlWager final : public QWidget {
 
  private:
   ctlButton* NewButton(const std::function<void()>& click);
-  QLabel* NewFill();
+  class Fill;
+  Fill* NewFill(const std::function<void()>& fill);
   void TakeLayout(Layout& layout);
   void TextChanged();
   void ShowBox(const BoxText& box);
@@ -63,8 +63,8 @@ class ctlWager final : public QWidget {
   int highest_ = 0;              // the title bar of the screen stays free
   std::optional<QPoint> grip_;   // where the drag bar is held
   QLabel* lblPrompt_ = nullptr;  // children
-  QLabel* lblCredits_ = nullptr;
-  QLabel* lblWagerInfo_ = nullptr;
+  Fill* lblCredits_ = nullptr;
+  Fill* lblWagerInfo_ = nullptr;
   QLineEdit* txtWager_ = nullptr;
   ctlButton* cmdWager_ = nullptr;
   ctlButton* cmdEnd_ = nullptr;

@@ -7,6 +7,7 @@
 #include "platform/QtText.h"
 #include "presentation/NameText.h"
 #include "presentation/PanelPainter.h"
+#include "presentation/SpokenValue.h"
 
 namespace kv {
 namespace {
@@ -118,20 +119,18 @@ void frmCampaign::BuildTarget(int index) {
 
 void frmCampaign::Activate() {
   ShowAccount();
-  if (circuit_.TakeLevelUp()) PlayEffect("levelup");
+  if (!circuit_.TakeLevelUp()) return;
+  PlayEffect("levelup");
+  Announce("A new opponent plays against you.");
 }
 
 void frmCampaign::ShowAccount() {
   const QString name = QString::fromStdString(player_.Name);
   ShowName(*lblPName_, layout().bag(u"lblPName"), name);
   lblPName_->setAccessibleName(QStringLiteral("Name: ") + name);
-  const auto show = [](QLabel& label, const QString& heading, int value) {
-    label.setText(QString::number(value));
-    label.setAccessibleName(heading + label.text());
-  };
-  show(*lblPCredits_, QStringLiteral("Credits: "), player_.Credits->Value);
-  show(*lblPWins_, QStringLiteral("Wins: "), player_.Wins->Value);
-  show(*lblPLosses_, QStringLiteral("Losses: "), player_.Losses->Value);
+  ShowValue(*lblPCredits_, u"Credits", QString::number(player_.Credits->Value));
+  ShowValue(*lblPWins_, u"Wins", QString::number(player_.Wins->Value));
+  ShowValue(*lblPLosses_, u"Losses", QString::number(player_.Losses->Value));
 }
 
 void frmCampaign::Shown() {

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <algorithm>
 
+#include "campaign/SpokenDesk.h"
 #include "match/clsGame.h"
 #include "platform/QtKeys.h"
 #include "platform/QtText.h"
@@ -34,7 +35,7 @@ frmCards::frmCards(const ScreenServices& services, const frmCardsServices& cards
   ctlWager_->WagerInfoClick = [this] { ctlWager_->ShowFilled(round_.entry().FillFromInfo()); };
   if (cards_.game.isNetwork()) {
     GrowBelow(layout().rect(u"ctlChat").height());
-    chat_ = new ctlChat(this, layout(), cards_.network);
+    chat_ = new ctlChat(this, layout(), cards_.network, services.announcer);
   }
   ctlTitlebar_ = NewTitlebar();
   ctlTitlebar_->Quit = [this] { TitlebarQuit(); };
@@ -68,11 +69,16 @@ void frmCards::ClickBank(const CardPlace& place) {
   // The last copy is taken: the focus must not slide to a card that the person did not choose.
   if (focusWidget() == Bank(place) && !round_.desk().Bank(place).enabled) setFocus();
   Refresh();
+  const CardDesk& desk = round_.desk();
+  Announce(did == BankClick::Added ? SpokenChange(desk.Bank(place).code, true, desk.DeckCount())
+                                   : SpokenPick(desk.view(), desk.Shop()));
 }
 
 void frmCards::RemoveCard(int slot) {
+  const CardCode card = round_.desk().Slot(slot);
   if (ctlWager_->isVisible() || !round_.desk().RemoveCard(slot)) return;
   Refresh();
+  Announce(SpokenChange(card, false, round_.desk().DeckCount()));
 }
 
 void frmCards::SwitchView(CardView view) {
@@ -81,8 +87,10 @@ void frmCards::SwitchView(CardView view) {
 }
 
 void frmCards::Trade() {
-  static_cast<void>(round_.desk().Trade());  // what cannot be traded leaves everything as it was
+  const CardCode card = round_.desk().Shop().card;
+  const bool traded = round_.desk().Trade();  // what cannot be traded leaves everything as it was
   Refresh();
+  if (traded) Announce(SpokenDeal(round_.desk().view(), card, round_.desk().Credits()));
 }
 
 // --- The stake -------------------------------------------------------------------------------------------
@@ -98,7 +106,14 @@ void frmCards::FocusAmount() {
 
 void frmCards::ShowSettled() {
   Refresh();
+  Announce(QStringLiteral("Stake %1.").arg(cards_.game.Wager).toStdString());
   if (chat_ == nullptr || !chat_->writing()) setFocus();
+}
+
+bool frmCards::AskEndRun() {
+  const bool yes = services().dialogs.AskYesNo("Do you wish to end this arcade run?", "Kelm Vantri: End Run",
+                                               DialogIcon::Question);
+  return yes && !closing();
 }
 
 void frmCards::TitlebarQuit() {
@@ -139,8 +154,8 @@ void frmCards::keyPressEvent(QKeyEvent* event) {
   if (button != nullptr && Usable(*button) && !event->isAutoRepeat()) {
     button->click();  // with the button's own sound
   } else if (key == Qt::Key_Escape && !event->isAutoRepeat()) {
-    // A key pressed in passing must not end a run, which nobody is asked about between two matches.
-    if (cards_.game.Mode != kModeArcade || !round_.desk().LeavesFreely()) TitlebarQuit();
+    // A key pressed in passing must not end a run, and the button that ends it does not ask.
+    if (cards_.game.Mode != kModeArcade || !round_.desk().LeavesFreely() || AskEndRun()) TitlebarQuit();
   } else {
     Screen::keyPressEvent(event);
   }

@@ -68,6 +68,7 @@ class frmCards final : public Screen, private CardRoundView {
   void SwitchView(CardView view);
   void Trade();
   void TitlebarQuit();
+  [[nodiscard]] bool AskEndRun();
   void FocusAmount();
 
   // What the round says

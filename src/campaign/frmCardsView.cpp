@@ -1,11 +1,13 @@
 // The card screen's controls: how they are built from the layout, and how they show what the desk holds.
 #include <QLabel>
 #include <QPainter>
+#include <utility>
 
 #include "campaign/frmCards.h"
 #include "match/clsGame.h"
 #include "platform/QtText.h"
 #include "presentation/PanelPainter.h"
+#include "presentation/SpokenValue.h"
 
 namespace kv {
 namespace {
@@ -36,6 +38,11 @@ void PaintEmptySlots(QPainter& painter, const Layout& layout, const CardDesk& de
     painter.drawRoundedRect(place.adjusted(3.5, 3.5, -3.5, -3.5), kSlotCorners, kSlotCorners);
   }
   painter.restore();
+}
+
+/// Before a card is picked there is a question mark.
+QString SpokenAmount(const std::string& shown) {
+  return shown == "?" ? QStringLiteral("no card picked") : QString::fromStdString(shown);
 }
 
 }  // namespace
@@ -105,6 +112,10 @@ void frmCards::BuildButtons() {
   cmdContinue_ = NewButton(u"cmdContinue", [this] { round_.Continue(); });
   if (!round_.desk().ContinueCaption().empty())
     cmdContinue_->setCaption(ToQString(round_.desk().ContinueCaption()));
+  // As the eye goes: the collection, the buttons beside it, the deck below, and on.
+  QWidget* last = cmdTrade_;
+  for (QWidget* next : slots_) setTabOrder(std::exchange(last, next), next);
+  setTabOrder(last, cmdContinue_);
 }
 
 ctlCard* frmCards::Bank(const CardPlace& place) {
@@ -145,23 +156,27 @@ void frmCards::RefreshDeck() {
     ctlDeck(slot).setCard(code.text());
     ctlDeck(slot).setVisible(!code.empty());
   }
-  lblDeckCount_->setText(QStringLiteral("Deck %1/%2").arg(round_.desk().DeckCount()).arg(kDeckSize));
+  const int count = round_.desk().DeckCount();
+  ShowValue(*lblDeckCount_, u"Cards in the deck", QStringLiteral("Deck %1/%2").arg(count).arg(kDeckSize),
+            QStringLiteral("%1 of %2").arg(count).arg(kDeckSize));
 }
 
 void frmCards::RefreshShop() {
   const TradeArea shop = round_.desk().Shop();
-  for (QWidget* part : std::initializer_list<QWidget*>{lblBuyorSell_, lblCost_, lblAmountHeader_, lblAmount_,
-                                                       lblRefusal_, cmdTrade_}) {
+  for (QWidget* part :
+       std::initializer_list<QWidget*>{lblBuyorSell_, lblCost_, lblAmountHeader_, lblAmount_, cmdTrade_}) {
     part->setVisible(shop.shown);
   }
   ctlTrade_->setVisible(shop.shown && !shop.card.empty());
   if (!shop.card.empty()) ctlTrade_->setCard(shop.card.text());
   lblBuyorSell_->setText(ToQString(shop.priceHeader));
-  lblCost_->setText(QString::fromStdString(shop.price));
+  ShowValue(*lblCost_, u"Price", QString::fromStdString(shop.price), SpokenAmount(shop.price));
   lblAmountHeader_->setText(ToQString(shop.amountHeader));
-  lblAmount_->setText(QString::fromStdString(shop.amount));
+  ShowValue(*lblAmount_, u"Number of copies", QString::fromStdString(shop.amount), SpokenAmount(shop.amount));
   cmdTrade_->setCaption(ToQString(shop.caption));
+  lblRefusal_->setVisible(shop.shown && !shop.refusal.empty());
   lblRefusal_->setText(ToQString(shop.refusal));
+  lblRefusal_->setAccessibleName(lblRefusal_->text());
   cmdTrade_->setEnabled(!shop.card.empty() && shop.refusal.empty());
 }
 
@@ -176,10 +191,10 @@ void frmCards::RefreshButtons() {
   const bool stake = settled && cards_.game.Mode != kModeDeckConfig && cards_.game.Mode != kModeNetworkArcade;
   lblWagerHeader_->setVisible(stake);
   lblWager_->setVisible(stake);
-  lblWager_->setText(QString::number(cards_.game.Wager));
+  ShowValue(*lblWager_, u"Stake", QString::number(cards_.game.Wager));
   lblCreditHeader_->setVisible(settled && cards_.game.Mode != kModeNetworkArcade);
   lblCredits_->setVisible(lblCreditHeader_->isVisibleTo(this));
-  lblCredits_->setText(QString::number(round_.desk().Credits()));
+  ShowValue(*lblCredits_, u"Credits", QString::number(round_.desk().Credits()));
 }
 
 void frmCards::paintEvent(QPaintEvent* event) {

@@ -253,8 +253,12 @@ void ctlCard::mouseReleaseEvent(QMouseEvent* event) {
   if (rect().contains(event->position().toPoint()) && Click) Click();
 }
 
-void ctlCard::mouseDoubleClickEvent(QMouseEvent*) {
+void ctlCard::DoPress() {
   if (DblClick) DblClick();
+}
+
+void ctlCard::mouseDoubleClickEvent(QMouseEvent*) {
+  DoPress();
 }
 
 }  // namespace kv

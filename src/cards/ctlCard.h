@@ -10,12 +10,13 @@
 
 #include "cards/CardFaces.h"
 #include "cards/PulsingCard.h"
+#include "platform/Pressable.h"
 
 namespace kv {
 
 class PropertyBag;
 
-class ctlCard final : public QWidget, public PulsingCard {
+class ctlCard final : public QWidget, public PulsingCard, public Pressable {
  public:
   /// Raised with the position inside the card.
   using PointerEvent =
@@ -49,6 +50,10 @@ class ctlCard final : public QWidget, public PulsingCard {
 
   /// What the card is to a person who cannot see it: "hand card 2".
   void setPlace(const QString& place);
+
+  /// Whether a double-click does anything, and that double-click.
+  [[nodiscard]] bool pressable() const override { return static_cast<bool>(DblClick); }
+  void DoPress() override;
 
   /// The picture the control shows, at this device pixel ratio.
   [[nodiscard]] QImage Surface(qreal ratio) const;

@@ -16,9 +16,10 @@ constexpr std::string_view kLineBreak = "\r\n";
 
 }  // namespace
 
-ctlChat::ctlChat(QWidget* parent, Layout& layout, MatchNetwork& network)
+ctlChat::ctlChat(QWidget* parent, Layout& layout, MatchNetwork& network, Announcer& announcer)
     : QWidget(parent),
       network_(network),
+      announcer_(announcer),
       look_(layout.bag(u"ctlChat")),
       txtNetwork_(new QPlainTextEdit(this)),
       txtSend_(new QLineEdit(this)) {
@@ -43,7 +44,9 @@ void ctlChat::txtNetwork_Change(const std::string& log) {
   const bool grown = !shown_.empty() && log.starts_with(shown_ + std::string(kLineBreak));
   if (grown) {
     // A peer that talks without end must not have the whole log laid out anew for every line.
-    txtNetwork_->appendPlainText(QString::fromStdString(log.substr(shown_.size() + kLineBreak.size())));
+    const std::string added = log.substr(shown_.size() + kLineBreak.size());
+    txtNetwork_->appendPlainText(QString::fromStdString(added));
+    announcer_.Announce(added, Urgency::Polite);
   } else {
     txtNetwork_->setPlainText(QString::fromStdString(log));
   }
@@ -59,6 +62,10 @@ void ctlChat::txtSend_KeyPress() {
 }
 
 void ctlChat::keyPressEvent(QKeyEvent* event) {
+  // Nobody writes with a function key: the table can be heard while a line is begun.
+  const bool functionKey = event->key() >= Qt::Key_F1 && event->key() <= Qt::Key_F12;
+  event->setAccepted(!functionKey);
+  if (functionKey) return;
   // What is typed here is no key of the screen around it. Escape takes the line back and leaves it; what it
   // means to the screen it means only from there, for nobody who is writing wants to leave the game.
   event->accept();

@@ -7,15 +7,16 @@
 #include <QWidget>
 
 #include "match/MatchPartners.h"
+#include "platform/Announcer.h"
 #include "presentation/Layout.h"
 
 namespace kv {
 
 class ctlChat final : public QWidget {
  public:
-  /// Takes "ctlChat", "txtNetwork" and "txtSend" from the layout and shows the log of `network`, which must
-  /// outlive it, until another chat does.
-  ctlChat(QWidget* parent, Layout& layout, MatchNetwork& network);
+  /// Takes "ctlChat", "txtNetwork" and "txtSend" from the layout and shows the log of `network` until
+  /// another chat does; both must outlive it. Every line that comes is told.
+  ctlChat(QWidget* parent, Layout& layout, MatchNetwork& network, Announcer& announcer);
 
   [[nodiscard]] QPlainTextEdit& txtNetwork() { return *txtNetwork_; }
   [[nodiscard]] QLineEdit& txtSend() { return *txtSend_; }
@@ -33,6 +34,7 @@ class ctlChat final : public QWidget {
   void txtSend_KeyPress();
 
   MatchNetwork& network_;
+  Announcer& announcer_;
   const PropertyBag look_;
   std::string shown_;           // the log as it stands in txtNetwork
   QPlainTextEdit* txtNetwork_;  // children

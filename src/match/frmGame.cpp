@@ -57,7 +57,7 @@ void frmGame::BuildControls() {
   cmdForfeit_ = NewMatchButton(u"cmdForfeit", [this] { engine_.person().Forfeit(); });
   if (services_.game.isNetwork()) {
     GrowBelow(layout().rect(u"ctlChat").height());
-    chat_ = new ctlChat(this, layout(), services_.network);
+    chat_ = new ctlChat(this, layout(), services_.network, services_.announcer);
   }
   ctlTitlebar_ = NewTitlebar();
   ctlTitlebar_->Quit = [this] { engine_.person().Forfeit(); };

@@ -67,7 +67,11 @@ class frmGame final : public Screen, private MatchView {
   ctlButton* NewMatchButton(QStringView control, std::function<void()> click);
   /// True when the key was one of the player's game keys; nothing else is done with it then.
   bool GameKey(const QKeyEvent& event);
-  /// The keys by which everything is reached without a mouse: arrows, and Escape to give up the match.
+  /// The whole table, and the hand, in words.
+  [[nodiscard]] std::string SpokenTable() const;
+  [[nodiscard]] std::string SpokenHand() const;
+  /// The keys by which everything is reached without a mouse or a look: arrows, Escape to give up the match,
+  /// F2 and F3 to hear table and hand.
   bool FocusKey(const QKeyEvent& event);
 
   frmGameServices services_;

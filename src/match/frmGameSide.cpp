@@ -65,6 +65,7 @@ void frmGameSide::BuildLight(Layout& layout, const frmGameServices& services) {
   light_ = new FadeTarget(&container_);
   layout.Place(control, *light_);
   RepaintLight();
+  TellLight(false);
 }
 
 void frmGameSide::BuildOpponentHand() {
@@ -149,6 +150,12 @@ void frmGameSide::HidePortrait() {
 
 void frmGameSide::RepaintLight() {
   light_->setPicture(unlit_);
+}
+
+void frmGameSide::TellLight(bool on) {
+  const QString whose = seat_ == Seat::Player ? QStringLiteral("Your") : QStringLiteral("Opponent's");
+  light_->setAccessibleName(whose + QStringLiteral(" turn light: ") +
+                            (on ? QStringLiteral("on") : QStringLiteral("off")));
 }
 
 }  // namespace kv

@@ -35,6 +35,8 @@ class frmGameSide {
   void HidePortrait();
   /// Draws the turn light unlit; the lit picture fades over it while it is on.
   void RepaintLight();
+  /// Its name says whether it is on.
+  void TellLight(bool on);
   [[nodiscard]] Effects::Pair LightPair() const { return {lit_, light_}; }
 
   [[nodiscard]] FadeTarget& light() const { return *light_; }

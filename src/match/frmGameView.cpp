@@ -58,7 +58,10 @@ void frmGame::ControlsChanged() {
 
 void frmGame::LightsChanged() {
   services_.effects.StopFade();
-  for (const Seat seat : {Seat::Player, Seat::Opponent}) side(seat).RepaintLight();
+  for (const Seat seat : {Seat::Player, Seat::Opponent}) {
+    side(seat).RepaintLight();
+    side(seat).TellLight(engine_.shown().Light(seat));
+  }
   if (engine_.shown().Light(Seat::Player)) services_.navigator.CallPlayer();
   for (const Seat seat : {Seat::Player, Seat::Opponent}) {
     if (!engine_.shown().Light(seat)) continue;
@@ -176,6 +179,12 @@ bool frmGame::FocusKey(const QKeyEvent& event) {
       // The banner waits for nothing else, wherever the focus may be.
       if (!ctlBust_->isVisible() || event.isAutoRepeat()) return false;
       ctlBust_->cmdBust().click();
+      return true;
+    case Qt::Key_F2:
+      services_.announcer.Announce(SpokenTable(), Urgency::Assertive);
+      return true;
+    case Qt::Key_F3:
+      services_.announcer.Announce(SpokenHand(), Urgency::Assertive);
       return true;
     case Qt::Key_Escape:
       if (!event.isAutoRepeat() && ctlTitlebar_->Enabled()) engine_.person().Forfeit();

@@ -7,6 +7,7 @@
 #include "platform/QtText.h"
 #include "presentation/NameText.h"
 #include "presentation/PanelPainter.h"
+#include "presentation/SpokenValue.h"
 #include "presentation/WidgetSkin.h"
 
 namespace kv {
@@ -28,8 +29,8 @@ frmNetwork::frmNetwork(const ScreenServices& services, const frmNetworkServices&
           {services.scheduler, services.dialogs, services.navigator, lobby.network, lobby.player, lifetime()},
           *this) {
   for (const char16_t* heading : kHeadings) layout().NewLabel(heading, this);
-  BuildConnection();
   BuildPlayer();
+  BuildConnection();
   BuildPlay();
   ctlTitlebar* titlebar = NewTitlebar();
   titlebar->Quit = [this] { services_.network.LeaveLobby(); };
@@ -78,7 +79,7 @@ void frmNetwork::BuildPlayer() {
 }
 
 void frmNetwork::BuildPlay() {
-  chat_ = new ctlChat(this, layout(), services_.network);
+  chat_ = new ctlChat(this, layout(), services_.network, services().announcer);
   lblState_ = layout().NewLabel(u"lblState", this);
   cmdGameMode_ = NewButton(u"cmdGameMode", [this] { lobby_.PressMode(); });
   cmdStart_ = NewButton(u"cmdStart", [this] { lobby_.PressStart(); });
@@ -101,16 +102,12 @@ void frmNetwork::Closing() {
 
 void frmNetwork::ShowPlayer() {
   const clsPlayer& player = services_.player;
-  const auto show = [](QLabel* label, const QString& heading, const QString& value) {
-    label->setText(value);
-    label->setAccessibleName(heading + QStringLiteral(": ") + value);
-  };
-  show(lblName_, QStringLiteral("Name"), QString::fromStdString(player.Name));
+  ShowValue(*lblName_, u"Name", QString::fromStdString(player.Name));
   ShowName(*lblName_, layout().bag(u"lblName"), QString::fromStdString(player.Name));
-  show(lblCredits_, QStringLiteral("Credits"), QString::number(player.Credits_MP->Value));
-  show(lblWins_, QStringLiteral("Wins"), QString::number(player.Wins_MP->Value));
-  show(lblLosses_, QStringLiteral("Losses"), QString::number(player.Losses_MP->Value));
-  show(lblDCs_, QStringLiteral("Disconnects"), QString::number(player.Disconnects));
+  ShowValue(*lblCredits_, u"Credits", QString::number(player.Credits_MP->Value));
+  ShowValue(*lblWins_, u"Wins", QString::number(player.Wins_MP->Value));
+  ShowValue(*lblLosses_, u"Losses", QString::number(player.Losses_MP->Value));
+  ShowValue(*lblDCs_, u"Disconnects", QString::number(player.Disconnects));
   bool found = false;
   imgYourPic_->setPicture(services().portraits.GetPortrait(kOwnPortrait, "", found));
   imgYourPic_->setBorder(found ? kOwnPortraitFrame : kBuiltInFrame);

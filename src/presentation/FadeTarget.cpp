@@ -33,6 +33,10 @@ void FadeTarget::Blend(const Picture& source, int alpha) {
   update();
 }
 
+void FadeTarget::DoPress() {
+  Call(Click);
+}
+
 void FadeTarget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);

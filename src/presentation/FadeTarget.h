@@ -3,12 +3,14 @@
 
 #include <QWidget>
 #include <functional>
+#include <optional>
 
 #include "platform/Picture.h"
+#include "platform/Pressable.h"
 
 namespace kv {
 
-class FadeTarget final : public QWidget {
+class FadeTarget final : public QWidget, public Pressable {
  public:
   explicit FadeTarget(QWidget* parent = nullptr);
 
@@ -24,6 +26,15 @@ class FadeTarget final : public QWidget {
   /// The opacity of the last Blend, -1 when nothing is blended.
   [[nodiscard]] int alpha() const { return alpha_; }
 
+  /// For a picture that is one of several of which one is chosen: whether it is this one.
+  void setSelected(bool selected) { selected_ = selected; }
+  [[nodiscard]] std::optional<bool> selected() const { return selected_; }
+  /// A picture that the keyboard reaches, or that can be chosen, is there to be clicked.
+  [[nodiscard]] bool pressable() const override {
+    return Click && (selected_ || focusPolicy() != Qt::NoFocus);
+  }
+  void DoPress() override;
+
  protected:
   void paintEvent(QPaintEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
@@ -35,6 +46,7 @@ class FadeTarget final : public QWidget {
   Picture picture_;
   Picture source_;
   int alpha_ = -1;
+  std::optional<bool> selected_;
 };
 
 }  // namespace kv

@@ -47,7 +47,7 @@ Screen::Screen(const ScreenServices& services, std::string_view name, std::strin
       })) {
   setObjectName(ToQString(name));
   setMouseTracking(true);
-  setFocusPolicy(Qt::StrongFocus);
+  setFocusPolicy(Qt::ClickFocus);  // it has the keys while nothing else has, and is no stop of Tab's
   setFixedSize(layout_.size());
   const PropertyBag window = layout_.has(u"window") ? layout_.bag(u"window") : PropertyBag();
   if (window.has(u"picture")) background_ = TintedPicture(window.number(u"picture"));

@@ -99,6 +99,10 @@ void frmMenu::keyPressEvent(QKeyEvent* event) {
   const bool held = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
   const QString text = event->text();
   const std::array<ctlButton*, 5> buttons = {cmdPlayer_, cmdArcade_, cmdCampaign_, cmdNetwork_, cmdOptions_};
+  if (event->key() == Qt::Key_Escape && !held && !event->isAutoRepeat()) {
+    ChangePlayer();
+    return;
+  }
   const int digit = text.size() == 1 ? text.front().unicode() - u'0' : -1;
   if (held || event->isAutoRepeat() || digit < 0 || digit >= static_cast<int>(buttons.size())) {
     Screen::keyPressEvent(event);

@@ -100,6 +100,7 @@ void frmOptions::getKey(int index) {
   setFocus();
   frmeKeys_->BeginWaiting(index);
   waiting_ = index;
+  Announce(frmeKeys_->Title().toStdString(), Urgency::Assertive);
 }
 
 void frmOptions::KeyDown(const QKeyEvent& key) {
@@ -113,7 +114,9 @@ void frmOptions::KeyCaught(std::int16_t keyCode) {
   waiting_.reset();
   frmeKeys_->Bind(index, keyCode == KeyEscape ? kNoKey : keyCode);
   if (keyCode == KeyAlt) services().dialogs.Message(kAltWarning, kAltTitle, DialogIcon::Critical);
-  if (!closing()) frmeKeys_->EndWaiting();
+  if (closing()) return;
+  frmeKeys_->EndWaiting();
+  Announce(frmeKeys_->cmdKey(index).accessibleName().toStdString());
 }
 
 // --- The ways out ----------------------------------------------------------------------------------------

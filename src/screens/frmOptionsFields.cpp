@@ -70,10 +70,10 @@ frmOptionsFields::frmOptionsFields(QWidget& frame, Layout& layout, std::function
   AddList(kArcadeOpp, frame, layout);
   AddList(kArcadeAI, frame, layout);
   AddChecks(0, kFirstMute, frame, layout);
-  AddTurnSystems(frame, layout);
   AddList(kSpeed, frame, layout);
   AddList(kInterface, frame, layout);
   AddChecks(kFirstMute, kKeysCheck, frame, layout);
+  AddTurnSystems(frame, layout);
   AddChecks(kKeysCheck, kOptionChecks, frame, layout);
 }
 

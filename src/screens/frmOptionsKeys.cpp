@@ -116,6 +116,10 @@ void frmOptionsKeys::EndWaiting() {
   waited.setFocus();
 }
 
+QString frmOptionsKeys::Title() const {
+  return title_->text();
+}
+
 void frmOptionsKeys::ShowTitle(const QString& title) {
   title_->setText(title);
   title_->setAccessibleName(title);

@@ -41,6 +41,8 @@ class frmOptionsKeys final : public QWidget {
   }
   [[nodiscard]] ctlButton& cmdKeysDone() const { return *cmdKeysDone_; }
 
+  /// What the frame asks for at this moment.
+  [[nodiscard]] QString Title() const;
   /// From now on button `index` waits for its key: the title asks for it, and nothing can be used.
   void BeginWaiting(int index);
   /// The wait is over: title and buttons are back, and the button that waited has the focus.

@@ -1,5 +1,6 @@
 #include "screens/frmPortraits.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
@@ -10,6 +11,8 @@
 #include "platform/QtText.h"
 #include "presentation/PanelPainter.h"
 #include "presentation/PictureSizes.h"
+#include "presentation/PortraitWords.h"
+#include "screens/PortraitList.h"
 
 namespace kv {
 namespace {
@@ -59,13 +62,17 @@ void frmPortraits::BuildTiles() {
     numbers.at(static_cast<std::size_t>(tile)) = PortraitOfTile(tile);
   }
   const QRect first = layout().rect(u"imgPortrait");
+  lstPortraits_ = new PortraitList(this);
+  lstPortraits_->setFocusPolicy(Qt::StrongFocus);
+  layout().Place(u"lstPortraits", *lstPortraits_);
   const std::vector<Picture> pictures = services().portraits.GetReduced(numbers, kNobody, first.width());
   for (int tile = 0; tile < kPortraitTiles; ++tile) {
-    auto* image = new FadeTarget(this);
+    auto* image = new FadeTarget(lstPortraits_);
     image->setObjectName(QStringLiteral("imgPortrait%1").arg(tile));
-    image->setAccessibleName(NameOf(tile));
+    image->setAccessibleName(SpokenPortrait(PortraitOfTile(tile)));
+    image->setSelected(false);
     image->setGeometry(
-        first.translated(tile % kPortraitColumns * kPortraitStep, tile / kPortraitColumns * kPortraitStep));
+        QRect(QPoint(tile % kPortraitColumns, tile / kPortraitColumns) * kPortraitStep, first.size()));
     image->setPicture(pictures.at(static_cast<std::size_t>(tile)));
     image->MouseMove = [this] { PlainHighlights(); };
     image->Click = [this, tile] { Select(tile); };
@@ -80,7 +87,6 @@ void frmPortraits::BuildTiles() {
 
 void frmPortraits::BuildControls() {
   imgSelected_ = new FadeTarget(this);
-  imgSelected_->setFocusPolicy(Qt::StrongFocus);
   layout().Place(u"imgSelected", *imgSelected_);
   imgOverride_ = new FadeTarget(this);
   imgOverride_->setFocusPolicy(Qt::TabFocus);
@@ -112,16 +118,29 @@ void frmPortraits::ShowOverride() {
 }
 
 void frmPortraits::Activate() {
-  imgSelected_->setFocus();
+  lstPortraits_->setFocus();
+  TellSelected();
 }
 
 void frmPortraits::Select(int tile) {
+  tiles_.at(static_cast<std::size_t>(selected_))->setSelected(false);
   selected_ = tile;
+  tiles_.at(static_cast<std::size_t>(selected_))->setSelected(true);
   const std::array number = {PortraitOfTile(tile)};
   imgSelected_->setPicture(services().portraits.GetReduced(number, kNobody, kPortraitSide).front());
-  imgSelected_->setAccessibleName(NameOf(tile) + QStringLiteral(", selected"));
+  imgSelected_->setAccessibleName(QStringLiteral("Chosen: ") + SpokenPortrait(number.front()));
   lblSelected_->setText(NameOf(tile));
+  lblSelected_->setAccessibleName(lblSelected_->text());
   update();
+  if (lstPortraits_->hasFocus()) TellSelected();
+}
+
+void frmPortraits::TellSelected() {
+  FadeTarget* tile = tiles_.at(static_cast<std::size_t>(selected_));
+  for (const QAccessible::Event event : {QAccessible::Selection, QAccessible::Focus}) {
+    QAccessibleEvent chosen(tile, event);
+    QAccessible::updateAccessibility(&chosen);
+  }
 }
 
 void frmPortraits::paintEvent(QPaintEvent* event) {
@@ -131,12 +150,12 @@ void frmPortraits::paintEvent(QPaintEvent* event) {
     PaintPanel(painter, layout().rect(panel), layout().bag(panel));
   }
   const auto frame = [&](const QWidget& picture, QStringView bag, int width) {
-    painter.fillRect(picture.geometry().adjusted(-width, -width, width, width),
-                     layout().bag(bag).colour(u"color"));
+    const QRect area(picture.mapTo(this, QPoint()), picture.size());
+    painter.fillRect(area.adjusted(-width, -width, width, width), layout().bag(bag).colour(u"color"));
   };
   for (const FadeTarget* tile : tiles_) frame(*tile, u"frameTile", 1);
   frame(*tiles_.at(static_cast<std::size_t>(selected_)), u"frameSelected", 3);
-  frame(*imgSelected_, u"frameSelected", imgSelected_->hasFocus() ? 3 : 2);
+  frame(*imgSelected_, u"frameSelected", lstPortraits_->hasFocus() ? 3 : 2);
   if (!imgOverride_->isHidden()) frame(*imgOverride_, u"frameOverride", imgOverride_->hasFocus() ? 3 : 2);
 }
 

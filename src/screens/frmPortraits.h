@@ -15,6 +15,8 @@
 
 namespace kv {
 
+class PortraitList;
+
 struct frmPortraitsServices {
   std::string portraitFolder;
   /// Shows a folder in the system's file browser.
@@ -52,12 +54,15 @@ class frmPortraits final : public Screen {
   void Select(int tile);
   void Confirm();
   void OpenFolder();
+  /// The keys are in the list of tiles: a reader hears the one that is chosen.
+  void TellSelected();
 
   frmPortraitsServices picker_;
   clsPlayer& player_;
   PortraitCaller& caller_;
   int selected_ = 0;
-  std::array<FadeTarget*, kPortraitTiles> tiles_{};  // children
+  PortraitList* lstPortraits_ = nullptr;  // children
+  std::array<FadeTarget*, kPortraitTiles> tiles_{};
   FadeTarget* imgSelected_ = nullptr;
   QLabel* lblSelected_ = nullptr;
   FadeTarget* imgOverride_ = nullptr;

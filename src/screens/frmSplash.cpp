@@ -78,7 +78,8 @@ void frmSplash::BuildList() {
 void frmSplash::BuildCreation() {
   creation_ = std::make_unique<frmSplashCreation>(
       *this, layout(),
-      frmSplashCreation::Services{services().buttons, services().scheduler, lifetime(), splash_});
+      frmSplashCreation::Services{services().buttons, services().scheduler, services().announcer, lifetime(),
+                                  splash_});
   creation_->StepChanged = [this] { StepChanged(); };
   creation_->GivenUp = [this] { BackToList(); };
   creation_->Done = [this](const std::string& fileName, const std::string& pin) {
@@ -101,6 +102,7 @@ void frmSplash::BuildFrame() {
 }
 
 void frmSplash::ShowList(bool list) {
+  setFocus();  // what has the focus may be hidden now: it must not wander on to whatever comes next
   for (QWidget* part : std::initializer_list<QWidget*>{lblPlayerHeader_, lstPlayers_, lblPINtitle_, txtPIN_,
                                                        cmdContinue_, cmdCreate_}) {
     part->setVisible(list);
@@ -130,8 +132,13 @@ void frmSplash::keyPressEvent(QKeyEvent* event) {
       if (!event->isAutoRepeat()) cmdNew2_->click();
       return;
     case Qt::Key_Escape:
-      // The way back for someone who changed their mind; in the list there is nothing to go back to.
-      if (!event->isAutoRepeat() && creation_->StepButton() != nullptr) creation_->Back();
+      // The way back for someone who changed their mind, and from the list the way out.
+      if (event->isAutoRepeat()) return;
+      if (creation_->StepButton() != nullptr) {
+        creation_->Back();
+      } else {
+        LeaveProgram();
+      }
       return;
     case Qt::Key_Up:
     case Qt::Key_Down:

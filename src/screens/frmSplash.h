@@ -53,6 +53,7 @@ class frmSplash final : public Screen {
   void RefreshPlayerList();
   void PlayerSelected();
   void MoveSelection(int rows);
+  void TellSelected();
   void SelectPlayer(const std::string& name, const std::string& pin);
   void FocusList();
   void EnableList(bool enabled);

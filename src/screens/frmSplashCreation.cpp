@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include "presentation/SpokenValue.h"
 #include "screens/NameValidator.h"
 #include "screens/PinBox.h"
 #include "screens/PlayerFiles.h"
@@ -72,6 +73,7 @@ void frmSplashCreation::BuildFile() {
 
 void frmSplashCreation::Show(Step step) {
   step_ = step;
+  screen_.setFocus();  // what has it may be hidden now: it must not wander through the link on its way
   for (QWidget* part : std::initializer_list<QWidget*>{lblHeader_, lblCreateInfo_, cmdBack_}) {
     part->setVisible(step != Step::None);
   }
@@ -145,7 +147,12 @@ void frmSplashCreation::ShowNameInfo() {
   // The line stays while the name is typed on: whoever looks at the keys sees it when they look up.
   const QString refused =
       refused_.isEmpty() ? QString() : QStringLiteral("- cannot be stored: %1\n").arg(refused_);
-  lblCreateInfo_->setText(refused + maxLength_);
+  ShowInfo(refused + maxLength_);
+}
+
+void frmSplashCreation::ShowInfo(const QString& info) {
+  if (info != lblCreateInfo_->text()) services_.announcer.Announce(info.toStdString(), Urgency::Assertive);
+  ShowValue(*lblCreateInfo_, u"Notes", info, info.isEmpty() ? QStringLiteral("none") : info.trimmed());
 }
 
 // --- The file's name and PIN -----------------------------------------------------------------------------
@@ -173,7 +180,7 @@ void frmSplashCreation::CheckFileName() {
   QString info;
   if (exists) info += QStringLiteral("- file of already exists\n");
   if (!valid) info += QStringLiteral("- invalid char: \\  /  :  *  ?  \"  <  >  |\n");
-  lblCreateInfo_->setText(info + MaxLengthLine(*txtName_));
+  ShowInfo(info + MaxLengthLine(*txtName_));
   StepChanged();
 }
 
@@ -183,6 +190,7 @@ void frmSplashCreation::TrimFileName() {
 
 void frmSplashCreation::NewFile() {
   TrimFileName();
+  screen_.setFocus();  // else it would wander to the link
   for (ctlButton* button : {cmdNewFile_, cmdBack_}) button->setEnabled(false);  // while a box is open
   StepChanged();
   const std::string name = txtName_->text().toStdString();

@@ -9,6 +9,7 @@
 #include <functional>
 #include <string>
 
+#include "platform/Announcer.h"
 #include "platform/Scheduler.h"
 #include "presentation/Layout.h"
 #include "presentation/ctlButton.h"
@@ -27,6 +28,7 @@ class frmSplashCreation final {
   struct Services {
     ButtonContext& buttons;
     Scheduler& scheduler;
+    Announcer& announcer;
     const Lifetime& lifetime;  // of the screen
     const frmSplashServices& splash;
   };
@@ -61,6 +63,7 @@ class frmSplashCreation final {
   void CheckPlayerName();
   void NoteRefused(const QString& letters);
   void ShowNameInfo();
+  void ShowInfo(const QString& info);
   void NewName();
   void CheckFileName();
   void TrimFileName();

@@ -42,6 +42,13 @@ void frmSplash::PlayerSelected() {
 void frmSplash::MoveSelection(int rows) {
   if (!lstPlayers_->isEnabled()) return;
   lstPlayers_->setCurrentRow(std::clamp(lstPlayers_->currentRow() + rows, 0, lstPlayers_->count() - 1));
+  // The list has not got the focus, so that nothing else tells of it.
+  TellSelected();
+}
+
+void frmSplash::TellSelected() {
+  const QListWidgetItem* item = lstPlayers_->currentItem();
+  if (item != nullptr) Announce(item->text().toStdString() + " is selected.");
 }
 
 void frmSplash::FocusList() {
@@ -49,11 +56,12 @@ void frmSplash::FocusList() {
   if (lstPlayers_->isEnabled()) {
     txtPIN_->setFocus();
   } else {
-    setFocus();
+    cmdCreate_->setFocus();
   }
 }
 
 void frmSplash::EnableList(bool enabled) {
+  if (!enabled) setFocus();  // else it would wander to the link below
   lstPlayers_->setEnabled(enabled);
   txtPIN_->setEnabled(enabled);
   cmdContinue_->setEnabled(enabled);
@@ -110,6 +118,7 @@ void frmSplash::SelectPlayer(const std::string& name, const std::string& pin) {
   if (row == files.size()) return;
   lstPlayers_->setCurrentRow(static_cast<int>(row));
   txtPIN_->setPIN(pin);
+  TellSelected();
 }
 
 void frmSplash::BackToList() {

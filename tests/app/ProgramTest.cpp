@@ -161,7 +161,46 @@ TEST_F(ProgramTest, EveryControlOfEveryScreenHasANameAndARole) {
   QAccessibleInterface* card = QAccessible::queryAccessibleInterface(&Match().hand().ctlYourDeck(1));
   const std::size_t cards = Match().engine().shown().Table(Seat::Player).size();
   card->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  QCoreApplication::processEvents();
   EXPECT_EQ(Match().engine().shown().Table(Seat::Player).size(), cards + 1);
+}
+
+TEST_F(ProgramTest, APressByAScreenReaderDoesNotWaitForTheBoxThatItOpens) {
+  InstallAccessibleRoles();
+  MakePlayer("ann");
+  Start();
+  EnterMenu("ann");
+  auto& button = Control<QWidget>("cmdPlayer");
+  QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&button);
+  dialogs.answers = {false};
+  spoken->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_TRUE(dialogs.boxes.empty()) << "the reader would wait until it is answered";
+  QCoreApplication::processEvents();
+  EXPECT_EQ(dialogs.boxes.size(), 1U);
+  spoken->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  button.setEnabled(false);  // before it comes to that
+  QCoreApplication::processEvents();
+  EXPECT_EQ(dialogs.boxes.size(), 1U);
+}
+
+TEST_F(ProgramTest, TheWindowTheTitleBarAndTheStakeAreKnownForWhatTheyAre) {
+  InstallAccessibleRoles();
+  MakePlayer("ann");
+  Start();
+  EnterMenu("ann");
+  Click("cmdArcade");
+  const auto spoken = [](QWidget& widget) { return QAccessible::queryAccessibleInterface(&widget); };
+  EXPECT_EQ(spoken(program->stage())->role(), QAccessible::Window);
+  EXPECT_EQ(spoken(Control<QWidget>("ctlTitlebar"))->role(), QAccessible::TitleBar);
+  EXPECT_EQ(spoken(Control<QWidget>("ctlTitlebar"))->text(QAccessible::Name),
+            QStringLiteral("Arcade Match: Select Cards"));
+  EXPECT_EQ(spoken(Control<QWidget>("ctlWager"))->text(QAccessible::Name),
+            QStringLiteral("how much do you wager?"));
+  QAccessibleInterface* fill = spoken(Control<QWidget>("lblWagerCredits"));
+  EXPECT_EQ(fill->role(), QAccessible::Button);
+  fill->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Control<QLineEdit>("txtWager").text(), QStringLiteral("100"));
 }
 
 /// Clicks and keys anywhere at any time, on whatever screen is open: the program neither falls nor hangs, a

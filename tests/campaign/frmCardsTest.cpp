@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
+#include <QRegularExpression>
 #include <filesystem>
 #include <functional>
 
@@ -64,6 +65,9 @@ class CardsScreenTest : public testing::TestWithParam<const char*> {
   }
   [[nodiscard]] ctlButton& Button(const char* name) {
     return dynamic_cast<ctlButton&>(*screen->findChild<QWidget*>(QString::fromUtf8(name)));
+  }
+  [[nodiscard]] QWidget& Label(const char* name) {
+    return *screen->findChild<QWidget*>(QString::fromUtf8(name));
   }
   [[nodiscard]] const std::vector<std::string>& asked() const { return stage.recorded.calls; }
 
@@ -225,6 +229,55 @@ TEST_P(CardsScreenTest, TheTitleBarAsksOnlyWhenAMatchIsAtStake) {
   EXPECT_TRUE(screen->wager().isHidden());
   Click(Button("cmdContinue"));
   EXPECT_EQ(asked(), std::vector<std::string>{"OpenCampaign"});
+}
+
+TEST_P(CardsScreenTest, WhatTheDeskDoesIsTold) {
+  Open(kModeCampaign);
+  SetStake("20");
+  EXPECT_EQ(stage.announcer.Last(), "Stake 20.");
+  Click(screen->ctlDeck(1));
+  EXPECT_EQ(stage.announcer.Last(), "plus 1 removed. 9 of 10 cards.");
+  Click(*screen->Bank({2, 6}));
+  EXPECT_EQ(stage.announcer.Last(), "minus 6 added. 10 of 10 cards.");
+  Key(Qt::Key_2);
+  Click(*screen->Bank({1, 1}));
+  EXPECT_EQ(stage.announcer.Last(), "plus 1. Price 600. 2 owned.");
+  EXPECT_EQ(Label("lblCost").accessibleName(), QStringLiteral("Price: 600"));
+  Click(Button("cmdTrade"));
+  EXPECT_EQ(stage.announcer.Last(), "Bought plus 1. 80 credits.");
+  EXPECT_EQ(Label("lblCredits").accessibleName(), QStringLiteral("Credits: 80"));
+  EXPECT_EQ(Label("lblDeck").accessibleName(), QStringLiteral("Cards in the deck: 10 of 10"));
+}
+
+TEST_P(CardsScreenTest, EscapeEndsAnArcadeRunOnlyAfterAQuestion) {
+  Open(kModeArcade);
+  stage.dialogs.answers = {false, true};
+  Key(Qt::Key_Escape);
+  EXPECT_EQ(stage.dialogs.boxes.size(), 1U);
+  EXPECT_TRUE(asked().empty());
+  Key(Qt::Key_Escape);
+  EXPECT_EQ(asked(), std::vector<std::string>{"OpenMenu"});
+}
+
+TEST_P(CardsScreenTest, TabGoesFromTheCollectionOverItsButtonsToTheDeckAndOn) {
+  Open(kModeCampaign);
+  SetStake("20");
+  Click(screen->ctlDeck(10));
+  Click(*screen->Bank({2, 6}));
+  screen->setFocus();
+  std::vector<std::string> stops;
+  for (int step = 0; step < 60; ++step) {
+    Key(Qt::Key_Tab);
+    QWidget* focus = screen->focusWidget();
+    EXPECT_NE(focus, screen.get()) << "the bare window is no stop";
+    const std::string kind =
+        focus->objectName().remove(QRegularExpression(QStringLiteral("\\d+$"))).toStdString();
+    if (stops.empty() || stops.back() != kind) stops.push_back(kind);
+    if (kind == "cmdContinue") break;
+  }
+  const std::vector<std::string> order = {"cmdBuy", "cmdSell", "ctlDeck", "cmdContinue"};
+  ASSERT_GE(stops.size(), order.size());
+  EXPECT_EQ(std::vector(stops.end() - static_cast<std::ptrdiff_t>(order.size()), stops.end()), order);
 }
 
 /// Every way out while a stake is open: a no changes nothing, a yes gives the match up.

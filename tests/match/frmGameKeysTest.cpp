@@ -58,5 +58,28 @@ TEST_P(frmGameKeysTest, ARepeatedEnterOrEscapeNeitherPlaysNorConfirmsNorAsks) {
   EXPECT_EQ(match.recorded.Count("LeaveMatch"), 0);
 }
 
+TEST_P(frmGameKeysTest, TableAndHandAreToldAgainByAKeyEach) {
+  MatchScreen& match = Begin({4});
+  ScreenHand(*match.screen).Key(Qt::Key_F2);
+  EXPECT_EQ(match.announcer.Last(),
+            "Your table: 4, total 4. Opponent's table: no cards, total 0. 4 cards in the opponent's hand. "
+            "Sets 0 to 0. Your turn.");
+  ScreenHand(*match.screen).Key(Qt::Key_F3);
+  EXPECT_EQ(match.announcer.Last().substr(0, 26), "Your hand: card 1: plus 3,");
+  EXPECT_EQ(match.screen->side(Seat::Player).light().accessibleName(), QStringLiteral("Your turn light: on"));
+}
+
+TEST_P(frmGameKeysTest, AKeyThatThePlayerHasBoundIsNoKeyToHear) {
+  constexpr std::int16_t kF2 = 113;
+  MatchScreenSetup setup = Setup({4});
+  setup.options = [](clsPlayer& player) { player.Keys->setValue(1, 2, kF2); };
+  MatchScreen match(setup);
+  match.Begin();
+  match.announcer.told.clear();
+  ScreenHand(*match.screen).Key(Qt::Key_F2);
+  EXPECT_TRUE(match.engine().PlayerStood());
+  EXPECT_NE(match.announcer.Last().substr(0, 10), "Your table");
+}
+
 }  // namespace
 }  // namespace kv

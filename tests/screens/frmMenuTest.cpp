@@ -215,6 +215,16 @@ TEST_F(frmMenuTest, ResetsAreReachedByKeyboardAndTheCampaignsOnlyWhenItIsLost) {
   EXPECT_EQ(stage.dialogs.boxes.size(), 2U);
 }
 
+TEST_F(frmMenuTest, EscapeLeadsBackToThePlayersAfterAQuestion) {
+  Open();
+  calls().clear();
+  stage.dialogs.answers = {false, true};
+  hand->Key(Qt::Key_Escape);
+  EXPECT_THAT(calls(), IsEmpty());
+  hand->Key(Qt::Key_Escape);
+  EXPECT_THAT(calls(), ElementsAre("OpenSplash"));
+}
+
 TEST_F(frmMenuTest, ClosingPlaysTheFarewellAndASecondCloseEndsAtOnce) {
   player().Mute_Events_Opt = true;
   Open();

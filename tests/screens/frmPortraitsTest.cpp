@@ -3,6 +3,7 @@
 
 #include <QImage>
 #include <QLabel>
+#include <set>
 
 #include "screens/frmPortraits.h"
 #include "support/ScreenHand.h"
@@ -154,6 +155,21 @@ TEST_F(frmPortraitsTest, AnOwnPictureIsShownWinsAndOpensItsFolder) {
   EXPECT_EQ(stage.player.Portrait, 13);
   ASSERT_EQ(caller.chosen.size(), 1U);
   EXPECT_EQ(QColor(caller.chosen[0].image()->pixel(0, 0)), QColor(Qt::red));
+}
+
+TEST_F(frmPortraitsTest, EveryTileSaysWhatIsOnItAndWhetherItIsChosen) {
+  Open(12);
+  std::set<QString> words;
+  for (int tile = 0; tile < kPortraitTiles; ++tile) {
+    const FadeTarget& image = picker->imgPortrait(tile);
+    EXPECT_EQ(image.selected(), tile == 3) << tile;
+    EXPECT_TRUE(image.accessibleName().contains(QStringLiteral(", a"))) << tile;
+    words.insert(image.accessibleName().section(u',', 1));
+  }
+  EXPECT_EQ(words.size(), static_cast<std::size_t>(kPortraitTiles)) << "no two alike";
+  hand->Key(Qt::Key_Right);
+  EXPECT_FALSE(*picker->imgPortrait(3).selected());
+  EXPECT_TRUE(*picker->imgPortrait(4).selected());
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -340,12 +341,47 @@ TEST_F(frmSplashTest, LinkAndWindowButtonsDoWhatTheySay) {
   EXPECT_EQ(Find<QAbstractButton>("lblURL").text().toStdString(), "Web: kelm-vantri.example");
   hand->Click(Find<QAbstractButton>("lblURL"));
   EXPECT_EQ(opened, "http://kelm-vantri.example");
-  hand->Key(Qt::Key_Escape);
   EXPECT_THAT(stage.recorded.calls, IsEmpty());
   hand->Click(Find<QAbstractButton>("cmdQuit"));
   EXPECT_THAT(stage.recorded.calls, ElementsAre("EndProgram"));
+  hand->Key(Qt::Key_Escape);
+  EXPECT_THAT(stage.recorded.calls, ElementsAre("EndProgram", "EndProgram"));
   hand->Click(Find<QAbstractButton>("cmdMini"));
   EXPECT_TRUE(splash->isMinimized());
+}
+
+TEST_F(frmSplashTest, TheFocusOfTheCreationGoesStraightToWhatIsTypedNext) {
+  PutPlayer("ann", "");
+  Open();
+  std::vector<std::string> had;
+  const auto watch =
+      QObject::connect(qApp, &QApplication::focusChanged, splash.get(), [&](QWidget*, QWidget* now) {
+        if (now != nullptr && now != splash.get()) had.push_back(now->objectName().toStdString());
+      });
+  hand->Click(Button("cmdCreate"));
+  Type("bob");
+  Enter();
+  Enter();
+  QObject::disconnect(watch);
+  EXPECT_THAT(had, ElementsAre("txtPlayer", "txtName", "txtPIN"));
+  EXPECT_EQ(stage.announcer.Last(), "bob is selected.");
+  hand->Key(Qt::Key_Up);
+  EXPECT_EQ(stage.announcer.Last(), "ann is selected.") << "the keys are in the box beside the list";
+}
+
+TEST_F(frmSplashTest, WhatIsWrongWithANameIsTold) {
+  Open();
+  hand->Click(Button("cmdCreate"));
+  Type("a");
+  EXPECT_EQ(Find<QLabel>("lblCreateInfo").accessibleName(), QStringLiteral("Notes: none"));
+  Enter();
+  Type("/");
+  EXPECT_THAT(stage.announcer.Last(), testing::HasSubstr("- invalid char"));
+  EXPECT_THAT(Find<QLabel>("lblCreateInfo").accessibleName().toStdString(),
+              testing::HasSubstr("- invalid char"));
+  const std::size_t told = stage.announcer.told.size();
+  Type("/");
+  EXPECT_EQ(stage.announcer.told.size(), told) << "it is said once";
 }
 
 }  // namespace

@@ -1,8 +1,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "packing/Catalogue.h"
 #include "portraits/Table.h"
+#include "presentation/PortraitWords.h"
 
 namespace kv::datafile {
 namespace {
@@ -56,6 +59,14 @@ TEST(PortraitTable, HasARowForEveryPictureAndAPictureForEveryRow) {
   EXPECT_THAT(Catalogue(rows).Fault(), HasSubstr("portrait 66 has a row"));
   rows.pop_back();
   EXPECT_THAT(Catalogue(rows).Fault(), HasSubstr("portrait 65 has a picture number, but no row"));
+}
+
+TEST(PortraitTable, HasWordsForEveryRowAndForNoOtherNumber) {
+  std::set<int> painted;
+  for (const BustSpec& row : ReadBusts().rows) painted.insert(row.number);
+  for (int number = 0; number < 100; ++number) {
+    EXPECT_EQ(!PortraitWords(number).isEmpty(), painted.contains(number)) << number;
+  }
 }
 
 }  // namespace
