@@ -56,6 +56,7 @@ Program::Program(const ProgramServices& services, const ProgramFolders& folders)
                                             })),
       tmrSounds_(services.scheduler.NewTimer(kSoundsDelay, [this] { LoadSounds(); })) {
   BuildStage();
+  services_.sound.setVolume(settings_.volume());
   globals_.Off = [this] { EndProgram(); };
   globals_.ReloadCards = [this] { OpenCards(); };
 }
@@ -157,12 +158,13 @@ void Program::OpenSplash() {
         Services(),
         frmSplashServices{folders_.player,
                           [this] { return std::make_unique<clsPlayer>(dialogs_, services_.random); },
-                          services_.openAddress});
+                          services_.openAddress, settings_.lastPlayer()});
   });
 }
 
 void Program::PlayerLoaded(std::unique_ptr<clsPlayer> player) {
   player_ = std::move(player);
+  settings_.setLastPlayer(std::filesystem::path(player_->FileName).stem().string());
   sounds_.setPlayer(player_.get());
   buttons_.setPlayer(player_.get());
 }
@@ -174,7 +176,11 @@ void Program::OpenMenu() {
 }
 
 void Program::OpenOptions() {
-  Show([this] { return std::make_shared<frmOptions>(Services(), *player_); });
+  Show([this] {
+    return std::make_shared<frmOptions>(
+        Services(),
+        frmOptionsServices{*player_, settings_, [this](int percent) { services_.sound.setVolume(percent); }});
+  });
 }
 
 void Program::OpenCampaign() {

@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QSlider>
 #include <QStringList>
 
 namespace kv {
@@ -97,6 +98,22 @@ struct Look {
                .arg(text, solid, accent, select, selectText);
   }
 
+  // The way behind the handle is filled, so that the value is seen without a look at the colours.
+  [[nodiscard]] QString Slider() const {
+    return QStringLiteral(
+               "QSlider{background:transparent}"
+               "QSlider::groove:horizontal{height:4px;background:%1;border:1px solid %2;border-radius:2px}"
+               "QSlider::sub-page:horizontal{background:%2;border:1px solid %2;border-radius:2px}"
+               "QSlider::handle:horizontal{width:8px;margin:-6px 0;background:%3;border:1px solid "
+               "%2;border-radius:%4}")
+               .arg(fill, border, text, corners) +
+           QStringLiteral(
+               "QSlider::handle:horizontal:hover,QSlider::handle:horizontal:focus{background:%1;border-color:"
+               "%2}"
+               "QSlider::handle:horizontal:disabled{background:%3}")
+               .arg(accent, text, disabled);
+  }
+
   QString text;
   QString border;
   QString accent;
@@ -121,6 +138,7 @@ QString SheetFor(const QWidget& widget, const Look& look) {
     return look.List(QStringLiteral("QAbstractItemView")) + look.ScrollBar();
   }
   if (qobject_cast<const QComboBox*>(&widget) != nullptr) return look.Combo() + look.ScrollBar();
+  if (qobject_cast<const QSlider*>(&widget) != nullptr) return look.Slider();
   if (widget.inherits("QRadioButton")) {
     return look.Mark(QStringLiteral("QRadioButton"), QStringLiteral("6px"));
   }

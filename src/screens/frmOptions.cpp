@@ -24,10 +24,11 @@ constexpr const char* kAltWarning =
 
 }  // namespace
 
-frmOptions::frmOptions(const ScreenServices& services, clsPlayer& player)
-    : Screen(services, "frmOptions", player.Interface_Opt),
-      player_(player),
-      portraitBefore_(player.Portrait),
+frmOptions::frmOptions(const ScreenServices& services, const frmOptionsServices& options)
+    : Screen(services, "frmOptions", options.player.Interface_Opt),
+      options_(options),
+      player_(options.player),
+      portraitBefore_(options.player.Portrait),
       tmrKeys_(NewTimer(1, [this] {
         tmrKeys_->setEnabled(false);
         frmeOptions_->setEnabled(false);

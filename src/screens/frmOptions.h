@@ -4,11 +4,13 @@
 
 #include <QString>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 
 #include "presentation/PortraitCaller.h"
 #include "presentation/Screen.h"
+#include "profile/Settings.h"
 #include "profile/clsPlayer.h"
 
 class QLineEdit;
@@ -22,10 +24,17 @@ class frmOptionsKeys;
 class frmOptionsPortrait;
 class frmOptionsSize;
 
+struct frmOptionsServices {
+  clsPlayer& player;
+  Settings& settings;
+  /// Makes all sounds louder or softer from now on, 0 to 100 percent.
+  std::function<void(int percent)> setVolume{};
+};
+
 class frmOptions final : public Screen, public PortraitCaller {
  public:
-  /// In the player's interface style, filled from the record. `player` must outlive the screen.
-  frmOptions(const ScreenServices& services, clsPlayer& player);
+  /// In the player's interface style, filled from the record. Player and settings must outlive the screen.
+  frmOptions(const ScreenServices& services, const frmOptionsServices& options);
   ~frmOptions() override;
 
   /// Leaves the program; the record stays as it was when the screen was opened.
@@ -44,6 +53,7 @@ class frmOptions final : public Screen, public PortraitCaller {
  private:
   void BuildControls();
   void BuildPlayer();
+  void BuildVolume();
   void BuildKeys();
   ctlButton* NewFrameButton(QStringView control, std::function<void()> click);
   void FillControls();
@@ -61,6 +71,7 @@ class frmOptions final : public Screen, public PortraitCaller {
   void StoreControls();
   void Cancel();
 
+  const frmOptionsServices options_;
   clsPlayer& player_;
   std::int16_t portraitBefore_;  // the picker changes the record at once; without OK it is put back
   std::optional<int> waiting_;   // the key button that waits for its key

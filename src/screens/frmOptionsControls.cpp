@@ -14,6 +14,7 @@
 #include "screens/frmOptionsKeys.h"
 #include "screens/frmOptionsPortrait.h"
 #include "screens/frmOptionsSize.h"
+#include "screens/frmOptionsVolume.h"
 #include "screens/modShowPIN.h"
 
 namespace kv {
@@ -37,6 +38,7 @@ void frmOptions::BuildControls() {
   for (const QStringView label : kLabels) layout().NewLabel(label, frmeOptions_);
   BuildPlayer();
   fields_ = std::make_unique<frmOptionsFields>(*frmeOptions_, layout(), [this] { PlayEffect("check"); });
+  BuildVolume();
   cmdKeys_ = NewFrameButton(u"cmdKeys", [this] { ShowKeyFrame(); });
   QObject::connect(&fields_->chkKeys(), &QCheckBox::clicked, this,
                    [this](bool checked) { cmdKeys_->setEnabled(checked); });
@@ -65,6 +67,17 @@ void frmOptions::BuildPlayer() {
   layout().Place(u"lblPINReveal", *reveal);
   QObject::connect(reveal, &QAbstractButton::clicked, this,
                    [this] { RevealPIN(*txtPIN_, services().scheduler, lifetime()); });
+}
+
+void frmOptions::BuildVolume() {
+  auto* volume = new frmOptionsVolume(*frmeOptions_, layout(), options_.settings.volume());
+  volume->Changed = [this](int percent) {
+    options_.settings.setVolume(percent);
+    if (options_.setVolume) options_.setVolume(percent);
+    PlayEffect("check");
+  };
+  // With the other sounds, in front of the hotkeys that follow them.
+  QWidget::setTabOrder(&fields_->chkLastMute(), volume);
 }
 
 void frmOptions::BuildKeys() {

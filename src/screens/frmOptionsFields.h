@@ -31,6 +31,7 @@ class frmOptionsFields {
   void Write(PlayerFields& fields) const;
 
   [[nodiscard]] QCheckBox& chkKeys() const { return *checks_.back(); }
+  [[nodiscard]] QCheckBox& chkLastMute() const { return *checks_.at(kOptionChecks - 2); }
   [[nodiscard]] QListWidget& lstArcadeOpp() const { return *lists_.front(); }
 
  private:

@@ -52,7 +52,10 @@ void frmSplash::BuildTitle() {
       frmSplashTitle::Look{TintedPicture(text.number(u"picture_off")), TintedPicture(text.number(u"picture")),
                            TintedPicture(line.number(u"picture_off")),
                            TintedPicture(line.number(u"picture"))});
-  title_->MouseMove = [this] { PlainHighlights(); };
+  title_->MouseMove = [this] {
+    title_->Stir();
+    PlainHighlights();
+  };
 }
 
 void frmSplash::BuildList() {
@@ -67,6 +70,9 @@ void frmSplash::BuildList() {
   connect(lstPlayers_, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
     item->setSelected(true);
     PlayerSelected();
+  });
+  connect(lstPlayers_, &QListWidget::itemDoubleClicked, this, [this] {
+    if (cmdContinue_->Enabled()) Continue();
   });
   lblPINtitle_ = layout().NewLabel(u"lblPINtitle", this);
   txtPIN_ = new PinBox(this);
@@ -112,6 +118,7 @@ void frmSplash::ShowList(bool list) {
 
 void frmSplash::Activate() {
   RefreshPlayerList();
+  SelectPlayer(splash_.lastPlayer, {});
 }
 
 void frmSplash::Shown() {
@@ -126,6 +133,7 @@ void frmSplash::Closing() {
 }
 
 void frmSplash::keyPressEvent(QKeyEvent* event) {
+  title_->Stir();
   switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -156,6 +164,7 @@ void frmSplash::mousePressEvent(QMouseEvent* event) {
 
 void frmSplash::mouseMoveEvent(QMouseEvent* event) {
   drag_.Move(*this, *event);
+  title_->Stir();
   Screen::mouseMoveEvent(event);
 }
 

@@ -13,6 +13,9 @@ constexpr Effects::Fade kFadeIn{.start = 0, .end = kFullStrength, .step = 9};
 constexpr Effects::Fade kGlow{.start = 0, .end = kFullStrength, .step = 2};
 constexpr int kInitialInterval = 50;  // milliseconds
 constexpr int kPulseInterval = 100;   // milliseconds
+// A glow that nobody looks at rests after a minute, so that a machine left alone does nothing. The length is
+// twelve times there and back (256 steps of 20 ms), so that it is lit then, and nothing jumps.
+constexpr int kRestAfter = 12 * 256 * 20;  // milliseconds
 
 }  // namespace
 
@@ -23,6 +26,7 @@ frmSplashTitle::frmSplashTitle(QWidget& window, Layout& layout, Effects& effects
       look_(std::move(look)),
       tmrInitial_(scheduler.NewTimer(kInitialInterval, [this] { InitialTick(); })),
       tmrPulse_(scheduler.NewTimer(kPulseInterval, [this] { PulseTick(); })),
+      tmrRest_(scheduler.NewTimer(kRestAfter, [this] { RestTick(); })),
       imgFadeText_Target_(new FadeTarget(&window)),
       imgFadeLine_Target_(new FadeTarget(&window)) {
   imgFadeText_Target_->setFocusPolicy(Qt::TabFocus);
@@ -59,17 +63,35 @@ void frmSplashTitle::PulseTick() {
   imgFadeText_Target_->setPicture(look_.imgFadeText);
   imgFadeLine_Target_->setPicture(look_.imgFadeLine);
   effects_.FadeLoop({look_.textOff, imgFadeText_Target_}, kGlow, {look_.lineOff, imgFadeLine_Target_});
+  tmrRest_->setEnabled(true);
+}
+
+void frmSplashTitle::RestTick() {
+  Stop();
+  resting_ = true;
+  ShowLit();
+}
+
+void frmSplashTitle::Stir() {
+  if (!std::exchange(resting_, false) || pulseEnded_) return;
+  tmrPulse_->setEnabled(true);
 }
 
 void frmSplashTitle::Stop() {
   tmrInitial_->setEnabled(false);
   tmrPulse_->setEnabled(false);
+  tmrRest_->setEnabled(false);
+  resting_ = false;
   effects_.StopFade();
 }
 
 void frmSplashTitle::EndPulse() {
   pulseEnded_ = true;
   Stop();
+  ShowLit();
+}
+
+void frmSplashTitle::ShowLit() {
   imgFadeText_Target_->setPicture(look_.textOff);
   imgFadeLine_Target_->setPicture(look_.lineOff);
   Effects::AlphaBlendPicture(look_.imgFadeText, *imgFadeText_Target_, kFullStrength);
@@ -112,8 +134,9 @@ void frmSplashTitle::Moved(const QMouseEvent& event) {
     if ((point - *press_).manhattanLength() < QApplication::startDragDistance()) return;
     const QPointF from = *press_;
     press_.reset();
-    drag_.Press(*window_.window(), QMouseEvent(QEvent::MouseButtonPress, window_.window()->mapFromGlobal(from), from,
-                                     Qt::LeftButton, Qt::LeftButton, event.modifiers()));
+    drag_.Press(*window_.window(),
+                QMouseEvent(QEvent::MouseButtonPress, window_.window()->mapFromGlobal(from), from,
+                            Qt::LeftButton, Qt::LeftButton, event.modifiers()));
   }
   drag_.Move(*window_.window(), event);
 }

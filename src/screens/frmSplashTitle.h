@@ -37,6 +37,8 @@ class frmSplashTitle final : public QObject {
 
   /// Lights up once, then glows. Does nothing after EndPulse.
   void Begin();
+  /// The person is there: a glow that has come to rest goes on.
+  void Stir();
   /// Stands still as it is.
   void Stop();
   /// Lit, and still for good.
@@ -50,6 +52,8 @@ class frmSplashTitle final : public QObject {
  private:
   void InitialTick();
   void PulseTick();
+  void RestTick();
+  void ShowLit();
   void Moved(const QMouseEvent& event);
 
   QWidget& window_;
@@ -57,6 +61,8 @@ class frmSplashTitle final : public QObject {
   const Look look_;
   const std::unique_ptr<Timer> tmrInitial_;
   const std::unique_ptr<Timer> tmrPulse_;
+  const std::unique_ptr<Timer> tmrRest_;
+  bool resting_ = false;
   bool pulseEnded_ = false;
   WindowDrag drag_;
   std::optional<QPoint> press_;               // on the desktop, while it may still become a click

@@ -1,14 +1,17 @@
 // The options screen: every control and its field, the ways out, the questions about the PIN, and the keys.
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRadioButton>
+#include <QSlider>
 
 #include "screens/frmOptions.h"
 #include "screens/modgetKeyName.h"
+#include "support/MemorySettings.h"
 #include "support/ScreenHand.h"
 #include "support/ScreenStage.h"
 #include "support/TempFolder.h"
@@ -25,7 +28,9 @@ class OptionsStage : public test::ScreenStage {
   }
 
   void Open() {
-    screen = std::make_unique<frmOptions>(services(), player);
+    screen = std::make_unique<frmOptions>(
+        services(),
+        frmOptionsServices{player, remembered, [this](int percent) { sound.setVolume(percent); }});
     screen->Open();
     Settle(10);
     hand = std::make_unique<ScreenHand>(*screen);
@@ -55,6 +60,8 @@ class OptionsStage : public test::ScreenStage {
   bool Saved() { return std::filesystem::exists(player.FileName); }
 
   test::TempFolder folder;
+  test::MemorySettings store;
+  Settings remembered{store};
   std::unique_ptr<frmOptions> screen;
   std::unique_ptr<ScreenHand> hand;
 };
@@ -354,6 +361,37 @@ TEST(frmOptionsTest, LeavingInTheMiddleOfACapture) {
   stage.screen->CloseScreen();
   EXPECT_FALSE(stage.screen->WaitsForKey());
   EXPECT_EQ(stage.scheduler.RunningTimers(), 0);
+}
+
+TEST(frmOptionsTest, TheVolumeIsHeardAtOnceAndOutlivesCancel) {
+  for (const char* style : {"Slate", "Ember"}) {
+    OptionsStage stage(style);
+    stage.remembered.setVolume(80);
+    stage.Open();
+    auto& slider = stage.Find<QSlider>("sldVolume");
+    const auto& label = stage.Find<QLabel>("lblVolume");
+    EXPECT_EQ(label.text(), QStringLiteral("Volume 80 %"));
+    EXPECT_FALSE(slider.accessibleName().isEmpty());
+    QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(&slider);
+    ASSERT_NE(reader->valueInterface(), nullptr);
+    EXPECT_EQ(reader->valueInterface()->currentValue().toInt(), 80);
+
+    // By keyboard alone, from the last of the sounds' boxes.
+    stage.sound.played.clear();
+    stage.Find("chkMuteEvents").setFocus();
+    stage.hand->Key(Qt::Key_Tab);
+    ASSERT_EQ(stage.screen->focusWidget(), &slider) << style;
+    stage.hand->Key(Qt::Key_Left);
+    EXPECT_EQ(stage.sound.volume, 75);
+    EXPECT_EQ(stage.remembered.volume(), 75);
+    EXPECT_EQ(stage.sound.Count("check"), 1) << "nobody hears how loud it is now";
+    slider.setValue(43);
+    EXPECT_EQ(stage.sound.volume, 45);
+    EXPECT_EQ(label.text(), QStringLiteral("Volume 45 %"));
+    stage.Click("cmdCancel");
+    EXPECT_EQ(stage.remembered.volume(), 45);
+    EXPECT_FALSE(stage.Saved());
+  }
 }
 
 }  // namespace

@@ -28,7 +28,7 @@ class frmSplashTest : public testing::Test {
         stage.services(),
         frmSplashServices{folder.path(),
                           [this] { return std::make_unique<clsPlayer>(stage.dialogs, stage.padding); },
-                          [this](const std::string& address) { opened = address; }});
+                          [this](const std::string& address) { opened = address; }, lastPlayer});
     splash->Open();
     stage.Settle(2);
     hand = std::make_unique<ScreenHand>(*splash);
@@ -59,9 +59,25 @@ class frmSplashTest : public testing::Test {
   test::TempFolder folder;
   test::ScreenStage stage;
   std::string opened;
+  std::string lastPlayer;
   std::unique_ptr<frmSplash> splash;
   std::unique_ptr<ScreenHand> hand;
 };
+
+TEST_F(frmSplashTest, TheLastPlayerIsSelectedAndADoubleClickGoesOn) {
+  for (const char* name : {"alice.vnt", "Bob.vnt", "carol.vnt"}) PutPlayer(name, "");
+  lastPlayer = "gone";
+  Open();
+  EXPECT_EQ(List().currentRow(), 0);
+  lastPlayer = "Bob";
+  Open();
+  EXPECT_EQ(List().currentRow(), 1);
+  const QPoint carol = List().viewport()->mapTo(splash.get(), List().visualItemRect(List().item(2)).center());
+  QTest::mouseDClick(splash->windowHandle(), Qt::LeftButton, {}, carol);
+  stage.Settle(20);
+  EXPECT_THAT(stage.recorded.calls, ElementsAre("PlayerLoaded", "OpenMenu"));
+  EXPECT_EQ(stage.recorded.loaded->Name, "carol.vnt");
+}
 
 TEST_F(frmSplashTest, ThePlayerFilesAreListedByNameAndTheFirstIsSelected) {
   for (const char* name : {"zed.vnt", "Bob.VNT", "alice.vnt", "notes.txt"}) folder.Put(name, "");
@@ -314,6 +330,18 @@ TEST_F(frmSplashTest, APINBoxTakesDigitsOnlyAndShowsThemForASecond) {
   stage.scheduler.At(500, [this] { splash->CloseScreen(); });
   hand->Click(reveal);
   EXPECT_EQ(stage.scheduler.timeGetTime(), 1502U);
+}
+
+TEST_F(frmSplashTest, AGlowThatNobodyLooksAtRestsAfterAMinute) {
+  Open();
+  stage.Settle(60000);
+  EXPECT_TRUE(stage.globals.effects.fading());
+  stage.Settle(10000);
+  EXPECT_FALSE(stage.globals.effects.fading());
+  EXPECT_EQ(stage.scheduler.RunningTimers(), 0) << "something still wakes the processor";
+  hand->Key(Qt::Key_Down);
+  stage.Settle(200);
+  EXPECT_TRUE(stage.globals.effects.fading());
 }
 
 TEST_F(frmSplashTest, TheTitleLightsUpAndGlowsUntilItIsClicked) {

@@ -97,7 +97,9 @@ void RenderMenu(Gallery& gallery) {
 void RenderOptions(Gallery& gallery) {
   test::ScreenStage stage(gallery.style(), gallery.scale());
   FillSamplePlayer(stage.player);
-  frmOptions options(stage.services(), stage.player);
+  SettingsStore nothing;
+  Settings settings(nothing);
+  frmOptions options(stage.services(), {stage.player, settings});
   options.Open();
   stage.Settle();
   gallery.Save(options, "options");
