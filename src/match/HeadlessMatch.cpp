@@ -24,7 +24,7 @@ class NoBook final : public MatchBooking {
 /// The screen and the dialogs of a match that nobody watches; notes who won on the way to the book.
 class NobodyWatches final : public MatchView, public MatchBooking, public Dialogs {
  public:
-  NobodyWatches(MatchBooking& book, const MatchObserver& observer) : book_(book), observer_(observer) {}
+  NobodyWatches(MatchBooking& book, const MatchWatch& watch) : book_(book), watch_(watch) {}
 
   HeadlessResult Play(MatchEngine& engine) {
     engine_ = &engine;
@@ -79,7 +79,7 @@ class NobodyWatches final : public MatchView, public MatchBooking, public Dialog
 
  private:
   void Observe() const {
-    if (observer_) observer_(*engine_);
+    if (watch_) watch_(*engine_);
   }
 
   void CountSet() {
@@ -91,7 +91,7 @@ class NobodyWatches final : public MatchView, public MatchBooking, public Dialog
   }
 
   MatchBooking& book_;
-  const MatchObserver& observer_;
+  const MatchWatch& watch_;
   MatchEngine* engine_ = nullptr;
   HeadlessResult result_;
   bool timerRuns_ = false;
@@ -101,7 +101,7 @@ class NobodyWatches final : public MatchView, public MatchBooking, public Dialog
 
 }  // namespace
 
-HeadlessResult PlayHeadless(const HeadlessSetup& setup, Random& random, const MatchObserver& observer) {
+HeadlessResult PlayHeadless(const HeadlessSetup& setup, Random& random, const MatchWatch& watch) {
   clsGame game;
   game.Wager = kAnyStake;
   game.SideDeck = DealHand(setup.playerDeck, random);
@@ -110,15 +110,17 @@ HeadlessResult PlayHeadless(const HeadlessSetup& setup, Random& random, const Ma
   // The strategy is lent for the length of the match; the record does not own it.
   game.AI = std::shared_ptr<Strategy>(std::shared_ptr<Strategy>(), &setup.opponent);
   NoBook book(game);
-  return PlayPrepared(game, setup.player, book, setup.options, random, observer);
+  return PlayPrepared(game, setup.player, book, setup.options, random, watch, setup.observer);
 }
 
 HeadlessResult PlayPrepared(clsGame& game, Strategy& player, MatchBooking& booking,
-                            const MatchOptions& options, Random& random, const MatchObserver& observer) {
-  NobodyWatches screen(booking, observer);
+                            const MatchOptions& options, Random& random, const MatchWatch& watch,
+                            MatchObserver* observer) {
+  NobodyWatches screen(booking, watch);
   MatchNetwork network;
   MatchEngine engine(game, options, screen, network, screen, screen, random);
-  engine.setPlayerStrategy(&player);
+  engine.setObserver(observer);
+  engine.person().setStrategy(&player);
   return screen.Play(engine);
 }
 

@@ -15,6 +15,7 @@ struct HeadlessSetup {
   const clsDeckArray& playerDeck;  // ten side cards; four are dealt
   const clsDeckArray& opponentDeck;
   MatchOptions options;
+  MatchObserver* observer = nullptr;  // told what happens
 };
 
 struct HeadlessResult {
@@ -26,17 +27,17 @@ struct HeadlessResult {
 };
 
 /// Told after every change of a match, so that a proof can look at the engine.
-using MatchObserver = std::function<void(const MatchEngine&)>;
+using MatchWatch = std::function<void(const MatchEngine&)>;
 
 /// Plays one match to its end. Equal random numbers give equal matches. Throws std::logic_error when the
 /// match comes to a standstill, which is a fault of the rules.
 [[nodiscard]] HeadlessResult PlayHeadless(const HeadlessSetup& setup, Random& random,
-                                          const MatchObserver& observer = {});
+                                          const MatchWatch& watch = {});
 
 /// Plays the match that `game` holds ready: hands dealt, a strategy for the opponent, a stake open. `player`
 /// sits in the player's seat; `booking` books the result and so closes the stake.
 [[nodiscard]] HeadlessResult PlayPrepared(clsGame& game, Strategy& player, MatchBooking& booking,
                                           const MatchOptions& options, Random& random,
-                                          const MatchObserver& observer = {});
+                                          const MatchWatch& watch = {}, MatchObserver* observer = nullptr);
 
 }  // namespace kv

@@ -25,9 +25,11 @@ int TableTotal(std::span<const CardCode> table) {
 }  // namespace
 
 // The player's flips stay on the table: the hand that was dealt keeps its codes.
-MatchBoard::MatchBoard(MatchShown& shown, const clsGame& game, MatchView& view, Random& random)
+MatchBoard::MatchBoard(MatchShown& shown, const clsGame& game, MatchView& view, const MatchTeller& teller,
+                       Random& random)
     : shown_(shown),
       view_(view),
+      teller_(teller),
       random_(random),
       hands_{std::make_shared<clsDeckArray>(*game.SideDeck), game.CompDeck} {
   for (std::size_t i = 0; i < hands_.size(); ++i) shown_.sides.at(i).hand = hands_.at(i);
@@ -63,6 +65,18 @@ CardCode MatchBoard::DrawMainCard() {
 void MatchBoard::DeductDrawCard(int value) {
   if (value < 1 || value > 10) throw std::out_of_range("a main-deck card is 1 to 10");
   ++mainDeckCount_.at(static_cast<std::size_t>(value));
+}
+
+void MatchBoard::Draw(Seat seat, const CardCode& card) {
+  if (shown_.TableFull(seat)) return;
+  LoadNextCard(card, seat == Seat::Opponent);
+  teller_.Drew(seat);
+}
+
+void MatchBoard::PlayFromHand(Seat seat, int slot, const CardCode& code) {
+  const std::vector<CardCode> before = teller_.heard() ? shown_.Table(seat) : std::vector<CardCode>();
+  PlayCard(code, seat == Seat::Opponent);
+  teller_.Played(seat, slot, code, before);
 }
 
 void MatchBoard::PlayCard(const CardCode& code, bool isOpponent) {

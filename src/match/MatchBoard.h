@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "match/MatchShown.h"
+#include "match/MatchTeller.h"
 #include "match/MatchView.h"
 #include "match/clsGame.h"
 #include "platform/Random.h"
@@ -16,7 +16,8 @@ namespace kv {
 class MatchBoard {
  public:
   /// Shows the hands of `game`, which must be dealt. All references must outlive the board.
-  MatchBoard(MatchShown& shown, const clsGame& game, MatchView& view, Random& random);
+  MatchBoard(MatchShown& shown, const clsGame& game, MatchView& view, const MatchTeller& teller,
+             Random& random);
 
   /// A set begins: both tables are empty and the main deck is complete.
   void Clear();
@@ -31,6 +32,10 @@ class MatchBoard {
     return mainDeckCount_.at(static_cast<std::size_t>(value));
   }
 
+  /// The side has drawn `card`, which left the main deck.
+  void Draw(Seat seat, const CardCode& card);
+  /// Plays `code`, which was in a hand slot, on its side's table.
+  void PlayFromHand(Seat seat, int slot, const CardCode& code);
   /// Plays `code` on a table with the effects of its type.
   void PlayCard(const CardCode& code, bool isOpponent);
   /// Lays `code` on a table; a full table takes no more.
@@ -45,6 +50,7 @@ class MatchBoard {
 
   MatchShown& shown_;
   MatchView& view_;
+  const MatchTeller& teller_;
   Random& random_;
   std::array<std::shared_ptr<clsDeckArray>, 2> hands_;  // by Seat
   std::array<std::uint8_t, 11> mainDeckCount_{};        // [1] to [10]

@@ -17,19 +17,20 @@ MatchEngine::MatchEngine(clsGame& game, const MatchOptions& options, MatchView& 
       options_(options),
       view_(view),
       net_(network),
-      booking_(booking),
       network_(game.isNetwork()),
       pace_(PaceOf(options, network_)),
+      teller_(shown_, game),
+      book_(game, booking, teller_),
       pauses_(view),
-      board_(shown_, game, view, random),
+      board_(shown_, game, view, teller_, random),
       person_(*this, dialogs),
-      peer_(*this),
-      operations_{SideOperations(*this, Seat::Player), SideOperations(*this, Seat::Opponent)} {
+      peer_(*this) {
   shown_.title = MatchTitle(game);
   shown_.wager = WagerText(game);
 }
 
 void MatchEngine::Activate() {
+  teller_.MatchBegun();
   if (!network_ || net_.hosting()) {
     if (network_ || options_.turnMode == 0 || options_.turnMode == 2) {
       playerStarts_ = board_.EvenChance();
@@ -60,6 +61,7 @@ void MatchEngine::Reset() {
   shown_.controls.table = {true, true};
   for (MatchSide& each : shown_.sides) each.stood = false;
   board_.Clear();
+  teller_.SetBegun(turn_);
   view_.ControlsChanged();
   view_.BannerChanged();
   if (!pauses_.Wait(kSetPause - pace_.speedOffset / 2.0)) return;

@@ -16,11 +16,10 @@
 #pragma once
 
 #include "match/MatchBoard.h"
-#include "match/MatchPartners.h"
+#include "match/MatchBook.h"
 #include "match/MatchPauses.h"
 #include "match/MatchPeer.h"
 #include "match/MatchPerson.h"
-#include "match/SideOperations.h"
 
 namespace kv {
 
@@ -50,8 +49,8 @@ class MatchEngine {
   [[nodiscard]] MatchPerson& person() { return person_; }
   [[nodiscard]] MatchPeer& peer() { return peer_; }
   [[nodiscard]] const MatchPeer& peer() const { return peer_; }
-  /// Lets a strategy play the player's side too (simulations); it must outlive the engine.
-  void setPlayerStrategy(Strategy* strategy) { playerStrategy_ = strategy; }
+  /// Who is told what happens, from before Activate on; null for nobody. It must outlive the engine.
+  void setObserver(MatchObserver* observer) { teller_.setObserver(observer); }
 
  private:
   friend class MatchPerson;
@@ -79,16 +78,15 @@ class MatchEngine {
   const MatchOptions options_;
   MatchView& view_;
   MatchNetwork& net_;
-  MatchBooking& booking_;
   const bool network_;  // a peer plays the opponent
   const MatchPace pace_;
   MatchShown shown_;
+  MatchTeller teller_;
+  MatchBook book_;
   MatchPauses pauses_;
   MatchBoard board_;
   MatchPerson person_;
   MatchPeer peer_;
-  std::array<SideOperations, 2> operations_;  // by Seat
-  Strategy* playerStrategy_ = nullptr;
   std::optional<SetDecision> decision_;  // until its result is shown
   Seat turn_ = Seat::Player;             // whose turn it is, or comes next
   bool playerStarts_ = false;

@@ -20,13 +20,13 @@ void MatchPeer::setPlayerStarts(bool starts) {
 
 void MatchPeer::OppDraw(int value) {
   engine_.board_.DeductDrawCard(value);
-  engine_.board_.LoadNextCard(CardCode(CardType::MainDeck, value), true);
+  engine_.board_.Draw(Seat::Opponent, CardCode(CardType::MainDeck, value));
 }
 
 void MatchPeer::OppPlayHand(int slot, const CardCode& code) {
   engine_.board_.EmptyHandSlot(Seat::Opponent, slot);
   engine_.view_.PlaySound("playcard");
-  engine_.board_.PlayCard(code, true);
+  engine_.board_.PlayFromHand(Seat::Opponent, slot, code);
 }
 
 void MatchPeer::AI_PlayCard(int slot) {
@@ -34,13 +34,15 @@ void MatchPeer::AI_PlayCard(int slot) {
   if (IsEmptySlot(code)) return;
   engine_.view_.PlaySound("playcard");
   engine_.board_.EmptyHandSlot(Seat::Opponent, slot);
-  engine_.board_.PlayCard(code, true);
+  engine_.board_.PlayFromHand(Seat::Opponent, slot, code);
   // A pause cut short needs no answer here: the calls that follow find that they may not act any more.
   static_cast<void>(engine_.pauses_.Wait(kPlayedCardPause));
 }
 
 void MatchPeer::AI_EndTurn() {
   if (engine_.pauses_.closed()) return;
+  // Who has stood before only lets the turn pass.
+  if (!engine_.shown_.Stood(Seat::Opponent)) engine_.teller_.EndedTurn(Seat::Opponent);
   engine_.SettleBust(Seat::Opponent);
   OppEndTurn();
 }
@@ -53,6 +55,7 @@ void MatchPeer::AI_Stand() {
 
 void MatchPeer::OppStand() {
   engine_.shown_.side(Seat::Opponent).stood = true;
+  engine_.teller_.Stood(Seat::Opponent);
   engine_.shown_.controls.table[1] = false;
   engine_.view_.ControlsChanged();
   if (!engine_.network_) OppEndTurn();
@@ -67,6 +70,7 @@ void MatchPeer::OppEndTurn() {
 
 void MatchPeer::OppForfeit() {
   if (engine_.pauses_.closed() || engine_.game_.Wager == -1) return;
+  engine_.teller_.Tell(event::Forfeited{Seat::Opponent});
   engine_.StopMatch();
   engine_.shown_.controls.titlebar = false;
   engine_.view_.ControlsChanged();
@@ -105,7 +109,9 @@ bool MatchPeer::LostByPlay() const {
 void MatchPeer::WinAfterAll() {
   if (!LostByPlay()) return;
   engine_.shown_.side(Seat::Opponent).setWins = kSetsToWin - 1;  // its last one does not count
-  engine_.booking_.TurnLossIntoWin();
+  engine_.teller_.Tell(event::Forfeited{Seat::Opponent});
+  engine_.teller_.MatchDecided(Seat::Player);
+  engine_.book_.TurnLossIntoWin();
   if (engine_.pauses_.closed()) return;
   engine_.view_.PlaySound("winmatch");
   engine_.shown_.banner.text = "You have defeated your opponent!";
@@ -114,14 +120,25 @@ void MatchPeer::WinAfterAll() {
 
 bool MatchPeer::BookDecision() {
   if (!decision() || !decision()->endsMatch) return false;
-  const bool won = decision()->result == GameStep::PlayerWins;
+  const Seat winner = decision()->result == GameStep::PlayerWins ? Seat::Player : Seat::Opponent;
   engine_.StopMatch();
-  if (won) {
-    engine_.booking_.SaveWin();
-  } else {
-    engine_.booking_.SaveLoss();
-  }
+  engine_.teller_.MatchDecided(winner, 1);
+  engine_.book_.Result(winner);
   return true;
+}
+
+void MatchPeer::WinByItsLeaving() {
+  engine_.teller_.MatchDecided(Seat::Player);
+  engine_.book_.Result(Seat::Player);
+}
+
+void MatchPeer::Gone() {
+  engine_.teller_.Tell(event::PeerGone{});
+}
+
+void MatchPeer::BrokenOff(const std::function<void()>& book) {
+  Gone();
+  engine_.book_.BrokenOff(book);
 }
 
 // --- Both go on together ----------------------------------------------------------------------------------

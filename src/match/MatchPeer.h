@@ -3,10 +3,12 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 #include "cards/CardCode.h"
 #include "match/MatchRules.h"
+#include "match/SideOperations.h"
 
 namespace kv {
 
@@ -15,7 +17,7 @@ class MatchEngine;
 class MatchPeer {
  public:
   /// Belongs to the engine.
-  explicit MatchPeer(MatchEngine& engine) : engine_(engine) {}
+  explicit MatchPeer(MatchEngine& engine) : engine_(engine), operations_(engine, Seat::Opponent) {}
 
   /// The peer's "[WhoS]".
   void setPlayerStarts(bool starts);
@@ -29,6 +31,8 @@ class MatchPeer {
   void AI_Stand();
   void OppStand();
   void OppForfeit();
+  /// Lets `strategy` play the opponent's turn.
+  void Ask(Strategy& strategy) { operations_.Ask(strategy); }
 
   /// Whether the moves of the peer's turn can be taken now. Soon: they are due, but this side has not come to
   /// them yet (a pause is under way, or its own turn is just ending).
@@ -47,6 +51,12 @@ class MatchPeer {
   /// Books a decided set that ends the match now, before its result is shown: the person leaves. False when
   /// there is none.
   bool BookDecision();
+  /// The peer has left, which decides nothing yet.
+  void Gone();
+  /// The match is won here and now, without a banner.
+  void WinByItsLeaving();
+  /// The line is lost; `book` settles the stake.
+  void BrokenOff(const std::function<void()>& book);
 
   /// What follows once the peer's "[Play]" has arrived.
   enum class Then : std::uint8_t { Nothing, NextSet, Leave };
@@ -63,6 +73,7 @@ class MatchPeer {
   void OppEndTurn();
 
   MatchEngine& engine_;
+  SideOperations operations_;
   bool acts_ = false;  // in a network match: the peer's moves are taken
   Then then_ = Then::Nothing;
 };

@@ -17,8 +17,14 @@ constexpr bool IsHandSlot(int slot) {
 
 }  // namespace
 
+void MatchPerson::Ask() {
+  if (strategy_ != nullptr) operations_.Ask(*strategy_);
+}
+
 void MatchPerson::EndTurn() {
-  if (engine_.shown_.controls.endTurn) engine_.EndPlayerTurn();
+  if (!engine_.shown_.controls.endTurn) return;
+  engine_.teller_.EndedTurn(Seat::Player);
+  engine_.EndPlayerTurn();
 }
 
 void MatchPerson::Stand() {
@@ -34,7 +40,7 @@ void MatchPerson::PlayHandCard(int slot) {
   engine_.board_.EmptyHandSlot(Seat::Player, slot);
   engine_.view_.PlaySound("playcard");
   engine_.net_.NetSend("[Hand]" + std::to_string(slot) + code.text());
-  engine_.board_.PlayCard(code, false);
+  engine_.board_.PlayFromHand(Seat::Player, slot, code);
   if (!StandsByItself(engine_.shown_)) return;
   // The turn is decided: nothing may be pressed while the card is being looked at.
   engine_.SetTurnControls(false);
@@ -50,6 +56,7 @@ void MatchPerson::FirstFlip(int slot) {
   engine_.board_.hand(Seat::Player).setValue(slot, engine_.shown_.HandCard(Seat::Player, slot).FirstFlip());
   engine_.view_.HandChanged(Seat::Player, slot);
   engine_.view_.PlaySound("click");
+  engine_.teller_.Flipped(slot);
 }
 
 void MatchPerson::SecondFlip(int slot) {
@@ -57,6 +64,7 @@ void MatchPerson::SecondFlip(int slot) {
   engine_.board_.hand(Seat::Player).setValue(slot, engine_.shown_.HandCard(Seat::Player, slot).SecondFlip());
   engine_.view_.HandChanged(Seat::Player, slot);
   engine_.view_.PlaySound("click");
+  engine_.teller_.Flipped(slot);
 }
 
 void MatchPerson::Forfeit() {
@@ -82,9 +90,16 @@ void MatchPerson::AskForfeit() {
     return;
   }
   stopped_ = true;
+  engine_.teller_.Tell(event::Forfeited{Seat::Player});
   engine_.StopMatch();
   if (engine_.network_) engine_.net_.NetSend("[Forf]");
   engine_.LoseMatch(Seat::Player);
+}
+
+void MatchPerson::LoseByLeaving() {
+  engine_.teller_.Tell(event::Forfeited{Seat::Player});
+  engine_.teller_.MatchDecided(Seat::Opponent);
+  engine_.book_.Result(Seat::Opponent);
 }
 
 }  // namespace kv

@@ -2,6 +2,8 @@
 // nothing while its control is disabled; none decides what follows from a move.
 #pragma once
 
+#include "match/SideOperations.h"
+
 namespace kv {
 
 class Dialogs;
@@ -10,7 +12,13 @@ class MatchEngine;
 class MatchPerson {
  public:
   /// Belongs to the engine.
-  MatchPerson(MatchEngine& engine, Dialogs& dialogs) : engine_(engine), dialogs_(dialogs) {}
+  MatchPerson(MatchEngine& engine, Dialogs& dialogs)
+      : engine_(engine), dialogs_(dialogs), operations_(engine, Seat::Player) {}
+
+  /// Lets a strategy play instead (simulations); it must outlive the match. Null: the person plays.
+  void setStrategy(Strategy* strategy) { strategy_ = strategy; }
+  /// The person's turn is open: whoever plays instead is asked.
+  void Ask();
 
   void EndTurn();
   void Stand();
@@ -21,6 +29,8 @@ class MatchPerson {
   /// The Forfeit button and the title bar's close: asks, then gives up the match; after the match it is
   /// the banner's button.
   void Forfeit();
+  /// The person leaves the game for good: the match is lost here and now, without a banner.
+  void LoseByLeaving();
   /// The person has given the match up.
   [[nodiscard]] bool Stopped() const { return stopped_; }
 
@@ -30,6 +40,8 @@ class MatchPerson {
 
   MatchEngine& engine_;
   Dialogs& dialogs_;
+  SideOperations operations_;
+  Strategy* strategy_ = nullptr;
   bool stopped_ = false;
 };
 

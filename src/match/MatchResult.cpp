@@ -11,6 +11,7 @@ void MatchEngine::SettleBust(Seat seat) {
 bool MatchEngine::CheckSetEnd(Seat closing) {
   if (!SetIsOver(shown_, closing)) return false;
   decision_ = DecideSet(shown_, closing);
+  teller_.SetDecided(*decision_);
   if (network_) net_.SetDecided();
   shown_.controls.table = {false, false};
   view_.ControlsChanged();
@@ -46,7 +47,8 @@ void MatchEngine::BustLose() {
   if (shown_.SetWins(Seat::Opponent) == kSetsToWin) {
     view_.PlaySound("losematch");
     shown_.banner.text = "You have been defeated.";
-    booking_.SaveLoss();
+    teller_.MatchDecided(Seat::Opponent);
+    book_.Result(Seat::Opponent);
   } else {
     view_.PlaySound("loseset");
     shown_.banner.text = "The opponent wins the set.";
@@ -58,7 +60,8 @@ void MatchEngine::BustWin() {
   if (shown_.SetWins(Seat::Player) == kSetsToWin) {
     view_.PlaySound("winmatch");
     shown_.banner.text = "You have defeated your opponent!";
-    booking_.SaveWin();
+    teller_.MatchDecided(Seat::Player);
+    book_.Result(Seat::Player);
   } else {
     view_.PlaySound("winset");
     shown_.banner.text = "you win the set.";

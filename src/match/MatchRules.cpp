@@ -5,20 +5,29 @@ namespace {
 
 constexpr int kLowTotal = 10;  // below it the turn may end by itself
 
-GameStep ResultOf(const MatchShown& shown, Seat closing) {
-  const MatchSide& player = shown.side(Seat::Player);
-  const MatchSide& opponent = shown.side(Seat::Opponent);
-  if (player.total > kTargetTotal) return GameStep::OpponentWins;
-  if (opponent.total > kTargetTotal) return GameStep::PlayerWins;
-  if (shown.TableFull(Seat::Player)) return GameStep::PlayerWins;
-  if (shown.TableFull(Seat::Opponent)) return GameStep::OpponentWins;
-  if (player.total == opponent.total) {
-    const auto& table = shown.Table(closing);
-    const bool broken = !table.empty() && table.back().type() == CardType::Tiebreaker;
-    if (!broken) return GameStep::SetTied;
-    return closing == Seat::Player ? GameStep::PlayerWins : GameStep::OpponentWins;
+SetRule RuleOf(const MatchShown& shown, Seat closing) {
+  if (shown.Total(Seat::Player) > kTargetTotal) return SetRule::PlayerOver;
+  if (shown.Total(Seat::Opponent) > kTargetTotal) return SetRule::OpponentOver;
+  if (shown.TableFull(Seat::Player)) return SetRule::PlayerNine;
+  if (shown.TableFull(Seat::Opponent)) return SetRule::OpponentNine;
+  if (shown.Total(Seat::Player) != shown.Total(Seat::Opponent)) return SetRule::HigherTotal;
+  const auto& table = shown.Table(closing);
+  const bool broken = !table.empty() && table.back().type() == CardType::Tiebreaker;
+  return broken ? SetRule::Tiebreaker : SetRule::Equal;
+}
+
+bool PlayerWins(SetRule rule, const MatchShown& shown, Seat closing) {
+  switch (rule) {
+    case SetRule::OpponentOver:
+    case SetRule::PlayerNine:
+      return true;
+    case SetRule::Tiebreaker:
+      return closing == Seat::Player;
+    case SetRule::HigherTotal:
+      return shown.Total(Seat::Player) > shown.Total(Seat::Opponent);
+    default:
+      return false;
   }
-  return player.total > opponent.total ? GameStep::PlayerWins : GameStep::OpponentWins;
 }
 
 }  // namespace
@@ -37,11 +46,18 @@ bool SetIsOver(const MatchShown& shown, Seat closing) {
   return shown.TableFull(closing) || (shown.Stood(Seat::Player) && shown.Stood(Seat::Opponent));
 }
 
+StandReason StandReasonOf(const MatchShown& shown, Seat seat) {
+  if (shown.Total(seat) > kTargetTotal) return StandReason::OverTwenty;
+  if (shown.TableFull(seat)) return StandReason::NineCards;
+  return shown.Total(seat) == kTargetTotal ? StandReason::Twenty : StandReason::Choice;
+}
+
 SetDecision DecideSet(const MatchShown& shown, Seat closing) {
-  const GameStep result = ResultOf(shown, closing);
-  const bool last = (result == GameStep::PlayerWins && shown.SetWins(Seat::Player) == kSetsToWin - 1) ||
-                    (result == GameStep::OpponentWins && shown.SetWins(Seat::Opponent) == kSetsToWin - 1);
-  return {closing, result, last};
+  const SetRule rule = RuleOf(shown, closing);
+  if (rule == SetRule::Equal) return {rule, closing, GameStep::SetTied, false};
+  const bool won = PlayerWins(rule, shown, closing);
+  const bool last = shown.SetWins(won ? Seat::Player : Seat::Opponent) == kSetsToWin - 1;
+  return {rule, closing, won ? GameStep::PlayerWins : GameStep::OpponentWins, last};
 }
 
 }  // namespace kv

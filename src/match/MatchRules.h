@@ -10,6 +10,7 @@ namespace kv {
 
 /// A set that is decided, before its result is shown.
 struct SetDecision {
+  SetRule rule;
   Seat closing;     // whose end of turn decided it
   GameStep result;  // SetTied, OpponentWins or PlayerWins
   bool endsMatch;
@@ -19,6 +20,10 @@ struct SetDecision {
 [[nodiscard]] bool StandsByItself(const MatchShown& shown);
 /// A low total, with the option on, unless the opponent stands on no more than the player has.
 [[nodiscard]] bool EndsTurnByItself(const MatchShown& shown, const MatchOptions& options);
+
+/// Why the side stands, with its table as it is: whatever was pressed, 20, nine cards or a bust are the
+/// reason.
+[[nodiscard]] StandReason StandReasonOf(const MatchShown& shown, Seat seat);
 
 /// The set is over when both sides have stood (a bust makes both stand) or the closing side's table is full.
 [[nodiscard]] bool SetIsOver(const MatchShown& shown, Seat closing);

@@ -29,6 +29,20 @@ enum class GameStep : std::uint8_t {
 /// How far a match has come: no set has begun, one is played, the result of one is shown.
 enum class MatchStage : std::uint8_t { Opening, Set, BetweenSets };
 
+/// Why a side takes no more turns in a set.
+enum class StandReason : std::uint8_t { Choice, Twenty, NineCards, OverTwenty };
+
+/// The rule that decides a set, in the order in which they are asked.
+enum class SetRule : std::uint8_t {
+  PlayerOver,
+  OpponentOver,
+  PlayerNine,
+  OpponentNine,
+  Tiebreaker,
+  Equal,
+  HigherTotal,
+};
+
 /// Where a match stands in the peer's turn.
 enum class PeerTurn : std::uint8_t { NotTheirs, Soon, Theirs };
 

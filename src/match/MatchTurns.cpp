@@ -23,17 +23,19 @@ void MatchEngine::PlayerTurn() {
   if (StandsByItself(shown_)) {
     StandPlayer(true);
   } else if (EndsTurnByItself(shown_, options_)) {
-    if (pauses_.Wait(pace_.turnDelay * 0.85)) EndPlayerTurn();
+    if (!pauses_.Wait(pace_.turnDelay * 0.85)) return;
+    teller_.EndedTurn(Seat::Player);
+    EndPlayerTurn();
   } else {
     shown_.controls.flips = true;
     SetTurnControls(true);
-    if (playerStrategy_ != nullptr) operations_[0].Ask(*playerStrategy_);
+    person_.Ask();
   }
 }
 
 void MatchEngine::DrawFor(Seat seat) {
   const CardCode code = board_.DrawMainCard();
-  board_.LoadNextCard(code, seat == Seat::Opponent);
+  board_.Draw(seat, code);
   view_.PlaySound("draw");
   if (network_) net_.NetSend("[Card]" + code.text());
 }
@@ -58,6 +60,7 @@ void MatchEngine::StandPlayer(bool byItself) {
   shown_.controls.table[0] = false;
   if (network_) net_.NetSend("[Stnd]");
   shown_.side(Seat::Player).stood = true;
+  teller_.Stood(Seat::Player);
   EndPlayerTurn();
 }
 
@@ -82,7 +85,7 @@ void MatchEngine::OpponentTurn() {
     return;
   }
   if (!pauses_.Wait(kThinkingPause - pace_.speedOffset / 2.0)) return;
-  if (game_.AI != nullptr) operations_[1].Ask(*game_.AI);
+  if (game_.AI != nullptr) peer_.Ask(*game_.AI);
 }
 
 }  // namespace kv

@@ -17,6 +17,7 @@ frmGame::frmGame(const frmGameServices& services)
       styleIndex_(services.player.Interface_Opt == "Ember" ? 1 : 0),
       engine_(services.game, MatchOptionsOf(services.player), *this, services.network, services.booking,
               services.dialogs, services.random) {
+  engine_.setObserver(&observers_);
   BuildTimers();
   BuildPanel();
   BuildControls();

@@ -26,6 +26,8 @@ class frmGame final : public Screen, private MatchView {
   void LeaveProgram() override;
 
   [[nodiscard]] MatchEngine& engine() { return engine_; }
+  /// Who is told what happens in the match.
+  [[nodiscard]] MatchObservers& observers() { return observers_; }
   [[nodiscard]] int StyleIndex() const { return styleIndex_; }
   /// The panel of the style in use, on which cards, names and portraits lie; the other one is null.
   [[nodiscard]] FadeTarget* picSlate() const { return styleIndex_ == 0 ? panel_ : nullptr; }
@@ -76,6 +78,7 @@ class frmGame final : public Screen, private MatchView {
 
   frmGameServices services_;
   const int styleIndex_;
+  MatchObservers observers_;
   MatchEngine engine_;
   clsCardArray keys_;                             // the player's, as they were when the screen was activated
   std::array<std::unique_ptr<Timer>, 4> timers_;  // by MatchTimer

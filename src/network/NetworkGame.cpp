@@ -229,7 +229,12 @@ void NetworkGame::ConnectionFailed(int number, const std::string& description) {
   services_.dialogs.Message(
       "Connection Problem (Err No: " + std::to_string(number) + " - " + description + ")",
       "Kelm Vantri: TCP/IP WinSock Error", DialogIcon::Critical);
-  SaveDisconnect(*game_, *player_, *booking_, services_.dialogs);
+  const auto settle = [this] { SaveDisconnect(*game_, *player_, *booking_, services_.dialogs); };
+  if (match_ != nullptr && matchUnderWay()) {
+    match_->peer().BrokenOff(settle);
+  } else {
+    settle();
+  }
   StartFresh();
   services_.navigator.OpenLobby();
 }
@@ -242,7 +247,11 @@ void NetworkGame::Leave() {
   if (!matchUnderWay()) return;
   if (match_ != nullptr && known && match_->peer().BookDecision()) return;
   StakeToRecord(*game_, *player_);
-  booking_->SaveLoss();
+  if (match_ != nullptr) {
+    match_->person().LoseByLeaving();
+  } else {
+    booking_->SaveLoss();
+  }
 }
 
 }  // namespace kv

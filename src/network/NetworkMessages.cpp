@@ -139,11 +139,14 @@ void NetworkGame::PeerIsInLobby() {
       return;
     case Place::Cards:
     case Place::Desk:
-    case Place::Opening:
       WithdrawStake(*game_, *player_);
       break;
+    case Place::Opening:
+      match_->peer().BrokenOff([this] { WithdrawStake(*game_, *player_); });
+      break;
     default:
-      booking_->SaveWin();
+      match_->peer().Gone();
+      match_->peer().WinByItsLeaving();
       if (match_ == nullptr) return;  // the line was lost while a failed save was told
   }
   services_.navigator.OpenLobby();
@@ -260,7 +263,11 @@ bool NetworkGame::WinByItsLeaving(bool unanswered) {
   }
   if (!matchUnderWay()) return false;
   StakeToRecord(*game_, *player_);
-  booking_->SaveWin();
+  if (match_ != nullptr) {
+    match_->peer().WinByItsLeaving();
+  } else {
+    booking_->SaveWin();
+  }
   return true;
 }
 
@@ -268,6 +275,7 @@ template <>
 bool NetworkGame::Handle(const msg::Quit&) {
   services_.stopEffects();
   const bool repeats = link_.turnRepeats();
+  if (match_ != nullptr) match_->peer().Gone();
   // The line goes first: while a box is open nothing more may happen on it.
   link_.CloseConnection();
   const bool won = WinByItsLeaving(repeats);

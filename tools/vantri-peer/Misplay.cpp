@@ -71,7 +71,7 @@ void Disconnect(MisplayScene& scene) {
 }
 
 void Sleep(MisplayScene& scene) {
-  if (scene.match != nullptr) scene.match->setPlayerStrategy(nullptr);
+  if (scene.match != nullptr) scene.match->person().setStrategy(nullptr);
 }
 
 constexpr std::array<Misplay, 7> kMisplays = {{

@@ -24,7 +24,7 @@ PeerMatch::PeerMatch(const PeerServices& services)
         tmrContinue_->setEnabled(false);
         engine_.Continue();
       })) {
-  engine_.setPlayerStrategy(&services.strategy);
+  engine_.person().setStrategy(&services.strategy);
 }
 
 void PeerMatch::Closing() {

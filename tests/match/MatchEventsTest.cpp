@@ -1,0 +1,154 @@
+// What happened in a match, told once each and for both sides: whoever hears the events alone knows every
+// card and every total.
+#include <gtest/gtest.h>
+
+#include "ai/clsAI_Ember.h"
+#include "ai/clsAI_Normal.h"
+#include "match/Dealing.h"
+#include "match/HeadlessMatch.h"
+#include "match/MatchCourse.h"
+#include "support/EventLog.h"
+#include "support/MatchTable.h"
+
+namespace kv {
+namespace {
+
+using test::EventLog;
+using test::MatchTable;
+using Lines = std::vector<std::string>;
+
+struct Told {
+  explicit Told(const test::Deal& deal) : table(deal) {
+    table.engine->setObserver(&log);
+    table.Start();
+  }
+  EventLog log;
+  MatchTable table;
+};
+
+void PlayFirst(AiOperations& side) {
+  side.AI_PlayCard(1);
+  side.AI_EndTurn();
+}
+
+TEST(Events, AMatchFromItsFirstCardToAForfeit) {
+  Told told({.hand = {"fp2", "s299", "s399", "ps4"},
+             .opponentHand = {"ms-2"},
+             .draws = {7, 10, 6, 9, 10, 5, 10, 10, 10, 4}});
+  MatchTable& table = told.table;
+  table.engine->person().FirstFlip(1);
+  table.Play(1);
+  table.strategy.turns = {PlayFirst, test::StandOpponent};
+  table.EndTurn();
+  table.Play(3);
+  table.Stand();
+  EXPECT_EQ(
+      told.log.lines,
+      (Lines{"match for 10", "player begins set 1 at 0:0", "player draws no7 = 7", "player flips 1 to fm2",
+             "player plays 1 fm2 = 5", "player ends", "opponent draws no10 = 10", "opponent plays 1 ms-2 = 8",
+             "opponent ends", "player draws no6 = 11", "player plays 3 s399 as s300 turns 2 to fj2 = 15",
+             "player stands", "opponent draws no9 = 17", "opponent stands", "opponent wins the set 15:17"}));
+  told.log.lines.clear();
+  table.Continue();
+  table.EndTurn();
+  EXPECT_EQ(told.log.lines,
+            (Lines{"player begins set 2 at 0:1", "player draws no10 = 10", "player ends",
+                   "opponent draws no5 = 5", "opponent ends", "player draws no10 = 20",
+                   "player stands on twenty", "opponent draws no10 = 15", "opponent ends",
+                   "opponent draws no10 = 25", "opponent stands over twenty", "player wins the set 20:25"}))
+      << "a turn that only passes is none";
+  told.log.lines.clear();
+  table.Continue();
+  table.engine->person().Forfeit();
+  EXPECT_EQ(told.log.lines, (Lines{"player begins set 3 at 1:1", "player draws no4 = 4", "player gives up",
+                                   "opponent wins the match 1:3", "booked lost 10: 0 to 0"}));
+  EXPECT_EQ(told.log.wrongTotals, 0);
+}
+
+TEST(Events, AMatchThatIsWonIsDecidedAndBookedOnce) {
+  Told told(test::ThreeSets(10, 9));
+  for (int set = 1; set <= kSetsToWin; ++set) {
+    told.table.strategy.turns = {test::StandOpponent};
+    told.table.game.CreditsRef = std::make_shared<clsLong>();
+    told.table.game.CreditsRef->Value = 90;
+    told.table.Stand();
+    told.table.Continue();
+  }
+  const Lines end(told.log.lines.end() - 3, told.log.lines.end());
+  EXPECT_EQ(end, (Lines{"player wins the set 10:9, the last", "player wins the match 3:0",
+                        "booked won 10: 90 to 90"}));
+  EXPECT_EQ(std::count(told.log.lines.begin(), told.log.lines.end(), "player wins the match 3:0"), 1);
+}
+
+/// The rule that decided the set that the table shows, when it closes on `closing`.
+SetRule RuleOf(const std::vector<const char*>& yours, const std::vector<const char*>& theirs,
+               Seat closing = Seat::Player) {
+  MatchTable table({});
+  table.LoadTable(Seat::Player, yours);
+  table.LoadTable(Seat::Opponent, theirs);
+  return DecideSet(table.engine->shown(), closing).rule;
+}
+
+TEST(Events, ASetIsDecidedByTheFirstRuleThatApplies) {
+  const std::vector<const char*> nine(9, "no1");
+  EXPECT_EQ(RuleOf({"no10", "no10", "no1"}, {"no10", "no10", "no2"}), SetRule::PlayerOver);
+  EXPECT_EQ(RuleOf(nine, {"no10", "no10", "no2"}), SetRule::OpponentOver);
+  EXPECT_EQ(RuleOf(nine, nine), SetRule::PlayerNine);
+  EXPECT_EQ(RuleOf({"no9"}, nine), SetRule::OpponentNine);
+  EXPECT_EQ(RuleOf({"no8", "s11"}, {"no9"}), SetRule::Tiebreaker);
+  EXPECT_EQ(RuleOf({"no8", "s11"}, {"no9"}, Seat::Opponent), SetRule::Equal) << "not of the closing side";
+  EXPECT_EQ(RuleOf({"no8"}, {"no9"}), SetRule::HigherTotal);
+}
+
+TEST(Events, APeerThatGoesIsToldWhateverBecomesOfTheStake) {
+  Told told({.draws = {9, 7}, .mode = std::string(kModeNetwork), .hosting = true});
+  told.table.PeerReady();
+  told.log.lines.clear();
+  told.table.engine->peer().BrokenOff([&] { told.table.game.Wager = -1; });
+  EXPECT_EQ(told.log.lines, (Lines{"peer gone", "booked broken off 10: 0 to 0"}));
+}
+
+TEST(Events, AllObserversOfAMatchHearTheSame) {
+  EventLog first, second;
+  MatchObservers both;
+  both.Add(first);
+  both.Add(second);
+  MatchTable table({.draws = {5, 6, 7}});
+  table.engine->setObserver(&both);
+  table.Start();
+  EXPECT_EQ(first.lines, second.lines);
+  const std::size_t heard = first.lines.size();
+  both.Remove(first);
+  table.EndTurn();
+  EXPECT_EQ(first.lines.size(), heard) << "it has gone";
+  EXPECT_GT(second.lines.size(), heard);
+}
+
+/// The tables that the events make, beside those of the engine.
+TEST(Events, PlayedAgainTheyGiveTheEnginesTablesAtEveryStep) {
+  clsAI_Normal standard;
+  clsAI_Ember ember;
+  SeededRandom random(31);
+  const clsDeckArray special = OpponentDeck("H6-J8");
+  for (int match = 0; match < 2000; ++match) {
+    EventLog log;
+    int different = 0;
+    const auto compare = [&](const MatchEngine& engine) {
+      if (!engine.peer().betweenSets()) return;
+      for (const Seat seat : {Seat::Player, Seat::Opponent}) {
+        different += log.tables.at(static_cast<std::size_t>(seat)) == engine.shown().Table(seat) ? 0 : 1;
+      }
+    };
+    const HeadlessResult result =
+        PlayHeadless({standard, ember, special, special, {}, &log}, random, compare);
+    ASSERT_EQ(log.wrongTotals, 0) << match;
+    ASSERT_EQ(different, 0) << match;
+    const auto sets = std::count_if(log.events.begin(), log.events.end(), [](const MatchEvent& event) {
+      return std::holds_alternative<event::SetDecided>(event);
+    });
+    ASSERT_EQ(sets, result.sets) << match;
+  }
+}
+
+}  // namespace
+}  // namespace kv
