@@ -99,10 +99,19 @@ std::string HandText(const MatchShown& shown) {
   return "Hand: " + (text.empty() ? "empty" : text) + ".";
 }
 
+std::string LeftText(const MatchShown& shown) {
+  int left = 0;
+  for (int slot = 1; slot <= kHandSize; ++slot) {
+    if (!IsEmptySlot(shown.HandCard(Seat::Opponent, slot))) ++left;
+  }
+  return std::to_string(left) + (left == 1 ? " card in hand." : " cards in hand.");
+}
+
 std::string TableText(const MatchShown& shown, const std::string& opponent) {
   return "Your table: " + SideText(shown.side(Seat::Player)) + " " + opponent +
-         "'s table: " + SideText(shown.side(Seat::Opponent)) + " Sets " +
-         To(shown.SetWins(Seat::Player), shown.SetWins(Seat::Opponent)) + ". " + HandText(shown);
+         "'s table: " + SideText(shown.side(Seat::Opponent)) + " " + LeftText(shown) + " Sets " +
+         To(shown.SetWins(Seat::Player), shown.SetWins(Seat::Opponent)) + ". " + HandText(shown) +
+         (shown.Light(Seat::Player) ? " Your turn." : "");
 }
 
 void MatchSentences::Happened(const MatchEvent& event) {

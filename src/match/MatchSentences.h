@@ -20,7 +20,10 @@ namespace kv {
 
 /// "Hand: plus 3, minus 2." or "Hand: empty."
 [[nodiscard]] std::string HandText(const MatchShown& shown);
-/// "Your table: 7, 4, minus 2, total 9. Orrin Vaal's table: 10, total 10, stands. Sets 1 to 2. Hand: plus 3."
+/// "4 cards in hand.", of the opponent
+[[nodiscard]] std::string LeftText(const MatchShown& shown);
+/// "Your table: 7, 4, minus 2, total 9. Orrin Vaal's table: 10, total 10, stands. 4 cards in hand. Sets 1
+/// to 2. Hand: plus 3. Your turn."
 [[nodiscard]] std::string TableText(const MatchShown& shown, const std::string& opponent);
 
 /// Says each sentence as soon as it is complete: what the person does at once, a turn of the opponent when it

@@ -15,8 +15,10 @@ frmGame::frmGame(const frmGameServices& services)
     : Screen(services, "frmGame", services.player.Interface_Opt),
       services_(services),
       styleIndex_(services.player.Interface_Opt == "Ember" ? 1 : 0),
+      sentences_([this](const std::string& told) { services_.announcer.Announce(told, Urgency::Polite); }),
       engine_(services.game, MatchOptionsOf(services.player), *this, services.network, services.booking,
               services.dialogs, services.random) {
+  observers_.Add(sentences_);
   engine_.setObserver(&observers_);
   BuildTimers();
   BuildPanel();

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "match/MatchEngine.h"
+#include "match/MatchSentences.h"
 #include "match/ctlBust.h"
 #include "match/ctlChat.h"
 #include "match/frmGameHand.h"
@@ -69,15 +70,13 @@ class frmGame final : public Screen, private MatchView {
   ctlButton* NewMatchButton(QStringView control, std::function<void()> click);
   /// True when the key was one of the player's game keys; nothing else is done with it then.
   bool GameKey(const QKeyEvent& event);
-  /// The whole table, and the hand, in words.
-  [[nodiscard]] std::string SpokenTable() const;
-  [[nodiscard]] std::string SpokenHand() const;
   /// The keys by which everything is reached without a mouse or a look: arrows, Escape to give up the match,
   /// F2 and F3 to hear table and hand.
   bool FocusKey(const QKeyEvent& event);
 
   frmGameServices services_;
   const int styleIndex_;
+  MatchSentences sentences_;  // what happens, for who does not see it
   MatchObservers observers_;
   MatchEngine engine_;
   clsCardArray keys_;                             // the player's, as they were when the screen was activated

@@ -181,10 +181,10 @@ bool frmGame::FocusKey(const QKeyEvent& event) {
       ctlBust_->cmdBust().click();
       return true;
     case Qt::Key_F2:
-      services_.announcer.Announce(SpokenTable(), Urgency::Assertive);
+      services_.announcer.Announce(TableText(engine_.shown(), services_.game.OppName), Urgency::Assertive);
       return true;
     case Qt::Key_F3:
-      services_.announcer.Announce(SpokenHand(), Urgency::Assertive);
+      services_.announcer.Announce(HandText(engine_.shown()), Urgency::Assertive);
       return true;
     case Qt::Key_Escape:
       if (!event.isAutoRepeat() && ctlTitlebar_->Enabled()) engine_.person().Forfeit();
