@@ -87,14 +87,11 @@ void frmCards::BuildShop() {
   lblWager_ = layout().NewLabel(u"lblWager", this);
   lblCreditHeader_ = layout().NewLabel(u"lblCreditHeader", this);
   lblCredits_ = layout().NewLabel(u"lblCredits", this);
-  lblBuyorSell_ = layout().NewLabel(u"lblBuyorSell", this);
-  lblCost_ = layout().NewLabel(u"lblCost", this);
-  lblAmountHeader_ = layout().NewLabel(u"lblAmountHeader", this);
-  lblAmount_ = layout().NewLabel(u"lblAmount", this);
-  lblRefusal_ = layout().NewLabel(u"lblRefusal", this);
-  ctlTrade_ = NewCard(layout().rect(u"ctlTrade"), {});
-  ctlTrade_->setFocusPolicy(Qt::NoFocus);
-  ctlTrade_->setObjectName(QStringLiteral("ctlTrade"));
+  trade_.Build(this, layout());
+  ctlCard* picked = NewCard(layout().rect(u"ctlTrade"), {});
+  picked->setFocusPolicy(Qt::NoFocus);
+  picked->setObjectName(QStringLiteral("ctlTrade"));
+  trade_.setCard(picked);
 }
 
 void frmCards::BuildButtons() {
@@ -150,18 +147,9 @@ void frmCards::RefreshDeck() {
 
 void frmCards::RefreshShop() {
   const TradeArea shop = round_.desk().Shop();
-  for (QWidget* part : std::initializer_list<QWidget*>{lblBuyorSell_, lblCost_, lblAmountHeader_, lblAmount_,
-                                                       lblRefusal_, cmdTrade_}) {
-    part->setVisible(shop.shown);
-  }
-  ctlTrade_->setVisible(shop.shown && !shop.card.empty());
-  if (!shop.card.empty()) ctlTrade_->setCard(shop.card.text());
-  lblBuyorSell_->setText(ToQString(shop.priceHeader));
-  lblCost_->setText(QString::fromStdString(shop.price));
-  lblAmountHeader_->setText(ToQString(shop.amountHeader));
-  lblAmount_->setText(QString::fromStdString(shop.amount));
+  trade_.Show(shop);
+  cmdTrade_->setVisible(shop.shown);
   cmdTrade_->setCaption(ToQString(shop.caption));
-  lblRefusal_->setText(ToQString(shop.refusal));
   cmdTrade_->setEnabled(!shop.card.empty() && shop.refusal.empty());
 }
 
