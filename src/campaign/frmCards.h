@@ -6,6 +6,7 @@
 
 #include "campaign/CardRound.h"
 #include "campaign/ctlWager.h"
+#include "campaign/frmCardsTrade.h"
 #include "cards/clsDeckArray.h"
 #include "cards/ctlCard.h"
 #include "match/ctlChat.h"
@@ -87,16 +88,11 @@ class frmCards final : public Screen, private CardRoundView {
   ctlButton* cmdSell_ = nullptr;
   ctlButton* cmdTrade_ = nullptr;
   ctlButton* cmdContinue_ = nullptr;
-  ctlCard* ctlTrade_ = nullptr;
+  frmCardsTrade trade_;
   QLabel* lblWagerHeader_ = nullptr;
   QLabel* lblWager_ = nullptr;
   QLabel* lblCreditHeader_ = nullptr;
   QLabel* lblCredits_ = nullptr;
-  QLabel* lblBuyorSell_ = nullptr;
-  QLabel* lblCost_ = nullptr;
-  QLabel* lblAmountHeader_ = nullptr;
-  QLabel* lblAmount_ = nullptr;
-  QLabel* lblRefusal_ = nullptr;
   QLabel* lblDeckCount_ = nullptr;
   ctlChat* chat_ = nullptr;  // in a network mode only
 };

@@ -40,11 +40,6 @@ void PaintEmptySlots(QPainter& painter, const Layout& layout, const CardDesk& de
   painter.restore();
 }
 
-/// Before a card is picked there is a question mark.
-QString SpokenAmount(const std::string& shown) {
-  return shown == "?" ? QStringLiteral("no card picked") : QString::fromStdString(shown);
-}
-
 }  // namespace
 
 ctlCard* frmCards::NewCard(const QRect& place, std::function<void()> click) {
@@ -94,14 +89,11 @@ void frmCards::BuildShop() {
   lblWager_ = layout().NewLabel(u"lblWager", this);
   lblCreditHeader_ = layout().NewLabel(u"lblCreditHeader", this);
   lblCredits_ = layout().NewLabel(u"lblCredits", this);
-  lblBuyorSell_ = layout().NewLabel(u"lblBuyorSell", this);
-  lblCost_ = layout().NewLabel(u"lblCost", this);
-  lblAmountHeader_ = layout().NewLabel(u"lblAmountHeader", this);
-  lblAmount_ = layout().NewLabel(u"lblAmount", this);
-  lblRefusal_ = layout().NewLabel(u"lblRefusal", this);
-  ctlTrade_ = NewCard(layout().rect(u"ctlTrade"), {});
-  ctlTrade_->setFocusPolicy(Qt::NoFocus);
-  ctlTrade_->setObjectName(QStringLiteral("ctlTrade"));
+  trade_.Build(this, layout());
+  ctlCard* picked = NewCard(layout().rect(u"ctlTrade"), {});
+  picked->setFocusPolicy(Qt::NoFocus);
+  picked->setObjectName(QStringLiteral("ctlTrade"));
+  trade_.setCard(picked);
 }
 
 void frmCards::BuildButtons() {
@@ -163,20 +155,9 @@ void frmCards::RefreshDeck() {
 
 void frmCards::RefreshShop() {
   const TradeArea shop = round_.desk().Shop();
-  for (QWidget* part :
-       std::initializer_list<QWidget*>{lblBuyorSell_, lblCost_, lblAmountHeader_, lblAmount_, cmdTrade_}) {
-    part->setVisible(shop.shown);
-  }
-  ctlTrade_->setVisible(shop.shown && !shop.card.empty());
-  if (!shop.card.empty()) ctlTrade_->setCard(shop.card.text());
-  lblBuyorSell_->setText(ToQString(shop.priceHeader));
-  ShowValue(*lblCost_, u"Price", QString::fromStdString(shop.price), SpokenAmount(shop.price));
-  lblAmountHeader_->setText(ToQString(shop.amountHeader));
-  ShowValue(*lblAmount_, u"Number of copies", QString::fromStdString(shop.amount), SpokenAmount(shop.amount));
+  trade_.Show(shop);
+  cmdTrade_->setVisible(shop.shown);
   cmdTrade_->setCaption(ToQString(shop.caption));
-  lblRefusal_->setVisible(shop.shown && !shop.refusal.empty());
-  lblRefusal_->setText(ToQString(shop.refusal));
-  lblRefusal_->setAccessibleName(lblRefusal_->text());
   cmdTrade_->setEnabled(!shop.card.empty() && shop.refusal.empty());
 }
 

@@ -16,6 +16,16 @@ constexpr Seat SeatOf(bool isOpponent) {
   return isOpponent ? Seat::Opponent : Seat::Player;
 }
 
+/// The ten cards of the main deck, made once: one is drawn in every turn of every simulated match.
+const CardCode& MainCard(int value) {
+  static const std::array<CardCode, 10> cards = [] {
+    std::array<CardCode, 10> made;
+    for (int i = 1; i <= 10; ++i) made.at(static_cast<std::size_t>(i) - 1) = {CardType::MainDeck, i};
+    return made;
+  }();
+  return cards.at(static_cast<std::size_t>(value) - 1);
+}
+
 int TableTotal(std::span<const CardCode> table) {
   int total = 0;
   for (const CardCode& card : table) total += card.cardValue();
@@ -59,7 +69,7 @@ CardCode MatchBoard::DrawMainCard() {
     value = static_cast<int>(random_.Rnd() * 10) + 1;
   } while (mainDeckCount_.at(static_cast<std::size_t>(value)) >= kCopiesInMainDeck);
   DeductDrawCard(value);
-  return {CardType::MainDeck, value};
+  return MainCard(value);
 }
 
 void MatchBoard::DeductDrawCard(int value) {
@@ -68,9 +78,9 @@ void MatchBoard::DeductDrawCard(int value) {
 }
 
 void MatchBoard::Draw(Seat seat, const CardCode& card) {
-  if (shown_.TableFull(seat)) return;
+  const bool lands = teller_.heard() && !shown_.TableFull(seat);
   LoadNextCard(card, seat == Seat::Opponent);
-  teller_.Drew(seat);
+  if (lands) teller_.Drew(seat);
 }
 
 void MatchBoard::PlayFromHand(Seat seat, int slot, const CardCode& code) {

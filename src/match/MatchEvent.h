@@ -1,6 +1,6 @@
-// What happened in a match, as plain values: each is told once, at the moment of the rule, for both sides and
-// for a peer's moves as well. An event carries all that it is about, so that nobody has to read a state to
-// guess it; played again on two empty tables, the events of a set give its cards and totals.
+// What happened in a match, as plain values: each told once, at the moment of the rule, for both sides. An
+// event carries all that it is about: nobody has to read a state to guess it. Played again on two empty
+// tables, the events of a set give its cards and totals.
 #pragma once
 
 #include <array>
@@ -74,8 +74,7 @@ struct MatchDecided {
   Both setWins{};
 };
 enum class Result : std::uint8_t { Won, Lost, BrokenOff };
-/// The stake had been taken before the match, so that a loss changes nothing any more. Without credits, as in
-/// simulations, both are 0.
+/// The stake left the credits before the match. Without credits, as in simulations, both are 0.
 struct Booked {
   Result result = Result::Won;
   std::int32_t stake = 0;

@@ -32,18 +32,10 @@ bool PlayerWins(SetRule rule, const MatchShown& shown, Seat closing) {
 
 }  // namespace
 
-bool StandsByItself(const MatchShown& shown) {
-  return shown.TableFull(Seat::Player) || shown.Total(Seat::Player) == kTargetTotal;
-}
-
 bool EndsTurnByItself(const MatchShown& shown, const MatchOptions& options) {
   const int total = shown.Total(Seat::Player);
-  const bool opponentBehind = shown.Stood(Seat::Opponent) && shown.Total(Seat::Opponent) <= total;
-  return options.autoTurn && total < kLowTotal && !opponentBehind;
-}
-
-bool SetIsOver(const MatchShown& shown, Seat closing) {
-  return shown.TableFull(closing) || (shown.Stood(Seat::Player) && shown.Stood(Seat::Opponent));
+  if (!options.autoTurn || total >= kLowTotal) return false;
+  return !shown.Stood(Seat::Opponent) || shown.Total(Seat::Opponent) > total;
 }
 
 StandReason StandReasonOf(const MatchShown& shown, Seat seat) {

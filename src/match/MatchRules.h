@@ -17,7 +17,9 @@ struct SetDecision {
 };
 
 /// 20 exactly, or a ninth card: the player stands at once.
-[[nodiscard]] bool StandsByItself(const MatchShown& shown);
+[[nodiscard]] inline bool StandsByItself(const MatchShown& shown) {
+  return shown.Total(Seat::Player) == kTargetTotal || shown.TableFull(Seat::Player);
+}
 /// A low total, with the option on, unless the opponent stands on no more than the player has.
 [[nodiscard]] bool EndsTurnByItself(const MatchShown& shown, const MatchOptions& options);
 
@@ -26,7 +28,9 @@ struct SetDecision {
 [[nodiscard]] StandReason StandReasonOf(const MatchShown& shown, Seat seat);
 
 /// The set is over when both sides have stood (a bust makes both stand) or the closing side's table is full.
-[[nodiscard]] bool SetIsOver(const MatchShown& shown, Seat closing);
+[[nodiscard]] inline bool SetIsOver(const MatchShown& shown, Seat closing) {
+  return (shown.Stood(Seat::Player) && shown.Stood(Seat::Opponent)) || shown.TableFull(closing);
+}
 /// Of a set that is over.
 [[nodiscard]] SetDecision DecideSet(const MatchShown& shown, Seat closing);
 

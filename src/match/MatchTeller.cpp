@@ -37,23 +37,22 @@ void MatchTeller::Flipped(int slot) const {
   if (heard()) Tell(event::Flipped{slot, shown_.HandCard(Seat::Player, slot)});
 }
 
-void MatchTeller::Played(Seat seat, int slot, const CardCode& card,
-                         const std::vector<CardCode>& table) const {
-  if (!heard()) return;
+void MatchTeller::TellPlayed(Seat seat, int slot, const CardCode& card,
+                             const std::vector<CardCode>& table) const {
   const auto& now = shown_.Table(seat);
   Tell(event::Played{seat, slot, card, now.back(), Turned(table, now), shown_.Total(seat)});
 }
 
-void MatchTeller::EndedTurn(Seat seat) const {
+void MatchTeller::TellEnd(Seat seat) const {
   if (shown_.Total(seat) > kTargetTotal) {
-    Stood(seat);
-  } else if (heard()) {
+    TellStood(seat);
+  } else {
     Tell(event::EndedTurn{seat, shown_.Total(seat)});
   }
 }
 
-void MatchTeller::Stood(Seat seat) const {
-  if (heard()) Tell(event::Stood{seat, StandReasonOf(shown_, seat), shown_.Total(seat)});
+void MatchTeller::TellStood(Seat seat) const {
+  Tell(event::Stood{seat, StandReasonOf(shown_, seat), shown_.Total(seat)});
 }
 
 void MatchTeller::SetDecided(const SetDecision& decision) const {

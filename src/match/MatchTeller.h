@@ -24,16 +24,25 @@ class MatchTeller {
   /// Hand slot 1 to 4 of the person.
   void Flipped(int slot) const;
   /// `table` is the side's as it was before, if anybody hears.
-  void Played(Seat seat, int slot, const CardCode& card, const std::vector<CardCode>& table) const;
+  void Played(Seat seat, int slot, const CardCode& card, const std::vector<CardCode>& table) const {
+    if (heard()) TellPlayed(seat, slot, card, table);
+  }
   /// A turn that ends over 20 is the side's last.
-  void EndedTurn(Seat seat) const;
-  void Stood(Seat seat) const;
+  void EndedTurn(Seat seat) const {
+    if (heard()) TellEnd(seat);
+  }
+  void Stood(Seat seat) const {
+    if (heard()) TellStood(seat);
+  }
   void SetDecided(const SetDecision& decision) const;
   /// `more`: sets that the winner has won besides those that are shown.
   void MatchDecided(Seat winner, int more = 0) const;
   void Tell(const MatchEvent& event) const;
 
  private:
+  void TellPlayed(Seat seat, int slot, const CardCode& card, const std::vector<CardCode>& table) const;
+  void TellEnd(Seat seat) const;
+  void TellStood(Seat seat) const;
   [[nodiscard]] event::Both Totals() const { return {shown_.sides[0].total, shown_.sides[1].total}; }
   [[nodiscard]] event::Both SetWins() const { return {shown_.sides[0].setWins, shown_.sides[1].setWins}; }
 

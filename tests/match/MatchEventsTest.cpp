@@ -65,6 +65,20 @@ TEST(Events, AMatchFromItsFirstCardToAForfeit) {
   EXPECT_EQ(told.log.wrongTotals, 0);
 }
 
+TEST(Events, ATurnThatEndsByItselfIsToldAndOneThatOnlyPassesIsNot) {
+  for (const std::string_view mode : {kModeArcade, kModeNetwork}) {
+    EventLog log;
+    test::MatchCourse course{std::string(mode)};
+    course.table.engine->setObserver(&log);
+    course.Play();
+    const auto times = [&](const char* line) { return std::count(log.lines.begin(), log.lines.end(), line); };
+    EXPECT_EQ(times("player ends"), 1) << mode;
+    EXPECT_EQ(times("player stands on twenty"), 1) << mode;
+    EXPECT_EQ(times("opponent ends"), 1) << mode;
+    EXPECT_EQ(times("opponent stands"), 1) << mode;
+  }
+}
+
 TEST(Events, AMatchThatIsWonIsDecidedAndBookedOnce) {
   Told told(test::ThreeSets(10, 9));
   for (int set = 1; set <= kSetsToWin; ++set) {

@@ -50,7 +50,7 @@ TEST(Sentences, ASetIsHeardFromItsFirstCardToItsResult) {
              "You stand on 15.", "Orrin Vaal draws 9, total 10, stands.", "You win the set, 15 to 10."}));
   EXPECT_EQ(TableText(match.table.engine->shown(), "Orrin Vaal"),
             "Your table: 7, 2, 6, 0, total 15, stands. Orrin Vaal's table: 4, minus 3, 9, total 10, stands. "
-            "Sets 1 to 0. Hand: double; plus 4.");
+            "0 cards in hand. Sets 1 to 0. Hand: double; plus 4.");
 }
 
 TEST(Sentences, AMatchThatIsGivenUpInTheMiddleOfATurn) {

@@ -65,9 +65,9 @@ TEST_P(frmGameKeysTest, TableAndHandAreToldAgainByAKeyEach) {
   EXPECT_THAT(
       match.announcer.Last(),
       testing::MatchesRegex("Your table: 4, total 4\\. .*'s table: empty, total 0\\. 4 cards in hand\\. "
-                            "Sets 0 to 0\\. Hand: plus 3, .* Your turn\\."));
+                            "Sets 0 to 0\\. Hand: plus 3; .* Your turn\\."));
   ScreenHand(*match.screen).Key(Qt::Key_F3);
-  EXPECT_EQ(match.announcer.Last().substr(0, 13), "Hand: plus 3,");
+  EXPECT_EQ(match.announcer.Last().substr(0, 13), "Hand: plus 3;");
   EXPECT_EQ(match.screen->side(Seat::Player).light().accessibleName(), QStringLiteral("Your turn light: on"));
 }
 
