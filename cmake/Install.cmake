@@ -1,8 +1,10 @@
 # What is installed, and where. The programs look for their data in share/kelm-vantri, seen from where they are, so
 # the whole may be moved to another place.
-option(KV_DEBIAN "Install what only a Debian package has: its change log" OFF)
+option(KV_DEBIAN "Install what only a Debian package has: its change log, notes for its checker" OFF)
 
-set(CMAKE_INSTALL_DOCDIR ${CMAKE_INSTALL_DATAROOTDIR}/doc/kelm-vantri CACHE PATH "Documents")
+if("$CACHE{CMAKE_INSTALL_DOCDIR}" STREQUAL "")
+  set(CMAKE_INSTALL_DOCDIR ${CMAKE_INSTALL_DATAROOTDIR}/doc/kelm-vantri)
+endif()
 set(data ${CMAKE_INSTALL_DATADIR}/kelm-vantri)
 set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
 set(built ${PROJECT_BINARY_DIR}/bin)
@@ -55,6 +57,8 @@ if(KV_DEBIAN)
   configure_file(packaging/changelog.in ${packaging}/changelog @ONLY)
   kv_compress(${packaging}/changelog)
   install(FILES ${packaging}/changelog.gz DESTINATION ${CMAKE_INSTALL_DOCDIR})
+  install(FILES packaging/lintian-overrides DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides
+          RENAME kelm-vantri)
 else()
   install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
 endif()

@@ -14,12 +14,8 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# Sound libraries are loaded by name once the first window stands: no tool sees that.
+# The sound library is loaded by name once the first window stands: no tool sees that.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "libsdl2-2.0-0")
-file(STRINGS ${PROJECT_SOURCE_DIR}/src/platform/SdlSoundDevice.cpp mixer REGEX "\"libSDL2_mixer-2.0.so.0\"")
-if(mixer)
-  string(APPEND CPACK_DEBIAN_PACKAGE_DEPENDS ", libsdl2-mixer-2.0-0")
-endif()
 # Wayland's own windows, and what opens a folder or an address. X11, GIF and JPEG come with libqt6gui6.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, xdg-utils")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION

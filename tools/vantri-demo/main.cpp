@@ -36,6 +36,7 @@ class Silence final : public kv::SoundDevice {
   int LoadBuffer(const std::string&) override { return -1; }
   void PlayBuffer(int) override {}
   void PlayOnce(const std::string&) override {}
+  void setVolume(int) override {}
 };
 
 void Go(kv::DemoPerson& person, const std::string& style, std::span<const std::string> options) {
