@@ -81,7 +81,10 @@ void frmSplash::BuildCreation() {
       frmSplashCreation::Services{services().buttons, services().scheduler, services().announcer, lifetime(),
                                   splash_});
   creation_->StepChanged = [this] { StepChanged(); };
-  creation_->GivenUp = [this] { BackToList(); };
+  creation_->GivenUp = [this] {
+    BackToList();
+    FocusList();
+  };
   creation_->Done = [this](const std::string& fileName, const std::string& pin) {
     BackToList();
     RefreshPlayerList();
