@@ -3,6 +3,8 @@
 #include <QAbstractButton>
 #include <QAccessibleWidget>
 #include <QCheckBox>
+#include <QCoreApplication>
+#include <QEvent>
 #include <QRadioButton>
 #include <optional>
 
@@ -19,18 +21,33 @@
 namespace kv {
 namespace {
 
-/// What a reader presses while the reader waits: the press itself comes later, from the event loop, for it
-/// may open a box that stays for minutes.
-void PressSoon(QWidget* widget) {
-  const auto press = [widget] {
-    if (!widget->isEnabled() || !widget->isVisible()) return;
-    if (auto* button = dynamic_cast<QAbstractButton*>(widget)) {
+/// A press that comes later, from the event loop: the reader waits for the answer to its own call, and what
+/// it presses may open a box that stays for minutes. It goes with its control, or when it has been done.
+class Press final : public QObject {
+ public:
+  explicit Press(QWidget* control) : QObject(control), control_(*control) {
+    QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+  }
+
+ protected:
+  bool event(QEvent* event) override {
+    if (event->type() != QEvent::User) return QObject::event(event);
+    deleteLater();
+    if (!control_.isEnabled() || !control_.isVisible()) return true;
+    if (auto* button = dynamic_cast<QAbstractButton*>(&control_)) {
       button->click();
-    } else if (auto* other = dynamic_cast<Pressable*>(widget); other != nullptr && other->pressable()) {
+    } else if (auto* other = dynamic_cast<Pressable*>(&control_); other != nullptr && other->pressable()) {
       other->DoPress();
     }
-  };
-  QMetaObject::invokeMethod(widget, press, Qt::QueuedConnection);
+    return true;
+  }
+
+ private:
+  QWidget& control_;
+};
+
+void PressSoon(QWidget* control) {
+  new Press(control);
 }
 
 /// A button, or a picture, card or label that can be pressed.

@@ -68,7 +68,7 @@ QtAnnouncer::~QtAnnouncer() {
 }
 
 void QtAnnouncer::Announce(const std::string& text, Urgency urgency) {
-  if (text.empty() || !QAccessible::isActive()) return;
+  if (text.empty()) return;
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
   if (QObject* window = QApplication::activeWindow()) {
     QAccessibleAnnouncementEvent event(window, ToQString(text));

@@ -7,6 +7,7 @@
 #include <QRadioButton>
 #include <limits>
 
+#include "presentation/ChoiceList.h"
 #include "presentation/WidgetSkin.h"
 #include "screens/SkinnedBox.h"
 
@@ -107,6 +108,7 @@ void frmOptionsFields::AddList(int index, QWidget& frame, Layout& layout) {
   list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   SkinWidget(*list, layout.bag(field.control));
   layout.Place(field.control, *list);
+  LetCurrentFollowSelection(*list);
   const int rowHeight = (list->height() - 2 * list->frameWidth()) / list->count();
   for (int row = 0; row < list->count(); ++row) list->item(row)->setSizeHint(QSize(0, rowHeight));
   QObject::connect(list, &QListWidget::currentRowChanged, &frame, [this, list] {

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QPushButton>
 
+#include "presentation/ChoiceList.h"
 #include "presentation/PanelPainter.h"
 #include "presentation/WidgetSkin.h"
 #include "screens/PinBox.h"
@@ -65,6 +66,7 @@ void frmSplash::BuildList() {
   lstPlayers_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   SkinWidget(*lstPlayers_, layout().bag(u"lstPlayers"));
   layout().Place(u"lstPlayers", *lstPlayers_);
+  LetCurrentFollowSelection(*lstPlayers_);
   connect(lstPlayers_, &QListWidget::currentRowChanged, this, [this] { PlayerSelected(); });
   // Also a click on the entry that is current already: it stays selected, and the PIN is typed anew.
   connect(lstPlayers_, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
@@ -87,7 +89,10 @@ void frmSplash::BuildCreation() {
       frmSplashCreation::Services{services().buttons, services().scheduler, services().announcer, lifetime(),
                                   splash_});
   creation_->StepChanged = [this] { StepChanged(); };
-  creation_->GivenUp = [this] { BackToList(); };
+  creation_->GivenUp = [this] {
+    BackToList();
+    FocusList();
+  };
   creation_->Done = [this](const std::string& fileName, const std::string& pin) {
     BackToList();
     RefreshPlayerList();

@@ -124,7 +124,6 @@ void frmSplash::SelectPlayer(const std::string& name, const std::string& pin) {
 void frmSplash::BackToList() {
   cmdCreate_->setEnabled(true);
   ShowList(true);
-  FocusList();
 }
 
 ctlButton* frmSplash::StepButton() const {

@@ -241,7 +241,7 @@ TEST_P(CardsScreenTest, WhatTheDeskDoesIsTold) {
   EXPECT_EQ(stage.announcer.Last(), "minus 6 added. 10 of 10 cards.");
   Key(Qt::Key_2);
   Click(*screen->Bank({1, 1}));
-  EXPECT_EQ(stage.announcer.Last(), "plus 1. Price 600. 2 owned.");
+  EXPECT_EQ(stage.announcer.Last(), "plus 1. Price 600. 4 owned.");
   EXPECT_EQ(Label("lblCost").accessibleName(), QStringLiteral("Price: 600"));
   Click(Button("cmdTrade"));
   EXPECT_EQ(stage.announcer.Last(), "Bought plus 1. 80 credits.");

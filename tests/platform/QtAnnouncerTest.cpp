@@ -1,4 +1,7 @@
 #include <gtest/gtest.h>
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
 
 #include <QAccessible>
 #include <QString>
@@ -23,12 +26,16 @@ class QtAnnouncerTest : public testing::Test {
  protected:
   void SetUp() override {
     shownLines.clear();
-    QAccessible::setActive(true);
+    SetReader(true);
     previous_ = QAccessible::installUpdateHandler(Remember);
   }
   void TearDown() override {
     QAccessible::installUpdateHandler(previous_);
-    QAccessible::setActive(false);
+    SetReader(false);
+  }
+  /// Without a reader the toolkit tells nothing; off screen there is none that could come.
+  static void SetReader(bool there) {
+    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(there);
   }
   static QString Read(const Shown& shown) {
     return QAccessible::accessibleInterface(shown.line)->text(QAccessible::Name);

@@ -142,6 +142,15 @@ TEST(frmOptionsTest, ListsAndTurnSystemEditTheirFields) {
   EXPECT_EQ(stage.player.TurnMode_Opt, 0);
 }
 
+TEST(frmOptionsTest, AnEntryThatAScreenReaderSelectsIsTheOneThatIsStored) {
+  OptionsStage stage;
+  stage.Open();
+  // It selects an entry without moving to it.
+  stage.Find<QListWidget>("lstInterface").item(1)->setSelected(true);
+  stage.Click("cmdOK");
+  EXPECT_EQ(stage.player.Interface_Opt, "Ember");
+}
+
 TEST(frmOptionsTest, ValuesThatNoControlShowsAreKept) {
   OptionsStage stage;
   stage.player.TurnMode_Opt = 9;

@@ -379,7 +379,7 @@ TEST_F(frmSplashTest, LinkAndWindowButtonsDoWhatTheySay) {
 }
 
 TEST_F(frmSplashTest, TheFocusOfTheCreationGoesStraightToWhatIsTypedNext) {
-  PutPlayer("ann", "");
+  PutPlayer("ann.vnt", "");
   Open();
   std::vector<std::string> had;
   const auto watch =
