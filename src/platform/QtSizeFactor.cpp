@@ -34,6 +34,7 @@ void QtSizeFactor::Set(double factor) {
   if (!Changeable() || bounded == factor_) return;
   factor_ = bounded;
   for (QScreen* screen : QGuiApplication::screens()) Apply(*screen);
+  QtShrunken::Refresh();
 }
 
 void QtSizeFactor::Apply(QScreen& screen) {

@@ -1,11 +1,13 @@
-// The factor by which everything that Qt draws is larger than its layout says: windows, boxes, texts, pictures,
-// positions of the pointer. The one place of it; nothing else multiplies a length by it.
+// The factor by which everything that Qt draws is larger than its layout says: windows, boxes, texts,
+// pictures, positions of the pointer. The one place of it; nothing else multiplies a length by it.
 #pragma once
 
 #include <QHash>
 #include <QObject>
 #include <QRect>
 #include <QString>
+
+#include "platform/QtShrunken.h"
 
 class QScreen;
 
@@ -31,6 +33,7 @@ class QtSizeFactor final : public QObject {
 
   QHash<QString, double> desktop_;  // what the desktop asks for, by the name of the screen
   double factor_ = 1;
+  QtShrunken shrunken_;
 };
 
 }  // namespace kv

@@ -48,8 +48,10 @@ TEST_F(StageTest, KeysChangeTheSizeOfEverythingAtOnceAndItIsRemembered) {
   EXPECT_EQ(Ratio(), 1.5);
   for (int step = 0; step < 20; ++step) Press(Qt::Key_Minus, Qt::ControlModifier);
   EXPECT_EQ(stage().ShownPercent(), kLeastSize);
+  EXPECT_NE(stage().graphicsEffect(), nullptr) << "the toolkit's painter does not reduce";
   for (int step = 0; step < 20; ++step) Press(Qt::Key_Plus, Qt::ControlModifier);
   EXPECT_EQ(stage().ShownPercent(), kMostSize);
+  EXPECT_EQ(stage().graphicsEffect(), nullptr) << "it would blur what the painter draws sharp";
   EXPECT_NE(first, kMostSize);
 }
 
