@@ -25,13 +25,16 @@ struct Ended {
 };
 
 /// Runs a program in an empty home, where a window could not be opened.
-Ended Run(const QString& program, const QStringList& words, const char* display = "xcb") {
+Ended Start(const QString& program, const QStringList& words, const char* display = "xcb") {
   const QTemporaryDir home;
   QProcess process;
   process.setWorkingDirectory(home.path());
   QProcessEnvironment environment;
   environment.insert(QStringLiteral("HOME"), home.path());
   environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QString::fromLatin1(display));
+  // How the sanitizers of a checked build are set goes on to the programs.
+  const char* sanitizers = "ASAN_OPTIONS";
+  environment.insert(QString::fromLatin1(sanitizers), qEnvironmentVariable(sanitizers));
   process.setProcessEnvironment(environment);
   process.start(program, words);
   const bool ended = process.waitForFinished(kPatience) && process.exitStatus() == QProcess::NormalExit;
@@ -47,7 +50,7 @@ QString PathOf(const char* program) {
 class EveryProgram : public testing::TestWithParam<const char*> {};
 
 TEST_P(EveryProgram, TellsItsVersion) {
-  const Ended end = Run(PathOf(GetParam()), {QStringLiteral("--version")});
+  const Ended end = Start(PathOf(GetParam()), {QStringLiteral("--version")});
   EXPECT_EQ(end.code, 0) << end.errors;
   EXPECT_EQ(end.output, std::string(GetParam()) + " " KV_VERSION "\n");
   EXPECT_EQ(end.errors, "");
@@ -55,7 +58,7 @@ TEST_P(EveryProgram, TellsItsVersion) {
 }
 
 TEST_P(EveryProgram, TellsItsOptions) {
-  const Ended end = Run(PathOf(GetParam()), {QStringLiteral("--help")});
+  const Ended end = Start(PathOf(GetParam()), {QStringLiteral("--help")});
   EXPECT_EQ(end.code, 0) << end.errors;
   EXPECT_TRUE(end.output.starts_with(std::string("usage: ") + GetParam() + " ")) << end.output;
   EXPECT_EQ(end.errors, "");
@@ -63,7 +66,7 @@ TEST_P(EveryProgram, TellsItsOptions) {
 }
 
 TEST_P(EveryProgram, RefusesAnOptionThatItDoesNotKnow) {
-  const Ended end = Run(PathOf(GetParam()), {QStringLiteral("--no-such-option")}, "offscreen");
+  const Ended end = Start(PathOf(GetParam()), {QStringLiteral("--no-such-option")}, "offscreen");
   EXPECT_EQ(end.code, 2);
   EXPECT_NE(end.errors, "");
   EXPECT_EQ(end.output, "");
