@@ -78,6 +78,7 @@ void Stage::setInterfaceStyle(std::string_view style) {
 void Stage::Show(Screen& screen) {
   if (screen_ != nullptr) screen_->removeEventFilter(this);
   screen_ = &screen;
+  content_ = &screen;
   screen.setParent(this);
   screen.clearMask();  // its own, as a window
   screen.installEventFilter(this);
@@ -228,10 +229,10 @@ bool Stage::eventFilter(QObject* watched, QEvent* event) {
                        event->type() == QEvent::MouseButtonRelease;
     return click && MeantForTheLastScreen(*static_cast<QMouseEvent*>(event));
   }
-  if (watched == screen_ && event->type() == QEvent::WindowTitleChange) {
-    setWindowTitle(screen_->windowTitle());
+  if (watched == content_ && event->type() == QEvent::WindowTitleChange) {
+    setWindowTitle(static_cast<QWidget*>(watched)->windowTitle());
   }
-  if (watched == screen_ && event->type() == QEvent::Resize && !placing_) Reshape();
+  if (watched == content_ && event->type() == QEvent::Resize && !placing_) Reshape();
   return QWidget::eventFilter(watched, event);
 }
 

@@ -73,7 +73,8 @@ class Stage final : public QWidget, public WindowSize {
 
   QtSizeFactor* sizes_;
   QPointer<Screen> screen_;
-  QSize largest_;  // screen of the style, in layout pixels
+  const QObject* content_ = nullptr;  // the same, only compared: events come while it is being destroyed, too
+  QSize largest_;                     // screen of the style, in layout pixels
   QPixmap kept_;
   QPointF place_{0.5, 0.5};
   QRect placed_;  // what it has come to, within the work area

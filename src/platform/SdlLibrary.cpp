@@ -85,7 +85,7 @@ struct SdlLibrary::Functions {
     if (plan(&steps, form.format, form.channels, form.freq, AUDIO_S16SYS, kChannels, kRate) < 0) return {};
     const std::size_t room =
         static_cast<std::size_t>(size) * static_cast<std::size_t>(std::max(steps.len_mult, 1));
-    if (room > kMostRoom) return {};
+    if (size == 0 || room > kMostRoom) return {};
     std::vector<std::int16_t> samples((room + 1) / sizeof(std::int16_t));
     std::memcpy(samples.data(), bytes, size);
     steps.len = steps.len_cvt = static_cast<int>(size);

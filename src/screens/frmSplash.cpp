@@ -34,6 +34,7 @@ frmSplash::frmSplash(const ScreenServices& services, const frmSplashServices& sp
   BuildCreation();
   BuildFrame();
   BuildTitle();
+  for (QWidget* control : findChildren<QWidget*>()) control->installEventFilter(this);
   ShowList(true);
 }
 
@@ -135,6 +136,12 @@ void frmSplash::Shown() {
 void frmSplash::Closing() {
   title_->Stop();
   tmrLoadWatch_->setEnabled(false);
+}
+
+/// A key that a control takes for itself wakes the title, too.
+bool frmSplash::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress) title_->Stir();
+  return Screen::eventFilter(watched, event);
 }
 
 void frmSplash::keyPressEvent(QKeyEvent* event) {

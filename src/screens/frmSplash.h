@@ -36,6 +36,7 @@ class frmSplash final : public Screen {
   void Activate() override;
   void Shown() override;
   void Closing() override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;

@@ -220,9 +220,9 @@ TEST_F(ProgramTest, SurvivesAMonkey) {
       continue;
     }
     Screen& screen = *program->screen();
+    seen.insert(ScreenName());
     if (ScreenName() == "frmSplash" && upTo(3) != 0) EnterMenu("ann");
     if (program->screen() != &screen) continue;
-    seen.insert(ScreenName());
     test::ScreenHand hand(screen);
     dialogs.answers.assign(4, upTo(3) != 0);
     dialogs.texts.assign(4, upTo(2) == 0 ? std::optional<std::string>("7000") : std::nullopt);
