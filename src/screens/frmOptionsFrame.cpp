@@ -82,7 +82,9 @@ frmOptionsFrame::frmOptionsFrame(QWidget* parent, Layout& layout, QStringView co
 
 void frmOptionsFrame::AddPanel(Layout& layout, QStringView control) {
   const Panel panel = PanelOf(layout, control);
-  layout.NewLabel(control, this)->setGeometry(HeadingOf(panel).adjusted(kHeadingIndent, 0, 0, -1));
+  if (panel.headed) {
+    layout.NewLabel(control, this)->setGeometry(HeadingOf(panel).adjusted(kHeadingIndent, 0, 0, -1));
+  }
   panels_.push_back(panel);
 }
 

@@ -181,9 +181,9 @@ class Walk:
 
     def hear_table(self):
         key('F2')
-        self.reader.heard("^Your table: .*total .*Opponent's table: .*Sets 0 to 0\\. Your turn\\.")
+        self.reader.heard("^Your table: .*total .*'s table: .*Sets 0 to 0\\. .*Your turn\\.")
         key('F3')
-        self.reader.heard('^Your hand: card 1: ')
+        self.reader.heard('^Hand: ')
         self.reader.get('Your turn light: on')
         self.reader.get("Opponent's turn light: off")
 
