@@ -23,6 +23,7 @@ class frmOptionsFrame;
 class frmOptionsKeys;
 class frmOptionsPortrait;
 class frmOptionsSize;
+class frmOptionsVolume;
 
 struct frmOptionsServices {
   clsPlayer& player;
@@ -83,6 +84,7 @@ class frmOptions final : public Screen, public PortraitCaller {
   frmOptionsPortrait* imgYourPic_ = nullptr;
   QLineEdit* txtName_ = nullptr;
   PinBox* txtPIN_ = nullptr;
+  frmOptionsVolume* sldVolume_ = nullptr;
   ctlButton* cmdKeys_ = nullptr;
   ctlButton* cmdOK_ = nullptr;
   ctlButton* cmdCancel_ = nullptr;

@@ -70,14 +70,14 @@ void frmOptions::BuildPlayer() {
 }
 
 void frmOptions::BuildVolume() {
-  auto* volume = new frmOptionsVolume(*frmeOptions_, layout(), options_.settings.volume());
-  volume->Changed = [this](int percent) {
+  sldVolume_ = new frmOptionsVolume(*frmeOptions_, layout(), options_.settings.volume());
+  sldVolume_->Changed = [this](int percent) {
     options_.settings.setVolume(percent);
     if (options_.setVolume) options_.setVolume(percent);
     PlayEffect("check");
   };
   // With the other sounds, in front of the hotkeys that follow them.
-  QWidget::setTabOrder(&fields_->chkLastMute(), volume);
+  QWidget::setTabOrder(&fields_->chkLastMute(), sldVolume_);
 }
 
 void frmOptions::BuildKeys() {
