@@ -8,6 +8,9 @@
 
 namespace kv {
 
+inline constexpr int kTarget = 20;
+inline constexpr int kFullTable = 9;
+
 class AiOperations {
  public:
   virtual ~AiOperations() = default;

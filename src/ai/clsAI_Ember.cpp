@@ -3,8 +3,6 @@
 namespace kv {
 namespace {
 
-constexpr int kTarget = 20;
-constexpr int kFullTable = 9;
 constexpr int kLowest = -24;  // no total lies deeper
 
 }  // namespace

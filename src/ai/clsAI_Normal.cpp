@@ -5,9 +5,6 @@
 namespace kv {
 namespace {
 
-constexpr int kTarget = 20;
-constexpr int kFullTable = 9;
-
 /// One turn of the standard strategy. Each rule returns true when it has closed the turn.
 class Turn {
  public:

@@ -8,7 +8,7 @@ namespace {
 constexpr int kFirstFace = 200;
 constexpr int kStyleStep = 20;
 
-std::string Signed(int value) {
+std::string InWords(int value) {
   return (value < 0 ? "minus " : "plus ") + std::to_string(std::abs(value));
 }
 
@@ -43,17 +43,17 @@ std::string SpokenCard(const CardCode& code) {
       return "plus or minus " + std::to_string(std::abs(code.number()));
     case CardType::FlipPlus:
     case CardType::FlipMinus:
-      return "flip card, " + Signed(code.cardValue());
+      return "flip card, " + InWords(code.cardValue());
     case CardType::Tiebreaker:
-      return "tiebreaker, " + (open ? std::string("plus or minus 1") : Signed(code.cardValue()));
+      return "tiebreaker, " + (open ? std::string("plus or minus 1") : InWords(code.cardValue()));
     case CardType::Double:
-      return code.number() == kNotChosen ? "double" : "double, " + Signed(code.cardValue());
+      return code.number() == kNotChosen ? "double" : "double, " + InWords(code.cardValue());
     case CardType::Flip24:
       return Unchosen(code, "flip 2 and 4");
     case CardType::Flip36:
       return Unchosen(code, "flip 3 and 6");
     case CardType::OneOrTwo:
-      return "one or two, " + (open ? std::string("plus or minus") : Signed(code.cardValue()));
+      return "one or two, " + (open ? std::string("plus or minus") : InWords(code.cardValue()));
     case CardType::FaceDown:
       return "face-down card";
     case CardType::Special6:
@@ -62,7 +62,7 @@ std::string SpokenCard(const CardCode& code) {
     case CardType::Other:
       return {};
     default:
-      return Signed(code.cardValue());
+      return InWords(code.cardValue());
   }
 }
 

@@ -1,5 +1,7 @@
 #include "match/frmGameHand.h"
 
+#include "match/frmGamePoint.h"
+
 namespace kv {
 namespace {
 
@@ -13,10 +15,6 @@ ctlShape* NewFooter(QStringView control, QWidget& container, Layout& layout) {
 Picture NewHoverPicture(QStringView control, ctlFlip::Kind kind, const QWidget& container, Layout& layout) {
   return ctlFlip::HoverPicture(kind, layout.bag(control), layout.rect(control).size(),
                                container.devicePixelRatioF());
-}
-
-QPoint PointOf(Spot spot) {
-  return {qRound(spot.left), qRound(spot.top)};
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "match/frmGameSide.h"
 
+#include "match/frmGamePoint.h"
 #include "presentation/NameText.h"
 
 namespace kv {
@@ -7,10 +8,6 @@ namespace {
 
 constexpr std::string_view kFaceDown = "un";
 constexpr int kLitEdge = 8;  // layout pixels beside a portrait in which the scene shines
-
-QPoint PointOf(Spot spot) {
-  return {qRound(spot.left), qRound(spot.top)};
-}
 
 }  // namespace
 

@@ -11,13 +11,14 @@
 #include <filesystem>
 #include <system_error>
 
+#include "platform/NewFile.h"
+
 namespace kv {
 namespace {
 
 namespace fs = std::filesystem;
 
 constexpr int kNameAttempts = 100;
-constexpr mode_t kNewFileMode = 0666;  // less the user's mask
 
 std::string LastError() {
   return std::generic_category().message(errno);

@@ -8,11 +8,6 @@
 #include <utility>
 
 namespace kv {
-namespace {
-
-constexpr mode_t kNewFileMode = 0666;  // less the user's mask
-
-}  // namespace
 
 NewFile::NewFile(std::string path) : path_(std::move(path)) {
   const int fd = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kNewFileMode);

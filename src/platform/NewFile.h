@@ -8,6 +8,8 @@
 
 namespace kv {
 
+inline constexpr mode_t kNewFileMode = 0666;  // less the user's mask
+
 class NewFile {
  public:
   enum class Claim { Made, Exists, Refused };

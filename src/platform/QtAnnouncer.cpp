@@ -7,7 +7,6 @@
 #include "platform/QtText.h"
 
 namespace kv {
-namespace {
 
 /// Something that is read and never drawn.
 class Unseen : public QAccessibleInterface {
@@ -40,8 +39,6 @@ class Unseen : public QAccessibleInterface {
   QAccessibleInterface* parent_;
   QString name_;
 };
-
-}  // namespace
 
 /// Readers leave out the word "notification" before what a status bar tells.
 class SpokenBar final : public Unseen {

@@ -43,6 +43,28 @@ void TakeBlock(void* mix, Uint8* out, int bytes) {
       {reinterpret_cast<std::int16_t*>(out), static_cast<std::size_t>(bytes) / sizeof(std::int16_t)});
 }
 
+/// The wave file with no chunk longer than the file, which the library would set memory aside for unread: a
+/// recording that was written to a pipe claims gigabytes. Empty when it is no wave file.
+std::string WithBoundedChunks(std::string_view wave) {
+  constexpr std::size_t kHeader = 12;      // "RIFF", length, "WAVE"
+  constexpr std::size_t kChunkHeader = 8;  // name, length (little-endian)
+  if (wave.size() < kHeader || wave.substr(0, 4) != "RIFF" || wave.substr(8, 4) != "WAVE") return {};
+  std::string bounded(wave);
+  for (std::size_t at = kHeader; at + kChunkHeader <= bounded.size();) {
+    std::uint32_t length = 0;
+    std::memcpy(&length, &bounded[at + 4], sizeof length);
+    length = SDL_SwapLE32(length);
+    const std::size_t left = bounded.size() - at - kChunkHeader;
+    if (length > left) {
+      length = SDL_SwapLE32(static_cast<std::uint32_t>(left));
+      std::memcpy(&bounded[at + 4], &length, sizeof length);
+      break;
+    }
+    at += kChunkHeader + length + length % 2;
+  }
+  return bounded;
+}
+
 double Seconds(const SDL_AudioSpec& form, Uint32 bytes) {
   return static_cast<double>(bytes) / (SDL_AUDIO_BITSIZE(form.format) / 8) / form.channels / form.freq;
 }
@@ -118,8 +140,9 @@ std::vector<std::int16_t> SdlLibrary::Decode(std::string_view wave, std::string&
   SDL_AudioSpec form{};
   Uint8* bytes = nullptr;
   Uint32 size = 0;
-  SDL_RWops* file = sdl_->fromMemory(wave.data(), static_cast<int>(wave.size()));
   why = "it is damaged";
+  const std::string bounded = WithBoundedChunks(wave);
+  SDL_RWops* file = sdl_->fromMemory(bounded.data(), static_cast<int>(bounded.size()));
   if (file == nullptr || sdl_->loadWave(file, 1, &form, &bytes, &size) == nullptr) return {};
   const std::unique_ptr<Uint8, decltype(sdl_->freeWave)> held(bytes, sdl_->freeWave);
   if (form.freq < kLeastRate || form.freq > kMostRate || form.channels == 0) return {};

@@ -2,18 +2,12 @@
 
 #include <numeric>
 
+#include "presentation/JpegMarkers.h"
+
 namespace kv {
-namespace {
-
-constexpr unsigned kMarker = 0xFF;  // stuffed with a zero where it is no marker
-constexpr unsigned kFirstRestart = 0xD0;
-constexpr unsigned kLastRestart = 0xD7;
-
-}  // namespace
-
 int JpegBitReader::Bit() {
   if (left_ == 0) {
-    const bool marker = ByteAt(place_) == kMarker;
+    const bool marker = ByteAt(place_) == jpeg::kMarker;
     if (place_ >= bytes_.size() || (marker && ByteAt(place_ + 1) != 0)) {
       ended_ = true;
       return 0;
@@ -34,9 +28,10 @@ int JpegBitReader::Bits(int count) {
 
 bool JpegBitReader::Restart() {
   left_ = 0;
-  while (ByteAt(place_) == kMarker && ByteAt(place_ + 1) == kMarker) ++place_;
+  while (ByteAt(place_) == jpeg::kMarker && ByteAt(place_ + 1) == jpeg::kMarker) ++place_;
   const unsigned code = ByteAt(place_ + 1);
-  if (ByteAt(place_) != kMarker || code < kFirstRestart || code > kLastRestart) return false;
+  if (ByteAt(place_) != jpeg::kMarker || code < jpeg::kFirstRestart || code > jpeg::kLastRestart)
+    return false;
   place_ += 2;
   return true;
 }
@@ -75,7 +70,7 @@ void JpegBitWriter::Put(unsigned bits, int count) {
     byte_ = (byte_ << 1 | (bits >> i & 1U)) & 0xFFU;
     if (++used_ < 8) continue;
     bytes_.push_back(static_cast<char>(byte_));
-    if (byte_ == kMarker) bytes_.push_back('\0');
+    if (byte_ == jpeg::kMarker) bytes_.push_back('\0');
     used_ = 0;
   }
 }

@@ -9,26 +9,12 @@
 
 #include "presentation/JpegBits.h"
 #include "presentation/JpegBlocks.h"
+#include "presentation/JpegMarkers.h"
 
 namespace kv {
 namespace {
 
 using Bytes = std::span<const std::byte>;
-
-enum Marker : std::uint8_t {
-  kBaseline = 0xC0,
-  kProgressive = 0xC2,
-  kHuffman = 0xC4,
-  kLastFrame = 0xCF,
-  kFirstRestart = 0xD0,
-  kStart = 0xD8,
-  kEnd = 0xD9,
-  kScan = 0xDA,
-  kQuantizers = 0xDB,
-  kRestarts = 0xDD,
-  kFirstApplication = 0xE0,
-  kLastApplication = 0xEF,
-};
 
 constexpr int kMaxSize = 11;  // bits of a difference
 constexpr int kMaxMean = 2047;
@@ -64,17 +50,17 @@ class Means {
 };
 
 bool Means::Take(int marker, Bytes segment, Bytes file, std::size_t& place) {
-  if (marker == kProgressive) {
+  if (marker == jpeg::kProgressive) {
     if (!blocks_.empty() || !blocks_.Set(segment, kMaxMeans)) return false;
-    PutSegment(frame_, kBaseline, segment);
+    PutSegment(frame_, jpeg::kBaseline, segment);
     return true;
   }
-  if (marker == kHuffman) return TakeCodes(segment);
-  if (marker >= kBaseline && marker <= kLastFrame) return false;
-  if (marker == kRestarts) interval_ = JpegPair(segment, 0);
-  if (marker == kScan) return TakeScan(segment, file, place);
-  const bool application = marker >= kFirstApplication && marker <= kLastApplication;
-  if (application || marker == kQuantizers) PutSegment(copied_, marker, segment);
+  if (marker == jpeg::kHuffman) return TakeCodes(segment);
+  if (marker >= jpeg::kBaseline && marker <= jpeg::kLastFrame) return false;
+  if (marker == jpeg::kRestarts) interval_ = JpegPair(segment, 0);
+  if (marker == jpeg::kScan) return TakeScan(segment, file, place);
+  const bool application = marker >= jpeg::kFirstApplication && marker <= jpeg::kLastApplication;
+  if (application || marker == jpeg::kQuantizers) PutSegment(copied_, marker, segment);
   return true;
 }
 
@@ -168,7 +154,7 @@ std::string OwnCodes() {
   nothing.push_back('\0');
   std::string out;
   for (const std::string& table : {means, nothing})
-    PutSegment(out, kHuffman, std::as_bytes(std::span(table)));
+    PutSegment(out, jpeg::kHuffman, std::as_bytes(std::span(table)));
   return out;
 }
 
@@ -181,7 +167,7 @@ std::string Means::Write() const {
   }
   scan.append({'\0', 63, '\0'});
   std::string out = "\xFF\xD8" + copied_ + frame_ + OwnCodes();
-  PutSegment(out, kScan, std::as_bytes(std::span(scan)));
+  PutSegment(out, jpeg::kScan, std::as_bytes(std::span(scan)));
   JpegBitWriter bits(out);
   std::array<int, 4> last{};
   const auto block = [&](std::size_t number, std::int16_t mean) {
@@ -202,7 +188,7 @@ std::string Means::Write() const {
 std::size_t NextMarker(Bytes file, std::size_t place) {
   for (; place + 1 < file.size(); ++place) {
     const int code = JpegByte(file, place + 1);
-    const bool restart = code >= kFirstRestart && code < kStart;
+    const bool restart = code >= jpeg::kFirstRestart && code < jpeg::kStart;
     if (JpegByte(file, place) == 0xFF && code != 0 && code != 0xFF && !restart) return place + 2;
   }
   return 0;
@@ -211,13 +197,13 @@ std::size_t NextMarker(Bytes file, std::size_t place) {
 }  // namespace
 
 std::string MeansOf(std::span<const std::byte> jpeg) {
-  if (JpegPair(jpeg, 0) != (0xFF00 | kStart)) return {};
+  if (JpegPair(jpeg, 0) != (0xFF00 | jpeg::kStart)) return {};
   Means means;
   std::size_t place = 2;
   while (!means.complete(0)) {
     place = NextMarker(jpeg, place);
-    const int marker = place == 0 ? kEnd : JpegByte(jpeg, place - 1);
-    if (marker == kEnd) break;
+    const int marker = place == 0 ? jpeg::kEnd : JpegByte(jpeg, place - 1);
+    if (marker == jpeg::kEnd) break;
     const auto length = static_cast<std::size_t>(JpegPair(jpeg, place));
     if (length < 2 || place + length > jpeg.size()) break;
     const Bytes segment = jpeg.subspan(place + 2, length - 2);

@@ -2,15 +2,10 @@
 
 #include <cstdint>
 
+#include "presentation/JpegMarkers.h"
+
 namespace kv {
 namespace {
-
-constexpr std::uint8_t kMarker = 0xFF;
-constexpr std::uint8_t kStartOfScan = 0xDA;
-// Frames whose scans follow one another block by block: baseline, extended and arithmetic.
-constexpr std::uint8_t kBaseline = 0xC0;
-constexpr std::uint8_t kExtended = 0xC1;
-constexpr std::uint8_t kArithmetic = 0xC9;
 
 /// Components of a frame stand behind its length, precision, height and width; those of a scan behind its
 /// length.
@@ -27,7 +22,8 @@ class Markers {
   /// The place behind the next marker's code from `place` on; 0 at the end.
   [[nodiscard]] std::size_t Next(std::size_t place) const {
     for (; place + 1 < bytes_.size(); ++place) {
-      if (at(place) == kMarker && at(place + 1) != 0 && at(place + 1) != kMarker) return place + 2;
+      if (at(place) == jpeg::kMarker && at(place + 1) != 0 && at(place + 1) != jpeg::kMarker)
+        return place + 2;
     }
     return 0;
   }
@@ -40,22 +36,19 @@ class Markers {
   std::span<const std::byte> bytes_;
 };
 
+/// One whose scans follow one another block by block.
 bool SequentialFrame(std::uint8_t code) {
-  return code == kBaseline || code == kExtended || code == kArithmetic;
+  return code == jpeg::kBaseline || code == jpeg::kExtended || code == jpeg::kArithmetic;
 }
 
 bool AnyFrame(std::uint8_t code) {
-  constexpr std::uint8_t kLastFrame = 0xCF;
-  constexpr std::uint8_t kTables = 0xC4;  // and two more codes in between that are no frames
-  constexpr std::uint8_t kReserved = 0xC8;
-  constexpr std::uint8_t kConditioning = 0xCC;
-  return code >= kBaseline && code <= kLastFrame && code != kTables && code != kReserved &&
-         code != kConditioning;
+  return code >= jpeg::kBaseline && code <= jpeg::kLastFrame && code != jpeg::kHuffman &&
+         code != jpeg::kReserved && code != jpeg::kConditioning;
 }
 
 /// Restarts, the start and the end of the picture, and a private code.
 bool HasNoSegment(std::uint8_t code) {
-  return code == 0x01 || (code >= 0xD0 && code <= 0xD9);
+  return code == jpeg::kTemporary || (code >= jpeg::kFirstRestart && code <= jpeg::kEnd);
 }
 
 /// Reads up to the first scan. So far every segment is as long as it says, for a decoder just as here.
@@ -64,7 +57,7 @@ void ReadFrame(const Markers& markers, JpegScans& scans) {
   std::size_t place = markers.Next(0);
   while (place != 0) {
     const std::uint8_t code = markers.at(place - 1);
-    if (code == kStartOfScan) {
+    if (code == jpeg::kScan) {
       scans.several = !sequential || markers.at(place + kScanComponentsAt) < scans.components;
       return;
     }
@@ -82,7 +75,7 @@ JpegScans ScansOf(std::span<const std::byte> bytes) {
   const Markers markers(bytes);
   JpegScans scans;
   for (std::size_t i = 0; i + 1 < bytes.size(); ++i) {
-    if (markers.at(i) == kMarker && markers.at(i + 1) == kStartOfScan) ++scans.count;
+    if (markers.at(i) == jpeg::kMarker && markers.at(i + 1) == jpeg::kScan) ++scans.count;
   }
   ReadFrame(markers, scans);
   return scans;

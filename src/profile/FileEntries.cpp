@@ -20,16 +20,16 @@ using Field = std::variant<std::string PlayerFields::*, bool PlayerFields::*, st
                            const std::shared_ptr<clsInteger> PlayerFields::*,
                            const std::shared_ptr<clsLong> PlayerFields::*, Deck, Table>;
 
-enum class Form : std::uint8_t {
-  Plain,   // scrambled under the PIN alone
-  Marked,  // each entry has a marker in front and a key of its own
-  Keys,    // plain, and only the entries that are key bindings
-};
-
 }  // namespace
 
 /// One field of the file: a single record, or one for each entry of a deck or table.
 struct FieldRow {
+  enum class Form : std::uint8_t {
+    Plain,   // scrambled under the PIN alone
+    Marked,  // each entry has a marker in front and a key of its own
+    Keys,    // plain, and only the entries that are key bindings
+  };
+
   Field field;
   int since = 0;  // the first version that writes it
   Form form = Form::Plain;
@@ -60,7 +60,7 @@ constexpr std::array kRows = {
     FieldRow{&PlayerFields::Interface_Opt},
     FieldRow{&PlayerFields::ShowMinimize_Opt, 110},
     FieldRow{&PlayerFields::KeysEn, 123},
-    FieldRow{&PlayerFields::Keys, 123, Form::Keys},
+    FieldRow{&PlayerFields::Keys, 123, FieldRow::Form::Keys},
     FieldRow{&PlayerFields::Mute_Highlight_Opt},
     FieldRow{&PlayerFields::Mute_Buttons_Opt},
     FieldRow{&PlayerFields::Mute_Cards_Opt},
@@ -68,8 +68,8 @@ constexpr std::array kRows = {
     FieldRow{&PlayerFields::ArcadeOpp_Opt, 120},
     FieldRow{&PlayerFields::ArcadeAI_Opt, 120},
     FieldRow{&PlayerFields::ArcadeDeck, 103},
-    FieldRow{&PlayerFields::Deck, 0, Form::Marked},
-    FieldRow{&PlayerFields::Cards, 0, Form::Marked},
+    FieldRow{&PlayerFields::Deck, 0, FieldRow::Form::Marked},
+    FieldRow{&PlayerFields::Cards, 0, FieldRow::Form::Marked},
     FieldRow{&PlayerFields::Portrait},
     FieldRow{&PlayerFields::Credits_MP},
     FieldRow{&PlayerFields::Wins_MP},
@@ -77,8 +77,8 @@ constexpr std::array kRows = {
     FieldRow{&PlayerFields::Disconnects},
     FieldRow{&PlayerFields::LastIP},
     FieldRow{&PlayerFields::LastPort},
-    FieldRow{&PlayerFields::Deck_MP, 0, Form::Marked},
-    FieldRow{&PlayerFields::Cards_MP, 0, Form::Marked},
+    FieldRow{&PlayerFields::Deck_MP, 0, FieldRow::Form::Marked},
+    FieldRow{&PlayerFields::Cards_MP, 0, FieldRow::Form::Marked},
 };
 
 int RowsOf(const FieldRow& row) {
@@ -88,13 +88,13 @@ int RowsOf(const FieldRow& row) {
 
 int ColumnsOf(const FieldRow& row, int index) {
   if (!std::holds_alternative<Table>(row.field)) return 1;
-  if (row.form != Form::Keys) return kCardNumbers;
+  if (row.form != FieldRow::Form::Keys) return kCardNumbers;
   return index == 1 ? 2 : kHandSize;
 }
 
 /// Marked entries begin with "B" in the first slot or row and every second letter after it.
 FileEntry MakeEntry(const FieldRow& row, int index, int column) {
-  if (row.form != Form::Marked) return {&row, index, column, "", ""};
+  if (row.form != FieldRow::Form::Marked) return {&row, index, column, "", ""};
   return {&row, index, column, std::string(1, static_cast<char>('@' + 2 * index)),
           std::to_string(2 * index * index)};
 }

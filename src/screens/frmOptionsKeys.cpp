@@ -13,9 +13,9 @@ constexpr int kWaitingFrame = 2;  // layout pixels around the button that waits,
 constexpr int kWaitingGap = 3;
 constexpr int kScrimAlpha = 190;  // what lies beneath can be told, but not mistaken for usable
 
-constexpr QStringView kLabels[] = {u"lblKeysTurn",    u"lblKeysStand",   u"lblKeysPlay",
-                                   u"lblKeysFlip1",   u"lblKeysFlip2",   u"lblKeysCard(0)",
-                                   u"lblKeysCard(1)", u"lblKeysCard(2)", u"lblKeysCard(3)"};
+constexpr QStringView kKeyLabels[] = {u"lblKeysTurn",    u"lblKeysStand",   u"lblKeysPlay",
+                                      u"lblKeysFlip1",   u"lblKeysFlip2",   u"lblKeysCard(0)",
+                                      u"lblKeysCard(1)", u"lblKeysCard(2)", u"lblKeysCard(3)"};
 
 /// A key button, what it does and the entry of the key table that it edits.
 struct KeyEntry {
@@ -50,7 +50,7 @@ frmOptionsKeys::frmOptionsKeys(QWidget* parent, Layout& layout, ButtonContext& c
   layout.Place(u"frmeKeys", *this);
   title_ = layout.NewLabel(u"lblKeysTitle", this);
   ownTitle_ = title_->text();
-  for (const QStringView label : kLabels) {
+  for (const QStringView label : kKeyLabels) {
     layout.NewLabel(label, this);
   }
   for (int index = 0; index < kKeyButtons; ++index) {

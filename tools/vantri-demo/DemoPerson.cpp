@@ -7,7 +7,6 @@ namespace kv {
 namespace {
 
 // Milliseconds.
-constexpr int kLookInterval = 40;
 constexpr int kPatience = 15000;
 constexpr int kAfterAct = 120;
 

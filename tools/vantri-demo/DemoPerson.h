@@ -13,6 +13,8 @@
 
 namespace kv {
 
+inline constexpr int kLookInterval = 40;  // milliseconds between two looks at the screen
+
 /// Something did not happen that should have.
 class DemoFailure : public std::runtime_error {
  public:

@@ -3,7 +3,6 @@
 namespace kv {
 namespace {
 
-constexpr int kLookInterval = 40;   // milliseconds between two looks at the screen
 constexpr int kStandstill = 15000;  // milliseconds without anything to do
 constexpr int kLaterTurn = 4;       // a turn with something on the table
 constexpr int kGoodTotal = 17;      // stand from here on
