@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "match/MatchEngine.h"
-#include "network/BrokenOff.h"
 #include "profile/clsPlayer.h"
 
 namespace kv {
@@ -34,9 +33,9 @@ NetworkGame::NetworkGame(const NetworkServices& services, TcpSocket& socket)
              .Failed = [this](int number, const std::string& text) { ConnectionFailed(number, text); }}) {}
 
 void NetworkGame::Begin(clsPlayer& player, clsGame& game, MatchBooking& booking) {
-  player_ = &player;
-  game_ = &game;
-  booking_ = &booking;
+  side_.player = &player;
+  side_.game = &game;
+  side_.booking = &booking;
   StartFresh();
 }
 
@@ -52,47 +51,20 @@ void NetworkGame::StartFresh() {
 // --- Screens ---------------------------------------------------------------------------------------------
 
 void NetworkGame::LobbyOpened(LobbyView& lobby) {
-  lobby_ = &lobby;
-  peer_.OwnLobby(left_);
+  side_.lobby = &lobby;
+  peer_.OwnLobby(side_.left);
   link_.StopTurnRepeat();  // the match is over: nobody need answer its last turn any more
   // A match without a stake may have been called off at the cards: there is none under way here.
-  if (game_->Mode == kModeNetworkArcade) game_->Wager = -1;
-}
-
-bool NetworkGame::matchUnderWay() const {
-  return game_->Wager != -1;
-}
-
-Place NetworkGame::place() const {
-  if (match_ == nullptr) {
-    if (cards_ == nullptr) return Place::Lobby;
-    return matchUnderWay() ? Place::Desk : Place::Cards;
-  }
-  if (!matchUnderWay()) return Place::Over;
-  if (!match_->peer().begun()) return Place::Opening;
-  if (match_->peer().decision()) return Place::Decided;
-  if (match_->peer().betweenSets()) return Place::Banner;
-  switch (match_->peer().peerTurn()) {
-    case PeerTurn::Theirs:
-      return Place::Theirs;
-    case PeerTurn::Soon:
-      return Place::Handover;
-    case PeerTurn::NotTheirs:
-      break;
-  }
-  return Place::Ours;
+  if (side_.game->Mode == kModeNetworkArcade) side_.game->Wager = -1;
 }
 
 void NetworkGame::ScreensClosed() {
-  if (game_ != nullptr) left_ = place();
-  lobby_ = nullptr;
-  cards_ = nullptr;
-  match_ = nullptr;
+  side_.ScreensClosed();
   chat_.setMirror({});
 }
 
 void NetworkGame::MatchOpened(MatchEngine& match) {
-  match_ = &match;
+  side_.match = &match;
   peer_.OwnTable();
   if (peer_.playerStarts) match.peer().setPlayerStarts(*std::exchange(peer_.playerStarts, {}));
 }
@@ -100,28 +72,29 @@ void NetworkGame::MatchOpened(MatchEngine& match) {
 // --- Greeting --------------------------------------------------------------------------------------------
 
 void NetworkGame::SendHello() {
-  if (lobby_ != nullptr) lobby_->Greet();
+  if (side_.lobby != nullptr) side_.lobby->Greet();
   peer_ = {};
   chat_.Reset("\r\n\r\n\r\n");
   NetSend("[Vers]" + std::string(kProgramVersion));
-  NetSend("[Name]" + player_->Name);
+  NetSend("[Name]" + side_.player->Name);
   SendStats();
-  NetSend("[Port]" + std::to_string(player_->Portrait));
+  NetSend("[Port]" + std::to_string(side_.player->Portrait));
   bool found = false;
   static_cast<void>(services_.portrait(-1, "", found));
   // A name that the wire cannot spell, or that no receiver takes, would name nothing or another file over
   // there.
-  const std::string file = "[File]" + FileNameOf(player_->FileName);
+  const std::string file = "[File]" + FileNameOf(side_.player->FileName);
   NetSend(found && ParseMessage(file) ? file : "[File]0");
-  player_->LastIP = link_.tcpSock().RemoteHost();
-  player_->LastPort = link_.tcpSock().LocalPort();
-  player_->WritePlayerFile();
+  side_.player->LastIP = link_.tcpSock().RemoteHost();
+  side_.player->LastPort = link_.tcpSock().LocalPort();
+  side_.player->WritePlayerFile();
 }
 
 std::string NetworkGame::StatsLine() const {
-  return "[" + player_->Name + ": " + std::to_string(player_->Credits_MP->Value) + " credits, " +
-         std::to_string(player_->Wins_MP->Value) + " wins, " + std::to_string(player_->Losses_MP->Value) +
-         " losses, " + std::to_string(player_->Disconnects) + " disconnects]";
+  return "[" + side_.player->Name + ": " + std::to_string(side_.player->Credits_MP->Value) + " credits, " +
+         std::to_string(side_.player->Wins_MP->Value) + " wins, " +
+         std::to_string(side_.player->Losses_MP->Value) + " losses, " +
+         std::to_string(side_.player->Disconnects) + " disconnects]";
 }
 
 void NetworkGame::TellStats() {
@@ -153,13 +126,13 @@ void NetworkGame::ToggleMode() {
 }
 
 void NetworkGame::PressStart() {
-  NetSend("[Chat][" + player_->Name + std::string(kReadyToContinue));
+  NetSend("[Chat][" + side_.player->Name + std::string(kReadyToContinue));
   NetSend("[Play]");
   AddChatLine("[You are ready to continue.]");
 }
 
 void NetworkGame::PrepareMatch() {
-  clsGame& game = *game_;
+  clsGame& game = *side_.game;
   bool found = false;
   game.YourPic = services_.portrait(-1, "", found);
   game.Wager = -1;
@@ -170,17 +143,17 @@ void NetworkGame::PrepareMatch() {
     game.CreditsRef = std::make_shared<clsLong>();
     game.WinsRef = std::make_shared<clsInteger>();
     game.LossesRef = std::make_shared<clsInteger>();
-    game.DeckRef = std::make_shared<clsDeckArray>(*player_->ArcadeDeck);
+    game.DeckRef = std::make_shared<clsDeckArray>(*side_.player->ArcadeDeck);
     game.MaxWager = 0;
     return;
   }
   game.Mode = kModeNetwork;
-  game.CreditsRef = player_->Credits_MP;
-  game.WinsRef = player_->Wins_MP;
-  game.LossesRef = player_->Losses_MP;
-  game.DeckRef = player_->Deck_MP;
-  game.CardsRef = player_->Cards_MP;
-  game.MaxWager = player_->Credits_MP->Value;
+  game.CreditsRef = side_.player->Credits_MP;
+  game.WinsRef = side_.player->Wins_MP;
+  game.LossesRef = side_.player->Losses_MP;
+  game.DeckRef = side_.player->Deck_MP;
+  game.CardsRef = side_.player->Cards_MP;
+  game.MaxWager = side_.player->Credits_MP->Value;
 }
 
 // --- Chat ------------------------------------------------------------------------------------------------
@@ -207,7 +180,7 @@ void NetworkGame::SubmitChat(const std::string& line) {
   }
   const std::string text = WireText(line.substr(0, kMostLine));
   if (text.empty()) return;
-  const std::string spoken = player_->Name + ": " + text;
+  const std::string spoken = side_.player->Name + ": " + text;
   NetSend("[Chat]" + spoken);
   AddChatLine(spoken);
 }
@@ -229,12 +202,7 @@ void NetworkGame::ConnectionFailed(int number, const std::string& description) {
   services_.dialogs.Message(
       "Connection Problem (Err No: " + std::to_string(number) + " - " + description + ")",
       "Kelm Vantri: TCP/IP WinSock Error", DialogIcon::Critical);
-  const auto settle = [this] { SaveDisconnect(*game_, *player_, *booking_, services_.dialogs); };
-  if (match_ != nullptr && matchUnderWay()) {
-    match_->peer().BrokenOff(settle);
-  } else {
-    settle();
-  }
+  side_.LineLost(services_.dialogs);
   StartFresh();
   services_.navigator.OpenLobby();
 }
@@ -244,14 +212,7 @@ void NetworkGame::ConnectionFailed(int number, const std::string& description) {
 void NetworkGame::Leave() {
   const bool known = !link_.Unsent("[Turn]") && !link_.Unsent("[TAck]");
   link_.Leave();
-  if (!matchUnderWay()) return;
-  if (match_ != nullptr && known && match_->peer().BookDecision()) return;
-  StakeToRecord(*game_, *player_);
-  if (match_ != nullptr) {
-    match_->person().LoseByLeaving();
-  } else {
-    booking_->SaveLoss();
-  }
+  side_.LoseByLeaving(known);
 }
 
 }  // namespace kv

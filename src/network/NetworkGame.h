@@ -3,29 +3,20 @@
 // that the peer sends: what makes no sense at the moment it arrives changes nothing.
 #pragma once
 
-#include <optional>
 #include <string>
 
-#include "campaign/WagerView.h"
-#include "match/MatchPartners.h"
 #include "network/ChatLog.h"
 #include "network/Link.h"
-#include "network/LobbyView.h"
 #include "network/Message.h"
 #include "network/NetworkServices.h"
-#include "network/PeerPlace.h"
+#include "network/OwnSide.h"
 
 namespace kv {
-
-class MatchEngine;
-class clsGame;
-class clsPlayer;
 
 class NetworkGame final : public MatchNetwork {
  public:
   NetworkGame(const NetworkServices& services, TcpSocket& socket);
-  NetworkGame(const NetworkGame&) = delete;
-  NetworkGame& operator=(const NetworkGame&) = delete;
+  NetworkGame(NetworkGame&&) = delete;
 
   /// A fresh network game: nothing is connected, this side hosts, the log holds the help text. All three must
   /// outlive what follows, up to the next call.
@@ -33,10 +24,9 @@ class NetworkGame final : public MatchNetwork {
 
   // --- The screens, while they are open; none of them is owned ---------------------------------------------
   void LobbyOpened(LobbyView& lobby);
-  void CardsOpened(WagerView& cards) { cards_ = &cards; }
+  void CardsOpened(WagerView& cards) { side_.cards = &cards; }
   /// Tells the engine what the peer has said of the first starter meanwhile.
   void MatchOpened(MatchEngine& match);
-  /// Whichever was open is no longer.
   void ScreensClosed();
 
   // --- What the lobby does ---------------------------------------------------------------------------------
@@ -68,7 +58,7 @@ class NetworkGame final : public MatchNetwork {
   [[nodiscard]] std::string StatsLine() const;
   [[nodiscard]] const Link& link() const { return link_; }
   /// Where this side is, and what it knows of the peer.
-  [[nodiscard]] Place place() const;
+  [[nodiscard]] Place place() const { return side_.place(); }
   [[nodiscard]] const PeerPlace& peer() const { return peer_; }
 
   /// One entry of the incoming queue. False: not yet, hand it over again on a later tick.
@@ -90,29 +80,19 @@ class NetworkGame final : public MatchNetwork {
   bool Handle(const Kind& message);
   [[nodiscard]] Course CourseOf(const Message& message);
 
-  [[nodiscard]] bool matchUnderWay() const;
   void PeerIsInLobby();
   void SendHello();
   void Interrupted(bool interrupted);
   void ConnectionFailed(int number, const std::string& description);
-  void WinAtTheDesk();
-  /// The peer has left. `unanswered`: it has not answered this side's last turn. True when that wins.
-  bool WinByItsLeaving(bool unanswered);
   void Leave();
   void StartFresh();
 
   NetworkServices services_;
   Link link_;
-  clsPlayer* player_ = nullptr;
-  clsGame* game_ = nullptr;
-  MatchBooking* booking_ = nullptr;
-  LobbyView* lobby_ = nullptr;
-  WagerView* cards_ = nullptr;
-  MatchEngine* match_ = nullptr;
+  OwnSide side_;
   bool hosting_ = true;
   bool arcade_ = false;
   PeerPlace peer_;
-  Place left_ = Place::Lobby;  // where this side was before the present place
   ChatLog chat_;
 };
 

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "match/MatchEngine.h"
-#include "network/BrokenOff.h"
 #include "network/NetworkGame.h"
 #include "profile/clsPlayer.h"
 
@@ -30,14 +29,14 @@ bool NetworkGame::Handle(const msg::Vers& version) {
     return true;
   }
   AddChatLine("[Version Check (FAIL): You - " + own + ", Opp - v" + version.version + "]");
-  if (lobby_ != nullptr) lobby_->RefuseStart();
+  if (side_.lobby != nullptr) side_.lobby->RefuseStart();
   return true;
 }
 
 template <>
 bool NetworkGame::Handle(const msg::Name& name) {
   if (std::exchange(peer_.greeting.name, true)) return false;
-  game_->OppName = name.text;
+  side_.game->OppName = name.text;
   AddChatLine("[Connected with " + name.text + "]");
   AddChatLine("[(You) " + StatsLine().substr(1));
   return true;
@@ -47,7 +46,7 @@ template <>
 bool NetworkGame::Handle(const msg::Port& port) {
   if (std::exchange(peer_.greeting.portrait, true)) return false;
   bool found = false;
-  game_->OppPic = services_.portrait(port.number, "0", found);
+  side_.game->OppPic = services_.portrait(port.number, "0", found);
   return true;
 }
 
@@ -56,14 +55,14 @@ bool NetworkGame::Handle(const msg::File& file) {
   if (std::exchange(peer_.greeting.file, true)) return false;
   bool found = false;
   const Picture own = services_.portrait(0, file.baseName, found);
-  if (found) game_->OppPic = own;
+  if (found) side_.game->OppPic = own;
   return true;
 }
 
 template <>
 bool NetworkGame::Handle(const msg::Chat& chat) {
   AddChatLine(chat.text);
-  const std::string& name = game_->OppName;
+  const std::string& name = side_.game->OppName;
   if (chat.text == "[" + name + std::string(kReadyToContinue)) peer_.SaysStart();
   // Its statistics are what a lobby says when it is entered.
   if (chat.text.starts_with("[" + name + ": ") && chat.text.ends_with(kStatsEnd)) PeerIsInLobby();
@@ -75,12 +74,12 @@ bool NetworkGame::Handle(const msg::Chat& chat) {
 template <>
 bool NetworkGame::Handle(const msg::Mode& mode) {
   if (hosting_) return false;
-  AddChatLine("[" + game_->OppName + " has changed the game mode to " +
+  AddChatLine("[" + side_.game->OppName + " has changed the game mode to " +
               (mode.arcade ? "Arcade match" : "Normal match") + ".]");
-  const bool started = lobby_ != nullptr && lobby_->waiting();
+  const bool started = side_.lobby != nullptr && side_.lobby->waiting();
   PeerIsInLobby();
-  if (lobby_ != nullptr) {
-    lobby_->ModeReceived(mode.arcade);
+  if (side_.lobby != nullptr) {
+    side_.lobby->ModeReceived(mode.arcade);
   } else if (arcade_ != mode.arcade) {
     ToggleMode();
   }
@@ -103,53 +102,37 @@ bool NetworkGame::Handle(const msg::Play&) {
 
 template <>
 bool NetworkGame::Handle(const msg::Wage& wage) {
-  if (game_->Mode != kModeNetwork) return false;
+  if (side_.game->Mode != kModeNetwork) return false;
   services_.playEffect("propose");
-  cards_->Proposed(wage.amount);
+  side_.cards->Proposed(wage.amount);
   return true;
 }
 
 template <>
 bool NetworkGame::Handle(const msg::Acpt&) {
-  if (!cards_->awaitsAnswer()) return false;
-  AddChatLine("[" + game_->OppName + " has agreed to your wager.]");
-  cards_->Accepted();
+  if (!side_.cards->awaitsAnswer()) return false;
+  AddChatLine("[" + side_.game->OppName + " has agreed to your wager.]");
+  side_.cards->Accepted();
   return true;
 }
 
 template <>
 bool NetworkGame::Handle(const msg::Back&) {
-  AddChatLine("[" + game_->OppName + " has returned to the Network screen.]");
+  AddChatLine("[" + side_.game->OppName + " has returned to the Network screen.]");
   PeerIsInLobby();
   return true;
 }
 
-/// Whoever is ahead comes back: before the match the stake is withdrawn, in a match the peer has left it.
+/// Whoever is ahead comes back.
 void NetworkGame::PeerIsInLobby() {
   // Both had pressed Start, and it has been to the cards by this side's: neither Start counts any longer.
-  const bool usedUp = lobby_ != nullptr && lobby_->waiting() && peer_.Ready(Place::Lobby);
+  const bool usedUp = side_.lobby != nullptr && side_.lobby->waiting() && peer_.Ready(Place::Lobby);
   peer_.InLobby();
   if (usedUp) {
-    lobby_->TakeStartBack();
+    side_.lobby->TakeStartBack();
     SendStats();
   }
-  switch (place()) {
-    case Place::Lobby:
-    case Place::Over:  // its banner leads to the lobby
-      return;
-    case Place::Cards:
-    case Place::Desk:
-      WithdrawStake(*game_, *player_);
-      break;
-    case Place::Opening:
-      match_->peer().BrokenOff([this] { WithdrawStake(*game_, *player_); });
-      break;
-    default:
-      match_->peer().Gone();
-      match_->peer().WinByItsLeaving();
-      if (match_ == nullptr) return;  // the line was lost while a failed save was told
-  }
-  services_.navigator.OpenLobby();
+  if (side_.PeerIsInLobby()) services_.navigator.OpenLobby();
 }
 
 // --- The match ---------------------------------------------------------------------------------------------
@@ -158,8 +141,8 @@ template <>
 bool NetworkGame::Handle(const msg::WhoS& who) {
   if (hosting_) return false;
   peer_.Begins(who.youStart);
-  if (match_ != nullptr) {
-    match_->peer().setPlayerStarts(who.youStart);
+  if (side_.match != nullptr) {
+    side_.match->peer().setPlayerStarts(who.youStart);
   } else {
     peer_.playerStarts = who.youStart;
   }
@@ -168,41 +151,41 @@ bool NetworkGame::Handle(const msg::WhoS& who) {
 
 template <>
 bool NetworkGame::Handle(const msg::Card& card) {
-  const bool left = match_->board().MainDeckCount(card.value) < kCopiesInDeck;
-  if (peer_.drawn() || match_->shown().Stood(Seat::Opponent) || !left) return false;
+  const bool left = side_.match->board().MainDeckCount(card.value) < kCopiesInDeck;
+  if (peer_.drawn() || side_.match->shown().Stood(Seat::Opponent) || !left) return false;
   peer_.Draws();
-  const int before = match_->shown().Total(Seat::Opponent);
-  match_->peer().OppDraw(card.value);
+  const int before = side_.match->shown().Total(Seat::Opponent);
+  side_.match->peer().OppDraw(card.value);
   services_.playEffect("draw");
-  if (before <= kTargetTotal && match_->shown().Total(Seat::Opponent) > kTargetTotal)
+  if (before <= kTargetTotal && side_.match->shown().Total(Seat::Opponent) > kTargetTotal)
     services_.playEffect("bust");
   return true;
 }
 
 template <>
 bool NetworkGame::Handle(const msg::Hand& hand) {
-  const bool full = match_->shown().Table(Seat::Opponent).size() == kTableSize;
-  const bool spent = match_->shown().HandCard(Seat::Opponent, hand.slot) == EmptiedSlot();
-  if (!peer_.drawn() || peer_.played() || match_->shown().Stood(Seat::Opponent) || full || spent)
+  const bool full = side_.match->shown().Table(Seat::Opponent).size() == kTableSize;
+  const bool spent = side_.match->shown().HandCard(Seat::Opponent, hand.slot) == EmptiedSlot();
+  if (!peer_.drawn() || peer_.played() || side_.match->shown().Stood(Seat::Opponent) || full || spent)
     return false;
   peer_.PlaysCard();
-  match_->peer().OppPlayHand(hand.slot, hand.code);
+  side_.match->peer().OppPlayHand(hand.slot, hand.code);
   return true;
 }
 
 template <>
 bool NetworkGame::Handle(const msg::Stnd&) {
-  if (!peer_.drawn() || match_->shown().Stood(Seat::Opponent)) return false;
-  match_->peer().OppStand();
+  if (!peer_.drawn() || side_.match->shown().Stood(Seat::Opponent)) return false;
+  side_.match->peer().OppStand();
   return true;
 }
 
 template <>
 bool NetworkGame::Handle(const msg::Turn&) {
   // Without a move since its last it is a repetition that came late.
-  if (!peer_.drawn() && !match_->shown().Stood(Seat::Opponent)) return peer_.repeatsTurn();
+  if (!peer_.drawn() && !side_.match->shown().Stood(Seat::Opponent)) return peer_.repeatsTurn();
   peer_.EndsTurn();
-  match_->peer().AI_EndTurn();
+  side_.match->peer().AI_EndTurn();
   return true;
 }
 
@@ -220,53 +203,20 @@ bool NetworkGame::Handle(const msg::Forf&) {
   peer_.Forfeits();
   if (place() == Place::Over) {
     // Both may have ended it at the same time; or it gave up before it knew that it had won.
-    if (match_->peer().LostByPlay()) {
-      AddChatLine("[" + game_->OppName + " has forfeit this match. You Win.]");
-      match_->peer().WinAfterAll();
+    if (side_.match->peer().LostByPlay()) {
+      AddChatLine("[" + side_.game->OppName + " has forfeit this match. You Win.]");
+      side_.match->peer().WinAfterAll();
     }
     return true;
   }
-  AddChatLine("[" + game_->OppName + " has forfeit this match. You Win.]");
-  if (match_ != nullptr) {
-    match_->peer().OppForfeit();
+  AddChatLine("[" + side_.game->OppName + " has forfeit this match. You Win.]");
+  if (side_.match != nullptr) {
+    side_.match->peer().OppForfeit();
   } else {
-    WinAtTheDesk();
-  }
-  return true;
-}
-
-/// The peer was at the table already and gave up there; its banner waits for this side's "[Play]".
-void NetworkGame::WinAtTheDesk() {
-  StakeToRecord(*game_, *player_);
-  booking_->SaveWin();
-  if (cards_ == nullptr) return;  // the line was lost while a failed save was told
-  NetSend("[Play]");
-  services_.navigator.OpenLobby();
-}
-
-/// What its leaving means for the match that is under way here, or that has just ended.
-bool NetworkGame::WinByItsLeaving(bool unanswered) {
-  if (match_ != nullptr) {
-    // A result that the peer knew stands; it did not know what this side's last turn had decided if it never
-    // answered it.
-    const auto& decision = match_->peer().decision();
-    const bool known = !unanswered || (decision && decision->closing == Seat::Opponent);
-    if (decision && decision->endsMatch && known) {
-      const bool won = decision->result == GameStep::PlayerWins;
-      return match_->peer().BookDecision() && won;
-    }
-    if (place() == Place::Over) {
-      const bool reversed = !known && match_->peer().LostByPlay();
-      if (reversed) match_->peer().WinAfterAll();
-      return reversed;
-    }
-  }
-  if (!matchUnderWay()) return false;
-  StakeToRecord(*game_, *player_);
-  if (match_ != nullptr) {
-    match_->peer().WinByItsLeaving();
-  } else {
-    booking_->SaveWin();
+    side_.WinAtTheDesk();
+    if (side_.cards == nullptr) return true;  // the line was lost while a failed save was told
+    NetSend("[Play]");                        // its banner waits for that
+    services_.navigator.OpenLobby();
   }
   return true;
 }
@@ -275,10 +225,10 @@ template <>
 bool NetworkGame::Handle(const msg::Quit&) {
   services_.stopEffects();
   const bool repeats = link_.turnRepeats();
-  if (match_ != nullptr) match_->peer().Gone();
+  if (side_.match != nullptr) side_.match->peer().Gone();
   // The line goes first: while a box is open nothing more may happen on it.
   link_.CloseConnection();
-  const bool won = WinByItsLeaving(repeats);
+  const bool won = side_.WinByItsLeaving(repeats);
   services_.dialogs.Message(won ? "Opponent has quit! You Win!" : "Opponent has quit!",
                             "Kelm Vantri: Connection Terminated", DialogIcon::Exclamation);
   StartFresh();
@@ -290,7 +240,7 @@ bool NetworkGame::Handle(const msg::Quit&) {
 
 Course NetworkGame::CourseOf(const Message& message) {
   Course course =
-      peer_.CourseOf(message.index(), place(), match_ != nullptr && match_->peer().waitsForPeer());
+      peer_.CourseOf(message.index(), place(), side_.match != nullptr && side_.match->peer().waitsForPeer());
   if (!std::holds_alternative<msg::Turn>(message)) return course;
   // Repetitions can come at any time, and each is answered.
   if (peer_.turnHeld()) course = Course::Ignore;
