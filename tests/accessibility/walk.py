@@ -1,8 +1,9 @@
-"""Goes through the game by the accessibility bus alone, in both styles: makes a player, looks at every screen,
-plays an arcade match, buys a card, and plays a set of a network match. Fails on a control that can be reached and
-has no name, no role or no value, on a press that keeps the reader waiting, and on what is not told.
+"""Goes through the game by the accessibility bus alone, in one style: makes a player, looks at every screen, and
+plays a set of a network match; in "Slate" it hosts that match and buys a card, in "Ember" it joins and plays an arcade
+match. Fails on a control that can be reached and has no name, no role or no value, on a press that keeps the reader
+waiting, and on what is not told.
 
-    walk.py FOLDER     with the programs of FOLDER; needs a display and a session bus (see run)
+    walk.py FOLDER Slate|Ember     with the programs of FOLDER; needs a display and a session bus (see run)
 """
 
 import os
@@ -25,16 +26,16 @@ PROMPT = 1.0  # seconds within which a press is answered, on a busy machine; a b
 MOST_MOVES = 400
 ENOUGH = 15  # a total with which to stand
 ARCADE_CARDS = 'Arcade Match: Select Cards'
-PORT = 6461
+PORTS = {'Slate': 6461, 'Ember': 6462}
 PEER = '127.0.0.2'
 
 
 class Walk:
-    def __init__(self, folder):
+    def __init__(self, folder, style):
         self.folder = folder
+        self.style = style
         self.home = tempfile.mkdtemp(prefix='kv-walk-')
         self.begun = time.monotonic()
-        self.style = 'Slate'
         self.peer = None
         surroundings = dict(os.environ, HOME=self.home, XDG_DATA_HOME=self.home, XDG_RUNTIME_DIR=self.home,
                             QT_QPA_PLATFORM='xcb', QT_LINUX_ACCESSIBILITY_ALWAYS_ON='1', SDL_AUDIODRIVER='dummy')
@@ -101,16 +102,22 @@ class Walk:
         self.press('No')
         self.reader.usable('arcade')
 
-    def options(self, change):
+    def choose_style(self):
+        """A new player begins in "Slate"."""
+        self.press('options')
+        self.expect_chosen('Game appearance', 'Slate')
+        self.choose('Game appearance', self.style)
+        self.choose('Speed', 'Fast!')
+        self.press('OK')
+        self.reader.usable('arcade')
+
+    def options(self):
         self.press('options')
         self.look_at('Game Options')
         self.expect_chosen('Game appearance', self.style)
         self.press('Your portrait: choose another one')
         self.portraits()
         self.keys()
-        if change:
-            self.choose('Game appearance', 'Ember')
-            self.choose('Speed', 'Fast!')
         self.press('OK')
         self.reader.usable('arcade')
 
@@ -242,27 +249,41 @@ class Walk:
 
     # --- The network ---------------------------------------------------------------------------------------
 
-    def network(self, play):
+    def network(self, meet):
+        """`meet`: how the card screen is come to, with the stake agreed upon."""
         self.press('network')
         self.look_at('Kelm Vantri Network')
-        if play:
-            self.network_match()
+        self.press('Port: .*')
+        self.card('1 - 65535').write(str(PORTS[self.style]))
+        self.press('OK')
+        meet()
+        self.network_match()
         self.press('Close')
         self.reader.usable('arcade')
 
-    def network_match(self):
-        """Joins a host, agrees on its stake, plays a set, and gives the match up."""
-        self.peer = subprocess.Popen([f'{self.folder}/vantri-peer', '--host', f'{PEER}:{PORT}', '--name', 'Host'],
+    def start_peer(self, *options):
+        self.peer = subprocess.Popen([f'{self.folder}/vantri-peer', '--name', 'Peer', *options],
                                      stdout=subprocess.DEVNULL)
-        self.press('Port: .*')
-        self.card('1 - 65535').write(str(PORT))
-        self.press('OK')
+
+    def join(self):
+        self.start_peer('--host', f'{PEER}:{PORTS[self.style]}')
         self.press('Join a game')
         self.reader.get('Address to join', 'text').write(PEER)
         self.press('Open the connection: connect')
         self.press('Start: ready to play')
-        self.reader.heard('Host proposes a wager of 10')
+        self.reader.heard('Peer proposes a wager of 10')
         self.press('accept')
+
+    def host(self):
+        self.press('Open the connection: host')
+        self.start_peer('--join', f'127.0.0.1:{PORTS[self.style]}')
+        self.press('Start: ready to play')
+        self.reader.get('how much do you wager\\?', 'panel')
+        self.reader.get('Stake', 'text').write('10')
+        self.press('propose')
+
+    def network_match(self):
+        """Fills the deck, plays a set, and gives the match up."""
         self.reader.heard('^Stake 10\\.')
         self.fill_deck()
         self.press('continue')
@@ -273,21 +294,18 @@ class Walk:
 
 
 def main():
-    walk = Walk(sys.argv[1])
+    walk = Walk(sys.argv[1], sys.argv[2])
+    slate = walk.style == 'Slate'
     begun = time.monotonic()
     try:
         walk.make_player()
-        for style in ('Slate', 'Ember'):
-            walk.style = style
-            print(f'{style}: {time.monotonic() - begun:.0f} s', flush=True)
-            first = style == 'Slate'
-            walk.menu()
-            if first:
-                walk.question()
-            walk.campaign(buy=first)
-            walk.arcade(play=not first)
-            walk.network(play=not first)
-            walk.options(change=first)
+        walk.choose_style()
+        walk.menu()
+        walk.question()
+        walk.campaign(buy=slate)
+        walk.arcade(play=not slate)
+        walk.network(walk.host if slate else walk.join)
+        walk.options()
     except Missing as missing:
         walk.checker.faults.append(str(missing))
         for node in walk.reader.everything():
@@ -296,7 +314,7 @@ def main():
         walk.close()
     for fault in walk.checker.faults:
         print('FAULT:', fault)
-    print(f'{walk.checker.screens} looks at screens, {len(walk.checker.faults)} faults, '
+    print(f'{walk.style}: {walk.checker.screens} looks at screens, {len(walk.checker.faults)} faults, '
           f'{time.monotonic() - begun:.0f} s')
     return 1 if walk.checker.faults else 0
 
