@@ -105,9 +105,11 @@ function(kv_link_floors)
   endif()
 endfunction()
 
-# kv_embed_layouts(): every src/**/<screen>.json is compiled in as text, found by kv::LayoutText(screen).
+# kv_embed_layouts(): every src/**/<screen>.json, and the read-me, is compiled in as text, found by its base name
+# with kv::LayoutText.
 function(kv_embed_layouts)
   file(GLOB_RECURSE layouts CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/*.json)
+  list(APPEND layouts ${PROJECT_SOURCE_DIR}/README.md)  # its chapters are the rules inside the program
   set(out ${PROJECT_BINARY_DIR}/layouts/LayoutText.cpp)
   add_custom_command(
     OUTPUT ${out}

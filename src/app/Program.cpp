@@ -12,7 +12,9 @@
 #include "match/frmGame.h"
 #include "network/frmNetwork.h"
 #include "platform/QtTcpSocket.h"
+#include "presentation/LayoutText.h"
 #include "presentation/PictureSizes.h"
+#include "screens/frmHelp.h"
 #include "screens/frmMenu.h"
 #include "screens/frmOptions.h"
 #include "screens/frmPortraits.h"
@@ -62,6 +64,7 @@ Program::Program(const ProgramServices& services, const ProgramFolders& folders)
 }
 
 void Program::BuildStage() {
+  stage_.Help = [this] { OpenHelp(); };
   stage_.FactorChanged = [this] {
     double finest = 1;
     for (const QScreen* screen : QGuiApplication::screens()) {
@@ -83,6 +86,7 @@ void Program::BuildStage() {
 }
 
 Program::~Program() {
+  CloseHelp();
   CloseCurrent();
   while (!retired_.empty()) retired_.pop_front();
 }
@@ -158,7 +162,7 @@ void Program::OpenSplash() {
         Services(),
         frmSplashServices{folders_.player,
                           [this] { return std::make_unique<clsPlayer>(dialogs_, services_.random); },
-                          services_.openAddress, settings_.lastPlayer()});
+                          settings_.lastPlayer()});
   });
 }
 
@@ -236,6 +240,30 @@ void Program::ClosePortraits() {
   screen_->Open();
 }
 
+void Program::OpenHelp() {
+  CloseHelp();
+  const std::string style = player_ == nullptr ? "Slate" : player_->Interface_Opt;
+  helpEffects_ = std::make_unique<Effects>(services_.scheduler, buttons_, globals_.pictures);
+  ScreenServices services = Services();
+  help_ = std::make_shared<frmHelp>(
+      ScreenServices{services.scheduler, services.dialogs, services.random, services.buttons, *helpEffects_,
+                     services.look, services.getPic, services.portraits, services.navigator, services.window,
+                     services.announcer},
+      style, HelpPages(LayoutText("README"), player_.get()));
+  help_->setParent(&stage_, Qt::Window | Qt::FramelessWindowHint);
+  help_->move(stage_.geometry().center() - help_->rect().center());
+  help_->Open();
+  help_->activateWindow();
+}
+
+void Program::CloseHelp() {
+  if (help_ == nullptr) return;
+  help_->CloseScreen();
+  Retire(std::move(help_));
+  Retire(std::shared_ptr<void>(std::move(helpEffects_)));
+  stage_.activateWindow();
+}
+
 // --- Matches ---------------------------------------------------------------------------------------------
 
 void Program::NewGame(std::string_view mode) {
@@ -301,6 +329,7 @@ void Program::EndProgramSoon() {
 void Program::EndProgram() {
   globals_.tmrOff->setEnabled(false);
   globals_.tmrReloadCards->setEnabled(false);
+  CloseHelp();
   CloseCurrent();
   // Whoever closes the window has ended the run as well: a record must not be lost by that.
   if (game_ != nullptr && game_->Mode == kModeArcade) EndArcadeRun(*game_, *player_);

@@ -35,9 +35,8 @@ struct ProgramServices {
   SoundDevice& sound;
   /// Ends the event loop.
   std::function<void()> quit;
-  /// Show a folder in the desktop's file browser, and an address in its web browser; both may be empty.
+  /// Shows a folder in the desktop's file browser; may be empty.
   std::function<void(const std::string& folder)> openFolder{};
-  std::function<void(const std::string& address)> openAddress{};
   /// A socket of the network, and the machine's IPv4 addresses; the real ones where they are empty.
   std::function<std::unique_ptr<TcpSocket>()> newSocket{};
   std::function<std::vector<std::string>()> localAddresses{};
@@ -77,6 +76,8 @@ class Program final : public Navigator {
   void OpenMatch() override;
   void OpenPortraits(PortraitCaller& caller) override;
   void ClosePortraits() override;
+  void OpenHelp() override;
+  void CloseHelp() override;
   void NewGame(std::string_view mode) override;
   void LeaveMatch() override;
   void ReloadCards() override;
@@ -136,6 +137,9 @@ class Program final : public Navigator {
   std::shared_ptr<clsGame> game_;
   std::shared_ptr<MatchBooking> booking_;
   std::shared_ptr<Screen> screen_;
+  std::unique_ptr<Effects>
+      helpEffects_;  // its own, so that what glows behind it goes on; both while it is open
+  std::shared_ptr<Screen> help_;
   std::shared_ptr<Screen> behind_;  // the hidden screen that the portrait picker was opened from
   std::deque<std::shared_ptr<void>> retired_;
   std::unique_ptr<Timer> tmrSweep_;   // destroys what is retired

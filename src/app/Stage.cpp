@@ -243,7 +243,9 @@ void Stage::closeEvent(QCloseEvent* event) {
 
 void Stage::keyPressEvent(QKeyEvent* event) {
   const bool control = event->modifiers().testFlag(Qt::ControlModifier);
-  if (event->key() == Qt::Key_F11) {
+  if (event->key() == Qt::Key_F1) {
+    if (Help) Help();
+  } else if (event->key() == Qt::Key_F11) {
     setFullScreen(!full_);
   } else if (control && (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Equal)) {
     StepSize(1);

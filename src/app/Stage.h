@@ -47,6 +47,8 @@ class Stage final : public QWidget, public WindowSize {
   /// Comes to the front and takes the keys.
   void Raise();
 
+  /// The player asks for the rules.
+  std::function<void()> Help;
   /// Everything is drawn at another factor from now on.
   std::function<void()> FactorChanged;
   /// The player has changed size, full screen or place.

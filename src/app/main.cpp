@@ -37,14 +37,10 @@ void OpenFolder(const std::string& folder) {
   QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(absolute)));
 }
 
-void OpenAddress(const std::string& address) {
-  QDesktopServices::openUrl(QUrl::fromUserInput(QString::fromStdString(address)));
-}
-
-/// The icon's sizes that lie with the data; a missing one is no fault.
+/// The icon's sizes that lie with the data and that a window manager shows; a missing one is no fault.
 QIcon ProgramIcon(const std::string& dataFolder) {
   QIcon icon;
-  for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+  for (const int size : {16, 24, 32, 48, 64}) {
     const std::string file = dataFolder + "/Icons/kelm-vantri-" + std::to_string(size) + ".png";
     if (std::filesystem::exists(file)) icon.addFile(QString::fromStdString(file));
   }
@@ -120,19 +116,9 @@ int main(int argc, char** argv) {
   kv::QtSizeFactor sizes;
   kv::FileSettings settings(kv::SettingsFolder() + "/settings.ini", scheduler);
   kv::QtAnnouncer announcer;
-  kv::Program program({scheduler,
-                       dialogs,
-                       random,
-                       sound,
-                       quit,
-                       OpenFolder,
-                       OpenAddress,
-                       {},
-                       {},
-                       &sizes,
-                       &settings,
-                       &announcer},
-                      {dataFolder, working, kv::PortraitFolder(dataFolder, working)});
+  kv::Program program(
+      {scheduler, dialogs, random, sound, quit, OpenFolder, {}, {}, &sizes, &settings, &announcer},
+      {dataFolder, working, kv::PortraitFolder(dataFolder, working)});
   if (ends.ended()) return 0;
   ends.Ended = [&program] { program.EndAtOnce(); };
   program.Start();

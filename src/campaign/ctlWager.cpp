@@ -3,7 +3,6 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QSignalBlocker>
-#include <algorithm>
 
 #include "platform/Pressable.h"
 #include "platform/QtKeys.h"
@@ -171,12 +170,7 @@ bool ctlWager::eventFilter(QObject* watched, QEvent* event) {
 void ctlWager::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   PaintPanel(painter, rect(), look_);
-  const QColor edge = look_.colour(u"border_color", Qt::gray);
-  painter.setPen(edge);
-  for (int line = 0; line < 3; ++line) {  // the grip of the drag bar
-    const int y = drgWTitlebar_.center().y() - 3 + 3 * line;
-    painter.drawLine(drgWTitlebar_.left() + 12, y, drgWTitlebar_.right() - 12, y);
-  }
+  PanelDrag::Paint(painter, drgWTitlebar_, look_.colour(u"border_color", Qt::gray));
   for (const QLabel* label : {lblCredits_, lblWagerInfo_}) {
     if (!label->isVisible() || !label->isEnabled()) continue;
     if (label->hasFocus() || label->underMouse()) painter.drawRect(label->geometry().adjusted(0, 0, -1, -1));
@@ -184,21 +178,16 @@ void ctlWager::paintEvent(QPaintEvent*) {
 }
 
 void ctlWager::mousePressEvent(QMouseEvent* event) {
-  const QPoint at = event->position().toPoint();
-  if (event->button() == Qt::LeftButton && drgWTitlebar_.contains(at)) grip_ = at;
+  if (drgWTitlebar_.contains(event->position().toPoint())) drag_.Press(*event);
 }
 
 void ctlWager::mouseMoveEvent(QMouseEvent* event) {
   context_.unColor();
-  if (!grip_) return;
-  const QPoint corner = mapToParent(event->position().toPoint()) - *grip_;
-  const QSize room = parentWidget()->size() - size();
-  move(std::clamp(corner.x(), 0, std::max(0, room.width())),
-       std::clamp(corner.y(), highest_, std::max(highest_, room.height())));
+  drag_.Move(*this, *event, highest_);
 }
 
 void ctlWager::mouseReleaseEvent(QMouseEvent*) {
-  grip_.reset();
+  drag_.Release();
 }
 
 }  // namespace kv

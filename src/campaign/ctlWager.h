@@ -6,10 +6,10 @@
 #include <QLineEdit>
 #include <QWidget>
 #include <functional>
-#include <optional>
 
 #include "campaign/WagerEntry.h"
 #include "presentation/Layout.h"
+#include "presentation/PanelDrag.h"
 #include "presentation/ctlButton.h"
 
 namespace kv {
@@ -60,8 +60,8 @@ class ctlWager final : public QWidget {
   QString style_ = QStringLiteral("Slate");
   PropertyBag look_;
   QRect drgWTitlebar_;
-  int highest_ = 0;              // the title bar of the screen stays free
-  std::optional<QPoint> grip_;   // where the drag bar is held
+  int highest_ = 0;  // the title bar of the screen stays free
+  PanelDrag drag_;
   QLabel* lblPrompt_ = nullptr;  // children
   Fill* lblCredits_ = nullptr;
   Fill* lblWagerInfo_ = nullptr;

@@ -93,4 +93,14 @@ void SaveBooking::TurnLossIntoWin() {
   SaveWin();
 }
 
+std::string SaveBooking::Progress() const {
+  if (game_.Mode == kModeArcade && game_.CreditsRef->Value > player_.Arcade_Best) {
+    return "new high score: " + std::to_string(game_.CreditsRef->Value);
+  }
+  const auto wins = game_.Mode == kModeCampaign ? WinCounter(player_, game_.OppName) : nullptr;
+  const int needed = game_.OppName == kSpecialOpponent ? kWinsToArcadeOpp : kWinsToUnlock;
+  if (wins == nullptr || wins->Value > needed) return {};
+  return std::to_string(wins->Value) + " of " + std::to_string(needed) + " wins";
+}
+
 }  // namespace kv

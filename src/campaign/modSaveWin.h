@@ -29,6 +29,7 @@ class SaveBooking final : public MatchBooking {
   void SaveWin() override;
   void SaveLoss() override;
   void TurnLossIntoWin() override;
+  [[nodiscard]] std::string Progress() const override;
 
  private:
   clsGame& game_;

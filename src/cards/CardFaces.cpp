@@ -5,8 +5,8 @@
 namespace kv {
 namespace {
 
-constexpr int kFirstFace = 200;
-constexpr int kStyleStep = 20;
+constexpr int kSlateFaces = 200;
+constexpr int kEmberFaces = 220;
 
 std::string InWords(int value) {
   return (value < 0 ? "minus " : "plus ") + std::to_string(std::abs(value));
@@ -18,20 +18,11 @@ std::string Unchosen(const CardCode& code, const char* name) {
 
 }  // namespace
 
-void CardFaces::LoadCardPictures(const std::function<Picture(int number)>& getPic) {
-  for (int style = 0; style < 2; ++style) {
-    for (int slot = 1; slot <= 7; ++slot) {
-      faces_.at(static_cast<std::size_t>(style)).at(static_cast<std::size_t>(slot) - 1) =
-          getPic(kFirstFace + kStyleStep * style + slot);
-    }
-  }
-}
-
 Picture CardFaces::CardFace(int number) const {
-  const int style = number / 10 % 10 / 2;
   const int slot = number % 10;
-  if (number / 100 != kFirstFace / 100 || style > 1 || slot < 1 || slot > 7) return {};
-  return faces_.at(static_cast<std::size_t>(style)).at(static_cast<std::size_t>(slot) - 1);
+  const int style = number - slot;
+  const bool face = (style == kSlateFaces || style == kEmberFaces) && slot >= 1 && slot <= 7;
+  return face && getPic_ ? getPic_(number) : Picture();
 }
 
 std::string SpokenCard(const CardCode& code) {

@@ -1,10 +1,10 @@
 // What every card control shares: the faces of both interface styles and the card-sized pictures that are
-// laid over them. Loaded once for the whole program; it never draws.
+// laid over them. It never draws.
 #pragma once
 
-#include <array>
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "cards/CardCode.h"
 #include "platform/Picture.h"
@@ -13,13 +13,14 @@ namespace kv {
 
 class CardFaces {
  public:
-  /// Fetches the seven faces of each style: pictures 201 to 207 ("Slate") and 221 to 227 ("Ember").
-  void LoadCardPictures(const std::function<Picture(int number)>& getPic);
+  /// Where the seven faces of each style come from: pictures 201 to 207 ("Slate") and 221 to 227 ("Ember"). A
+  /// face is fetched when it is asked for, and kept by who hands it out.
+  void LoadCardPictures(std::function<Picture(int number)> getPic) { getPic_ = std::move(getPic); }
   /// The face with this picture number; empty for any number that is none.
   [[nodiscard]] Picture CardFace(int number) const;
 
  private:
-  std::array<std::array<Picture, 7>, 2> faces_;
+  std::function<Picture(int number)> getPic_;
 };
 
 /// The bundle that a card control draws with; it must outlive the control.

@@ -41,6 +41,8 @@ class MatchBooking {
   virtual void SaveLoss() = 0;
   /// The last match, booked as lost, is won after all.
   virtual void TurnLossIntoWin() {}
+  /// What the last win has brought besides credits, in a few words ("3 of 10 wins"); empty for nothing.
+  [[nodiscard]] virtual std::string Progress() const { return {}; }
 };
 
 }  // namespace kv

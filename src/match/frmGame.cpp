@@ -15,10 +15,15 @@ frmGame::frmGame(const frmGameServices& services)
     : Screen(services, "frmGame", services.player.Interface_Opt),
       services_(services),
       styleIndex_(services.player.Interface_Opt == "Ember" ? 1 : 0),
-      sentences_([this](const std::string& told) { services_.announcer.Announce(told, Urgency::Polite); }),
+      sentences_([this](const std::string& told) {
+        services_.announcer.Announce(told, Urgency::Polite);
+        strip_->Tell(told);
+      }),
+      reasons_(services.booking),
       engine_(services.game, MatchOptionsOf(services.player), *this, services.network, services.booking,
               services.dialogs, services.random) {
   observers_.Add(sentences_);
+  observers_.Add(reasons_);
   engine_.setObserver(&observers_);
   BuildTimers();
   BuildPanel();
@@ -54,6 +59,7 @@ void frmGame::BuildControls() {
   player_ = std::make_unique<frmGameSide>(Seat::Player, *panel_, layout(), services_, grid);
   opponent_ = std::make_unique<frmGameSide>(Seat::Opponent, *panel_, layout(), services_, grid);
   lblWager_ = layout().NewLabel(u"lblWager", panel_);
+  strip_ = std::make_unique<frmGameStrip>(*layout().NewLabel(u"lblStrip", panel_));
   hand_ = std::make_unique<frmGameHand>(*panel_, layout(), services_.look, grid);
   cmdTurn_ = NewMatchButton(u"cmdTurn", [this] { engine_.person().EndTurn(); });
   cmdStand_ = NewMatchButton(u"cmdStand", [this] { engine_.person().Stand(); });

@@ -5,12 +5,14 @@
 #include <memory>
 
 #include "match/MatchEngine.h"
+#include "match/MatchReasons.h"
 #include "match/MatchSentences.h"
 #include "match/ctlBust.h"
 #include "match/ctlChat.h"
 #include "match/frmGameHand.h"
 #include "match/frmGameServices.h"
 #include "match/frmGameSide.h"
+#include "match/frmGameStrip.h"
 #include "presentation/Screen.h"
 
 namespace kv {
@@ -76,7 +78,8 @@ class frmGame final : public Screen, private MatchView {
 
   frmGameServices services_;
   const int styleIndex_;
-  MatchSentences sentences_;  // what happens, for who does not see it
+  MatchSentences sentences_;  // what happens, in words
+  MatchReasons reasons_;
   MatchObservers observers_;
   MatchEngine engine_;
   clsCardArray keys_;                             // the player's, as they were when the screen was activated
@@ -91,6 +94,7 @@ class frmGame final : public Screen, private MatchView {
   ctlTitlebar* ctlTitlebar_ = nullptr;
   ctlBust* ctlBust_ = nullptr;
   QLabel* lblWager_ = nullptr;
+  std::unique_ptr<frmGameStrip> strip_;
   ctlChat* chat_ = nullptr;  // in a network match only
 };
 

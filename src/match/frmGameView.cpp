@@ -78,6 +78,8 @@ void frmGame::LightsChanged() {
 void frmGame::BannerChanged() {
   const MatchBanner& banner = engine_.shown().banner;
   ctlBust_->lblBust().setText(QString::fromStdString(banner.text));
+  ctlBust_->lblReason().setText(QString::fromStdString(reasons_.text()));
+  ctlBust_->lblReason().setAccessibleName(ctlBust_->lblReason().text());
   ctlButton& button = ctlBust_->cmdBust();
   button.setCaption(QString::fromStdString(banner.caption));
   button.setEnabled(banner.buttonEnabled);

@@ -31,6 +31,10 @@ class Navigator {
   /// Closes the picker and shows the screen that it was opened from again.
   virtual void ClosePortraits() = 0;
 
+  /// The rules in a window of their own; what is open goes on behind it.
+  virtual void OpenHelp() {}
+  virtual void CloseHelp() {}
+
   /// A fresh match record of this mode takes the place of the present one.
   virtual void NewGame(std::string_view mode) = 0;
   /// The match is over and booked, and its last continue was used: the match screen is closed, and what

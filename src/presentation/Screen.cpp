@@ -117,6 +117,9 @@ ctlButton* Screen::NewButton(QStringView control, std::function<void()> click) {
 
 ctlTitlebar* Screen::NewTitlebar() {
   titlebar_ = new ctlTitlebar(this, services().buttons);
+  if (layout_.bag(u"ctlTitlebar").flag(u"help", true)) {
+    titlebar_->Help = [this] { services().navigator.OpenHelp(); };
+  }
   titlebar_->ReadProperties(layout_.bag(u"ctlTitlebar"));
   layout_.Place(u"ctlTitlebar", *titlebar_);
   titlebar_->setButtonFocus(Qt::TabFocus);

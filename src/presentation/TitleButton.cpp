@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPainterPath>
 
 #include "platform/QtKeys.h"
 
@@ -11,6 +12,18 @@ namespace {
 
 void Call(const std::function<void()>& handler) {
   if (handler) handler();
+}
+
+void DrawQuestionMark(QPainter& painter, const QRectF& area) {
+  const QRectF hook(area.left(), area.top() - area.height() * 0.3, area.width(), area.height());
+  QPainterPath path;
+  path.arcMoveTo(hook, 180);
+  path.arcTo(hook, 180, -225);
+  path.quadTo(area.center() + QPointF(0, area.height() * 0.25),
+              area.center() + QPointF(0, area.height() * 0.45));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawPath(path);
+  painter.drawPoint(QPointF(area.center().x(), area.bottom() + area.height() * 0.25));
 }
 
 }  // namespace
@@ -37,11 +50,16 @@ void TitleButton::paintEvent(QPaintEvent*) {
       QPen(dark ? QColor(20, 20, 24) : QColor(255, 255, 255, 220), 1.6, Qt::SolidLine, Qt::RoundCap));
   const double inset = width() * 0.3;
   const QRectF sign = QRectF(rect()).adjusted(inset, inset, -inset, -inset);
-  if (sign_ == Sign::Close) {
-    painter.drawLine(sign.topLeft(), sign.bottomRight());
-    painter.drawLine(sign.topRight(), sign.bottomLeft());
-  } else {
-    painter.drawLine(sign.bottomLeft(), sign.bottomRight());
+  switch (sign_) {
+    case Sign::Close:
+      painter.drawLine(sign.topLeft(), sign.bottomRight());
+      painter.drawLine(sign.topRight(), sign.bottomLeft());
+      break;
+    case Sign::Minimise:
+      painter.drawLine(sign.bottomLeft(), sign.bottomRight());
+      break;
+    case Sign::Help:
+      DrawQuestionMark(painter, sign);
   }
 }
 

@@ -1,4 +1,4 @@
-// One of the two small buttons of a title bar. It knows how it looks and when it was pressed, not what it is
+// One of the small buttons of a title bar. It knows how it looks and when it was pressed, not what it is
 // for.
 #pragma once
 
@@ -10,7 +10,7 @@ namespace kv {
 
 class TitleButton final : public QAbstractButton {
  public:
-  enum class Sign { Close, Minimise };
+  enum class Sign { Close, Minimise, Help };
 
   TitleButton(QWidget* parent, Sign sign);
 

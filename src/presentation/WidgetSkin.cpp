@@ -7,6 +7,7 @@
 #include <QPlainTextEdit>
 #include <QSlider>
 #include <QStringList>
+#include <QTextEdit>
 
 namespace kv {
 namespace {
@@ -133,6 +134,9 @@ QString SheetFor(const QWidget& widget, const Look& look) {
   }
   if (qobject_cast<const QPlainTextEdit*>(&widget) != nullptr) {
     return look.Box(QStringLiteral("QPlainTextEdit")) + look.ScrollBar();
+  }
+  if (qobject_cast<const QTextEdit*>(&widget) != nullptr) {
+    return look.Box(QStringLiteral("QTextEdit")) + look.ScrollBar();
   }
   if (qobject_cast<const QAbstractItemView*>(&widget) != nullptr) {
     return look.List(QStringLiteral("QAbstractItemView")) + look.ScrollBar();

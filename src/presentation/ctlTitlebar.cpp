@@ -42,7 +42,8 @@ ctlTitlebar::ctlTitlebar(QWidget* parent, ButtonContext& context)
       lblTitlebar_(new QLabel(this)),
       drgTitlebar_(new TitleDrag(this)),
       quit_(new TitleButton(this, TitleButton::Sign::Close)),
-      mini_(new TitleButton(this, TitleButton::Sign::Minimise)) {
+      mini_(new TitleButton(this, TitleButton::Sign::Minimise)),
+      help_(new TitleButton(this, TitleButton::Sign::Help)) {
   lblTitlebar_->setObjectName(QStringLiteral("lblTitlebar"));
   lblTitlebar_->setTextFormat(Qt::PlainText);
   lblTitlebar_->setAlignment(Qt::AlignCenter);
@@ -51,6 +52,9 @@ ctlTitlebar::ctlTitlebar(QWidget* parent, ButtonContext& context)
   quit_->setAccessibleName(QStringLiteral("Close"));
   mini_->setObjectName(QStringLiteral("cmdMini"));
   mini_->setAccessibleName(QStringLiteral("Minimize"));
+  help_->setObjectName(QStringLiteral("cmdHelp"));
+  help_->setAccessibleName(QStringLiteral("The rules"));
+  help_->setToolTip(QStringLiteral("The rules (F1)"));
   quit_->setColor(kQuitIdle);
   setBorder_Color(kDefaultBorder);
   ConnectParts();
@@ -72,6 +76,10 @@ void ctlTitlebar::ConnectParts() {
     if (const std::function<void()> handler = Quit) handler();
   });
   mini_->Moved = [this] { PointerMoved(); };
+  help_->Moved = [this] { PointerMoved(); };
+  connect(help_, &QAbstractButton::clicked, this, [this] {
+    if (const std::function<void()> handler = Help) handler();
+  });
   connect(mini_, &QAbstractButton::clicked, this,
           [this] { window()->setWindowState(window()->windowState() | Qt::WindowMinimized); });
 }
@@ -92,6 +100,7 @@ QString ctlTitlebar::Caption() const {
 void ctlTitlebar::setBorder_Color(const QColor& color) {
   borderColor_ = color;
   mini_->setColor(color);
+  help_->setColor(color);
   QPalette palette = lblTitlebar_->palette();
   palette.setColor(QPalette::WindowText, color.lighter(210));
   lblTitlebar_->setPalette(palette);
@@ -114,13 +123,17 @@ void ctlTitlebar::Relayout() {
   quit_->setGeometry(width() - kRightMargin - kButtonSize, top, kButtonSize, kButtonSize);
   mini_->setGeometry(quit_->x() - kGap - kButtonSize, top, kButtonSize, kButtonSize);
   const clsPlayer* player = context_.player();
-  mini_->setVisible(player == nullptr ? miniInLayout_ : player->ShowMinimize_Opt);
+  const bool minimizes = player == nullptr ? miniInLayout_ : player->ShowMinimize_Opt;
+  mini_->setVisible(minimizes);
+  help_->setGeometry((minimizes ? mini_ : quit_)->x() - kGap - kButtonSize, top, kButtonSize, kButtonSize);
+  help_->setVisible(static_cast<bool>(Help));
   update();
 }
 
 void ctlTitlebar::setButtonFocus(Qt::FocusPolicy policy) {
   quit_->setFocusPolicy(policy);
   mini_->setFocusPolicy(policy);
+  help_->setFocusPolicy(policy);
 }
 
 QWidget& ctlTitlebar::drgTitlebar() const {
@@ -133,6 +146,10 @@ QAbstractButton& ctlTitlebar::cmdQuit() const {
 
 QAbstractButton& ctlTitlebar::cmdMini() const {
   return *mini_;
+}
+
+QAbstractButton& ctlTitlebar::cmdHelp() const {
+  return *help_;
 }
 
 QColor ctlTitlebar::QuitColor() const {

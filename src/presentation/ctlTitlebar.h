@@ -24,6 +24,8 @@ class ctlTitlebar final : public QWidget {
   /// The close button was clicked.
   std::function<void()> Quit;
   std::function<void()> MouseMove;
+  /// The help button was clicked; it is shown once this is set and the bar is laid out again.
+  std::function<void()> Help;
 
   /// The close button back to idle. Call it when the pointer moves over the window's background.
   void unColorQuit();
@@ -43,11 +45,12 @@ class ctlTitlebar final : public QWidget {
   void setButtonFocus(Qt::FocusPolicy policy);
 
   /// The parts, for the keyboard and for tests: what is written on the bar, the area over it by which the
-  /// window is dragged, and the two buttons at its right end.
+  /// window is dragged, and the buttons at its right end.
   [[nodiscard]] QLabel& lblTitlebar() const { return *lblTitlebar_; }
   [[nodiscard]] QWidget& drgTitlebar() const;
   [[nodiscard]] QAbstractButton& cmdQuit() const;
   [[nodiscard]] QAbstractButton& cmdMini() const;
+  [[nodiscard]] QAbstractButton& cmdHelp() const;
   /// The colour of the close button at this moment.
   [[nodiscard]] QColor QuitColor() const;
 
@@ -66,6 +69,7 @@ class ctlTitlebar final : public QWidget {
   TitleDrag* drgTitlebar_;
   TitleButton* quit_;
   TitleButton* mini_;
+  TitleButton* help_;
   bool miniInLayout_ = true;
 };
 

@@ -20,7 +20,6 @@ namespace kv {
 namespace {
 
 constexpr int kLoadWatchInterval = 10;  // milliseconds
-constexpr const char* kAddress = "http://kelm-vantri.example";
 
 }  // namespace
 
@@ -108,7 +107,8 @@ void frmSplash::BuildCreation() {
 
 void frmSplash::BuildFrame() {
   BuildSplashFrame(*this, layout(), services().buttons,
-                   {.lblURL = [this] { splash_.openAddress(kAddress); },
+                   // There is no site yet: what a newcomer would look for there is in the program.
+                   {.lblURL = [this] { services().navigator.OpenHelp(); },
                     .cmdMini = [this] { window()->showMinimized(); },
                     .cmdQuit = [this] { LeaveProgram(); }});
 }
@@ -188,7 +188,9 @@ void frmSplash::paintEvent(QPaintEvent* event) {
   Screen::paintEvent(event);
   QPainter painter(this);
   const PropertyBag panel = layout().bag(u"panel");
-  PaintPanel(painter, layout().rect(u"panel"), panel);
+  // The title glows beside it.
+  if (event->region().intersects(layout().rect(u"panel")))
+    PaintPanel(painter, layout().rect(u"panel"), panel);
   const PropertyBag footer = layout().bag(u"footer");
   QColor shade = footer.colour(u"fill_color");
   shade.setAlpha(footer.number(u"fill_alpha"));

@@ -12,7 +12,6 @@ namespace kv {
 struct frmSplashServices {
   std::string workingFolder;  // player files; empty for the current folder
   std::function<std::unique_ptr<clsPlayer>()> newPlayer;
-  std::function<void(const std::string& address)> openAddress;
   std::string lastPlayer{};  // whom the list stands at first, if he is there still
 };
 

@@ -252,6 +252,10 @@ TEST_F(ProgramTest, SurvivesAMonkey) {
         EXPECT_EQ(match->side(seat).table().size(), match->engine().shown().Table(seat).size());
       }
     }
+    if (clsPlayer* player = program->player(); player != nullptr && !player->PIN.empty()) {
+      player->PIN.clear();  // it would lock the monkey out
+      player->WritePlayerFile();
+    }
     if (step % 50 == 0) static_cast<void>(Stored("ann"));
   }
   for (const char* name : {"frmSplash", "frmMenu", "frmOptions", "frmPortraits", "frmCampaign", "frmCards",

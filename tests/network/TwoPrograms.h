@@ -37,7 +37,6 @@ class NetworkPlayer {
                         sound,
                         [this] { ++quits; },
                         {},
-                        {},
                         [&net, address, this] {
                           auto made = std::make_unique<LoopbackSocket>(net, address);
                           socket = made.get();

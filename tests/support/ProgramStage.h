@@ -46,7 +46,6 @@ class ProgramStage {
                         sound,
                         [this] { ++quits; },
                         {},
-                        {},
                         [this] { return std::make_unique<LoopbackSocket>(net, "10.0.0.1"); },
                         [] { return std::vector<std::string>{"10.0.0.1"}; },
                         sizes,

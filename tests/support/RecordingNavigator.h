@@ -25,6 +25,7 @@ class RecordingNavigator : public Navigator {
   void OpenMatch() override { calls.emplace_back("OpenMatch"); }
   void OpenPortraits(PortraitCaller&) override { calls.emplace_back("OpenPortraits"); }
   void ClosePortraits() override { calls.emplace_back("ClosePortraits"); }
+  void OpenHelp() override { calls.emplace_back("OpenHelp"); }
   void NewGame(std::string_view mode) override { calls.emplace_back("NewGame " + std::string(mode)); }
   void LeaveMatch() override { calls.emplace_back("LeaveMatch"); }
   void ReloadCards() override { calls.emplace_back("ReloadCards"); }

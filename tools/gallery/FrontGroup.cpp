@@ -1,9 +1,11 @@
-// The start screen, the main menu, the options and the portrait picker.
+// The start screen, the main menu, the options, the portrait picker and the rules.
 #include <QLineEdit>
 #include <QListWidget>
 
 #include "Gallery.h"
+#include "presentation/LayoutText.h"
 #include "screens/PlayerFiles.h"
+#include "screens/frmHelp.h"
 #include "screens/frmMenu.h"
 #include "screens/frmOptions.h"
 #include "screens/frmPortraits.h"
@@ -111,6 +113,18 @@ void RenderPortraits(Gallery& gallery) {
   Picker(gallery, Own::None, "portraits");
   Picker(gallery, Own::Shown, "portraits-own");
   Picker(gallery, Own::Refused, "portraits-refused");
+}
+
+void RenderHelp(Gallery& gallery) {
+  test::ScreenStage stage(gallery.style(), gallery.scale());
+  FillSamplePlayer(stage.player);
+  frmHelp help(stage.services(), gallery.style(), HelpPages(LayoutText("README"), &stage.player));
+  help.Open();
+  stage.Settle();
+  for (int page = 0; page < help.lstPages().count(); ++page) {
+    help.lstPages().setCurrentRow(page);
+    gallery.Save(help, ("help-" + std::to_string(page + 1)).c_str());
+  }
 }
 
 }  // namespace kv

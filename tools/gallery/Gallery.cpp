@@ -11,7 +11,7 @@
 namespace kv {
 namespace {
 
-constexpr auto kGroups = {RenderStart,    RenderMenu, RenderOptions, RenderPortraits,
+constexpr auto kGroups = {RenderStart,    RenderMenu, RenderOptions, RenderPortraits, RenderHelp,
                           RenderCampaign, RenderDesk, RenderLobby,   RenderMatch};
 
 }  // namespace

@@ -43,6 +43,7 @@ void RenderStart(Gallery& gallery);
 void RenderMenu(Gallery& gallery);
 void RenderOptions(Gallery& gallery);
 void RenderPortraits(Gallery& gallery);
+void RenderHelp(Gallery& gallery);
 void RenderCampaign(Gallery& gallery);
 void RenderDesk(Gallery& gallery);
 void RenderMatch(Gallery& gallery);
