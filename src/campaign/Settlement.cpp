@@ -9,6 +9,7 @@ namespace kv {
 bool TakeStake(clsGame& game, PlayerFields& player, std::int32_t amount) {
   if (amount < 0 || amount > game.CreditsRef->Value) return false;
   game.Wager = amount;
+  game.LastWagers[game.OppName] = amount;
   game.CreditsRef->Value -= amount;
   if (game.Mode == kModeNetwork) Raise(player.Disconnects);
   if (game.Mode == kModeCampaign) Raise(player.Losses->Value);

@@ -36,10 +36,21 @@ std::string_view CaptionText(WagerCaption caption) {
 WagerEntry::WagerEntry(const clsGame& game, const PlayerFields& player, const NetworkStake& networkStake,
                        bool hosting)
     : game_(game), player_(player), networkStake_(networkStake) {
-  if (game_.Mode != kModeNetwork) return;
+  if (game_.Mode != kModeNetwork) {
+    ProposeLast();
+    return;
+  }
   boxEnabled_ = false;
   caption_ = hosting ? WagerCaption::Propose : WagerCaption::Waiting;
   if (!hosting) text_ = kUnknown;
+}
+
+/// Who plays on for the same stake only presses Enter.
+void WagerEntry::ProposeLast() {
+  const auto last = game_.LastWagers.find(game_.OppName);
+  if (last == game_.LastWagers.end() || !Permitted(last->second)) return;
+  text_ = std::to_string(last->second);
+  Judge();
 }
 
 bool WagerEntry::Valid(std::string_view text) const {

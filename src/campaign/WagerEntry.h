@@ -43,8 +43,9 @@ struct WagerPress {
 
 class WagerEntry {
  public:
-  /// The panel as the card screen opens it, with an empty box. In "Network" everything is disabled; `hosting`
-  /// tells whose turn it is to propose. All three must outlive the entry.
+  /// The panel as the card screen opens it: with the last stake against this opponent if it is permitted
+  /// still, else with an empty box. In "Network" everything is disabled; `hosting` tells whose turn it is to
+  /// propose. All three must outlive the entry.
   WagerEntry(const clsGame& game, const PlayerFields& player, const NetworkStake& networkStake, bool hosting);
 
   /// After every change of the box: what must stand in it now. Sets the button and its caption.
@@ -75,6 +76,7 @@ class WagerEntry {
   [[nodiscard]] bool Valid(std::string_view text) const;
   [[nodiscard]] bool Permitted(std::int64_t amount) const;
   void Judge();
+  void ProposeLast();
   BoxText Fill(std::int64_t amount);
 
   const clsGame& game_;

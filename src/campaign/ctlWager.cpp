@@ -53,6 +53,7 @@ ctlWager::ctlWager(QWidget* parent, Layout& layout, ButtonContext& context, Wage
     if (EndClick) EndClick();
   });
   TakeLayout(layout);
+  txtWager_->selectAll();  // a digit takes the place of the stake that is proposed
 }
 
 void ctlWager::TakeLayout(Layout& layout) {

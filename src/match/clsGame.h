@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -46,6 +47,7 @@ class clsGame {
   std::int32_t Wager = -1;  // credits; -1: no stake is open, or the match is booked
   std::int16_t MinWager = 0;
   std::int32_t MaxWager = kMostCredits;
+  std::map<std::string, std::int32_t> LastWagers;  // by opponent, since the mode was entered
   std::shared_ptr<clsLong> CreditsRef;
   std::shared_ptr<clsInteger> WinsRef = std::make_shared<clsInteger>();
   std::shared_ptr<clsInteger> LossesRef = std::make_shared<clsInteger>();

@@ -75,6 +75,21 @@ TEST_F(WagerRulesTest, OnlyPermittedAmountsOpenTheButton) {
   }
 }
 
+TEST_F(WagerRulesTest, TheLastStakeAgainstTheSameOpponentIsProposed) {
+  Meet(0);
+  EXPECT_EQ(Panel().text(), "");
+  Stake(8);
+  game.Wager = -1;
+  EXPECT_EQ(Panel().text(), "8");
+  EXPECT_TRUE(Panel().buttonEnabled());
+  game.CreditsRef->Value = 7;  // no longer to be had
+  EXPECT_EQ(Panel().text(), "");
+  EXPECT_FALSE(Panel().buttonEnabled());
+  game.CreditsRef->Value = 500;
+  game.OppName = "somebody else";
+  EXPECT_EQ(Panel().text(), "");
+}
+
 TEST_F(WagerRulesTest, LabelsFillTheBox) {
   Run(100, 130);
   WagerEntry run = Panel();
