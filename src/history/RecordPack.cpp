@@ -15,7 +15,7 @@ constexpr unsigned kSeatBit = 0x10;
 constexpr unsigned kLowBits = 0x0F;
 constexpr unsigned kEndOfMoves = 0xFF;
 constexpr unsigned kNoResult = 0xFE;
-constexpr int kTotalOffset = 0x4000;  // totals are never below its negative
+constexpr int kTotalOffset = 0x4000;  // totals lie between its negative and it
 
 class Writer {
  public:
@@ -119,6 +119,7 @@ class Reader {
     for (int& total : result.totals) {
       const unsigned high = Byte();
       total = static_cast<int>(high << 8U | Byte()) - kTotalOffset;
+      failed_ = failed_ || total > kTotalOffset;
     }
     return result;
   }
