@@ -54,6 +54,10 @@ struct Recorded {
                           [&](const MatchEvent& event, const MatchShown&) { again.Happened(event); }));
     EXPECT_GT(log.lines.size(), 10u);
     EXPECT_EQ(again.lines, log.lines);
+    HistoryFile& history = *player.program->history();
+    const auto lines = history.Lines();
+    ASSERT_FALSE(lines.empty());
+    EXPECT_EQ(history.Load(lines.front().id)->sets, recorder.record().sets);
   }
   NetworkPlayer& player;
   frmGame* heard = nullptr;
