@@ -10,6 +10,7 @@
 #include "campaign/frmCampaign.h"
 #include "campaign/frmCards.h"
 #include "campaign/modSaveWin.h"
+#include "history/frmRecord.h"
 #include "match/frmGame.h"
 #include "network/frmNetwork.h"
 #include "platform/QtTcpSocket.h"
@@ -193,6 +194,10 @@ void Program::OpenOptions() {
         Services(),
         frmOptionsServices{*player_, settings_, [this](int percent) { services_.sound.setVolume(percent); }});
   });
+}
+
+void Program::OpenRecord() {
+  Show([this] { return std::make_shared<frmRecord>(Services(), frmRecordServices{*player_, *history_}); });
 }
 
 void Program::OpenCampaign() {

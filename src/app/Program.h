@@ -74,6 +74,7 @@ class Program final : public Navigator {
   void PlayerLoaded(std::unique_ptr<clsPlayer> player) override;
   void OpenMenu() override;
   void OpenOptions() override;
+  void OpenRecord() override;
   void OpenCampaign() override;
   void OpenCards() override;
   void OpenLobby() override;

@@ -11,7 +11,7 @@
 #include <thread>
 
 #include "history/HistoryFile.h"
-#include "history/SampleMatch.h"
+#include "support/SampleMatch.h"
 #include "support/TempFolder.h"
 
 namespace kv {

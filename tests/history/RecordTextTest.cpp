@@ -3,7 +3,7 @@
 
 #include "history/RecordPack.h"
 #include "history/RecordText.h"
-#include "history/SampleMatch.h"
+#include "support/SampleMatch.h"
 
 namespace kv {
 namespace {

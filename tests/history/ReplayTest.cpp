@@ -6,10 +6,10 @@
 
 #include "ai/clsAI_Ember.h"
 #include "ai/clsAI_Normal.h"
-#include "history/SampleMatch.h"
 #include "match/Dealing.h"
 #include "support/EventLog.h"
 #include "support/MatchTable.h"
+#include "support/SampleMatch.h"
 
 namespace kv {
 namespace {
