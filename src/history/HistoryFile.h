@@ -44,6 +44,8 @@ class HistoryFile {
 
   /// What went wrong, for the person; each is told once. Empty: nothing new.
   [[nodiscard]] std::string TakeNotice();
+  /// The last of them, empty while nothing went wrong.
+  [[nodiscard]] const std::string& lastNotice() const { return told_; }
   [[nodiscard]] const std::string& path() const { return path_; }
   /// How many matches are not in the file yet.
   [[nodiscard]] std::size_t Waiting() const { return waiting_.size(); }

@@ -49,6 +49,7 @@ void frmRecord::BuildControls() {
   NewAction(u"cmdList", &frmRecord::SaveList);
   NewAction(u"cmdPlot", &frmRecord::SavePlot);
   lblNotice_ = layout().NewLabel(u"lblNotice", this);
+  lblNotice_->hide();  // until there is something to say
   NewAction(u"cmdBack", &frmRecord::LeaveProgram);
   ctlTitlebar_ = NewTitlebar();
   ctlTitlebar_->Quit = [this] { LeaveProgram(); };

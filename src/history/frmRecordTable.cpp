@@ -51,7 +51,8 @@ int frmRecordTable::columnCount(const QModelIndex& parent) const {
 
 QVariant frmRecordTable::data(const QModelIndex& index, int role) const {
   if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole && role != Qt::ToolTipRole) return {};
-  return cell_(index.row(), index.column());
+  const QString text = cell_(index.row(), index.column());
+  return text.isEmpty() ? QStringLiteral("-") : text;
 }
 
 QVariant frmRecordTable::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -12,6 +12,7 @@ namespace kv {
 
 class frmRecordTable final : public QAbstractTableModel {
  public:
+  /// What is not known is shown as "-".
   using Cell = std::function<QString(int row, int column)>;
 
   /// The model of `view`, which owns it; `widths` in layout pixels, the last column takes what is left.

@@ -32,7 +32,8 @@ void Fill(QComboBox& box, const char* all, const std::vector<std::pair<std::stri
 
 void frmRecord::Activate() {
   Read();
-  if (const std::string notice = record_.history.TakeNotice(); !notice.empty()) Tell(notice);
+  static_cast<void>(record_.history.TakeNotice());  // told here
+  if (!record_.history.lastNotice().empty()) Tell(record_.history.lastNotice());
 }
 
 void frmRecord::Read() {
@@ -90,6 +91,7 @@ void frmRecord::ShowRates() {
 }
 
 void frmRecord::Tell(const std::string& sentence) {
+  lblNotice_->show();
   lblNotice_->setText(QString::fromStdString(sentence));
   lblNotice_->setAccessibleName(lblNotice_->text());
   Announce(sentence);

@@ -101,6 +101,14 @@ class Walk:
         self.press('No')
         self.reader.usable('arcade')
 
+    def record(self):
+        self.press('matches: your record')
+        self.look_at('Your matches')
+        self.reader.get('Matches', 'table')
+        self.reader.get('Credits over time: .*')
+        self.press('Back to the menu')
+        self.reader.usable('arcade')
+
     def options(self, change):
         self.press('options')
         self.look_at('Game Options')
@@ -287,6 +295,7 @@ def main():
             walk.campaign(buy=first)
             walk.arcade(play=not first)
             walk.network(play=not first)
+            walk.record()
             walk.options(change=first)
     except Missing as missing:
         walk.checker.faults.append(str(missing))

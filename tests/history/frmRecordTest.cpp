@@ -123,6 +123,12 @@ TEST_F(frmRecordTest, IsReachedByKeysAlone) {
   EXPECT_EQ(stage.recorded.calls, std::vector<std::string>{"OpenMenu"});
 }
 
+TEST_F(frmRecordTest, SaysWhatBecameOfADamagedHistory) {
+  folder.Put("zoe.history.sqlite", "whatever it holds");
+  Open();
+  EXPECT_NE(Notice().find("set aside as zoe.history.damaged-1.sqlite"), std::string::npos) << Notice();
+}
+
 TEST_F(frmRecordTest, StandsWithoutAMatch) {
   Open();
   EXPECT_FALSE(Control<QWidget>("cmdExport").isEnabled());

@@ -1,5 +1,6 @@
 // The record screen: with nothing in it, and with an evening's matches.
 #include <QComboBox>
+#include <utility>
 
 #include "Gallery.h"
 #include "history/frmRecord.h"
@@ -20,6 +21,7 @@ void Fill(HistoryFile& history) {
     if (i % 5 == 0) record.mode = "Arcade";
     const bool won = i % 7 < 4;
     record.booking->result = won ? event::Result::Won : event::Result::Lost;
+    if (won != (record.winner == Seat::Player)) std::swap(record.setWins[0], record.setWins[1]);
     credits += won ? 20 : -25;
     record.booking->after = credits;
     history.Store(record, i == kMatches - 2);
