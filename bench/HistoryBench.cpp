@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <ctime>
 #include <filesystem>
 
 #include "history/HistoryFile.h"
@@ -36,17 +37,23 @@ void StoreMatch(benchmark::State& state) {
   const kv::test::TempFolder folder;
   kv::HistoryFile history(folder / "a.history.sqlite");
   history.Open();
+  benchmark::DoNotOptimize(Samples().size());  // made before, not while the clock runs
   std::size_t next = 0;
   double longest = 0;
+  double longestProcessor = 0;
   for (auto _ : state) {
     const auto start = std::chrono::steady_clock::now();
+    const std::clock_t clock = std::clock();
     history.Store(Samples().at(next++ % kDifferent));
     const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - start;
     longest = std::max(longest, took.count());
+    longestProcessor =
+        std::max(longestProcessor, 1e3 * static_cast<double>(std::clock() - clock) / CLOCKS_PER_SEC);
   }
   state.counters["longest_ms"] = longest;
+  state.counters["longest_cpu_ms"] = longestProcessor;
 }
-BENCHMARK(StoreMatch)->Name("history: storing a match")->Iterations(3000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(StoreMatch)->Name("history: storing a match")->Iterations(1000)->Unit(benchmark::kMicrosecond);
 
 void ReadList(benchmark::State& state) {
   const kv::test::TempFolder folder;
