@@ -1,6 +1,6 @@
 # Build rules that every folder shares.
 #
-# A folder of src/ becomes one or two static libraries. Rules folders (cards, ai, profile, match, campaign) are
+# A folder of src/ becomes one or two static libraries. Rules folders (cards, ai, profile, match, history, campaign) are
 # split: files named frm… or ctl… may use Qt and go to kv_<folder>_ui; all others go to kv_<folder>, which
 # never sees Qt's include paths. In platform/ the real forms (Qt…, Sdl…) go to kv_platform_ui.
 
@@ -86,13 +86,16 @@ function(kv_link_floors)
   kv_floor_uses(kv_cards_ui kv_platform_ui)
   kv_floor_uses(kv_presentation_ui kv_cards_ui kv_profile kv_layouts)
   kv_floor_uses(kv_match_ui kv_match kv_presentation_ui)
+  kv_floor_uses(kv_history kv_match)
+  target_link_libraries(kv_history PRIVATE SQLite::SQLite3)
+  kv_floor_uses(kv_history_ui kv_match_ui)
   kv_floor_uses(kv_campaign kv_match)
   kv_floor_uses(kv_screens kv_match)
   kv_floor_uses(kv_screens_ui kv_match_ui)
   kv_floor_uses(kv_campaign_ui kv_match_ui)
   kv_floor_uses(kv_network kv_campaign)
   kv_floor_uses(kv_network_ui kv_campaign_ui kv_screens_ui)
-  kv_floor_uses(kv_app_ui kv_screens_ui kv_network_ui)
+  kv_floor_uses(kv_app_ui kv_screens_ui kv_network_ui kv_history_ui)
   kv_embed_layouts()
   kv_add_program()
   if(TARGET kv_platform_ui)

@@ -3,12 +3,14 @@
 #include <QApplication>
 #include <QScreen>
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 
 #include "campaign/Settlement.h"
 #include "campaign/frmCampaign.h"
 #include "campaign/frmCards.h"
 #include "campaign/modSaveWin.h"
+#include "history/frmRecord.h"
 #include "match/frmGame.h"
 #include "network/frmNetwork.h"
 #include "platform/QtTcpSocket.h"
@@ -30,6 +32,12 @@ constexpr int kPeerFarewell = 300;  // three ticks of the link: enough for its l
 
 std::string BaseName(const std::string& path) {
   return std::filesystem::path(path).filename().string();
+}
+
+/// Seconds of UTC since 1970.
+std::int64_t Now() {
+  using std::chrono::seconds, std::chrono::system_clock;
+  return std::chrono::duration_cast<seconds>(system_clock::now().time_since_epoch()).count();
 }
 
 }  // namespace
@@ -138,6 +146,9 @@ void Program::CloseCurrent() {
     (*screen)->CloseScreen();
     Retire(std::move(*screen));
   }
+  if (kept_ == nullptr) return;
+  kept_->Leave();
+  Retire(std::move(kept_));
 }
 
 void Program::Retire(std::shared_ptr<void> what) {
@@ -154,6 +165,7 @@ void Program::ClearGame() {
 void Program::OpenSplash() {
   CloseCurrent();
   ClearGame();
+  history_.reset();
   sounds_.setPlayer(nullptr);
   buttons_.setPlayer(nullptr);
   Retire(std::move(player_));
@@ -168,6 +180,7 @@ void Program::OpenSplash() {
 
 void Program::PlayerLoaded(std::unique_ptr<clsPlayer> player) {
   player_ = std::move(player);
+  history_ = std::make_shared<HistoryFile>(HistoryFile::PathOf(player_->FileName));
   settings_.setLastPlayer(std::filesystem::path(player_->FileName).stem().string());
   sounds_.setPlayer(player_.get());
   buttons_.setPlayer(player_.get());
@@ -185,6 +198,10 @@ void Program::OpenOptions() {
         Services(),
         frmOptionsServices{*player_, settings_, [this](int percent) { services_.sound.setVolume(percent); }});
   });
+}
+
+void Program::OpenRecord() {
+  Show([this] { return std::make_shared<frmRecord>(Services(), frmRecordServices{*player_, *history_}); });
 }
 
 void Program::OpenCampaign() {
@@ -216,8 +233,18 @@ void Program::OpenMatch() {
     auto match =
         std::make_shared<frmGame>(frmGameServices{Services(), *player_, *game_, Network(), *booking_});
     if (game_->isNetwork()) network_->MatchOpened(match->engine());
+    KeepMatch(*match);
     return match;
   });
+  // Now, while the cards are being dealt, and not at the end of the match.
+  static_cast<void>(history_->Open());
+}
+
+void Program::KeepMatch(frmGame& match) {
+  kept_ = std::make_shared<KeptMatch>(history_, RecordOf(*game_, Now()), [this](const std::string& notice) {
+    if (services_.announcer != nullptr) services_.announcer->Announce(notice, Urgency::Polite);
+  });
+  match.observers().Add(*kept_);
 }
 
 void Program::OpenPortraits(PortraitCaller& caller) {

@@ -12,6 +12,7 @@
 #include "app/Stage.h"
 #include "app/frmGlobals.h"
 #include "campaign/WagerEntry.h"
+#include "history/KeptMatch.h"
 #include "match/MatchPartners.h"
 #include "match/clsGame.h"
 #include "network/NetworkGame.h"
@@ -26,6 +27,8 @@
 #include "profile/clsPlayer.h"
 
 namespace kv {
+
+class frmGame;
 
 /// The desktop's services, in their real forms or in the tests' own. All outlive the program.
 struct ProgramServices {
@@ -70,6 +73,7 @@ class Program final : public Navigator {
   void PlayerLoaded(std::unique_ptr<clsPlayer> player) override;
   void OpenMenu() override;
   void OpenOptions() override;
+  void OpenRecord() override;
   void OpenCampaign() override;
   void OpenCards() override;
   void OpenLobby() override;
@@ -91,6 +95,8 @@ class Program final : public Navigator {
   [[nodiscard]] clsGame* game() { return game_.get(); }
   /// The network game, null until one was begun.
   [[nodiscard]] NetworkGame* network() { return network_.get(); }
+  /// The matches of the current player, null while one is being chosen.
+  [[nodiscard]] HistoryFile* history() { return history_.get(); }
   /// The open screen; null once the program has ended.
   [[nodiscard]] Screen* screen() { return screen_.get(); }
   /// The open screen if it is one of this kind, else null.
@@ -115,6 +121,8 @@ class Program final : public Navigator {
   [[nodiscard]] MatchNetwork& Network();
   void Retire(std::shared_ptr<void> what);
   void ClearGame();
+  /// What happens in the match on this screen goes into the player's history.
+  void KeepMatch(frmGame& match);
   void LoadSounds();
 
   ProgramServices services_;
@@ -136,6 +144,8 @@ class Program final : public Navigator {
   std::shared_ptr<clsPlayer> player_;
   std::shared_ptr<clsGame> game_;
   std::shared_ptr<MatchBooking> booking_;
+  std::shared_ptr<HistoryFile> history_;
+  std::shared_ptr<KeptMatch> kept_;  // the match on the screen
   std::shared_ptr<Screen> screen_;
   std::unique_ptr<Effects>
       helpEffects_;  // its own, so that what glows behind it goes on; both while it is open

@@ -20,6 +20,8 @@ class Navigator {
   virtual void PlayerLoaded(std::unique_ptr<clsPlayer> player) = 0;
   virtual void OpenMenu() = 0;
   virtual void OpenOptions() = 0;
+  /// The matches that the current player has played.
+  virtual void OpenRecord() {}
   virtual void OpenCampaign() = 0;
   virtual void OpenCards() = 0;
   virtual void OpenLobby() = 0;

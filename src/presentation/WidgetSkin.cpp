@@ -7,6 +7,7 @@
 #include <QPlainTextEdit>
 #include <QSlider>
 #include <QStringList>
+#include <QTableView>
 #include <QTextEdit>
 
 namespace kv {
@@ -63,6 +64,14 @@ struct Look {
                            "%1::item:selected{background:%2;color:%3}"
                            "%1::item:selected:disabled{background:transparent;color:%4}")
                            .arg(type, select, selectText, disabled, row);
+  }
+  [[nodiscard]] QString Table() const {
+    return List(QStringLiteral("QTableView")) +
+           QStringLiteral(
+               "QHeaderView{background:transparent;border:0}"
+               "QHeaderView::section{color:%1;background:transparent;border:0;border-bottom:1px solid %2;"
+               "padding:0 4px;height:20px}")
+               .arg(accent, border);
   }
   [[nodiscard]] QString ScrollBar() const {
     return QStringLiteral(
@@ -138,6 +147,7 @@ QString SheetFor(const QWidget& widget, const Look& look) {
   if (qobject_cast<const QTextEdit*>(&widget) != nullptr) {
     return look.Box(QStringLiteral("QTextEdit")) + look.ScrollBar();
   }
+  if (qobject_cast<const QTableView*>(&widget) != nullptr) return look.Table() + look.ScrollBar();
   if (qobject_cast<const QAbstractItemView*>(&widget) != nullptr) {
     return look.List(QStringLiteral("QAbstractItemView")) + look.ScrollBar();
   }

@@ -1,5 +1,5 @@
-// Dresses the toolkit's own widgets (text boxes, lists, check boxes, option buttons, combo boxes, sliders) in
-// the look of a screen's layout. It changes looks only, never what a widget does or contains.
+// Dresses the toolkit's own widgets (text boxes, lists, tables, check boxes, option buttons, combo boxes,
+// sliders) in the look of a screen's layout. It changes looks only, never what a widget does or contains.
 #pragma once
 
 #include <QWidget>

@@ -43,6 +43,7 @@ void frmMenu::BuildControls() {
   cmdNetwork_ = NewMenuButton(u"cmdNetwork", &frmMenu::OpenNetwork);
   NewReset(u"resetNetwork", resetNetwork_, &frmMenu::ResetNetwork);
   cmdOptions_ = NewMenuButton(u"cmdOptions", &frmMenu::OpenOptions);
+  cmdRecord_ = NewMenuButton(u"cmdRecord", &frmMenu::OpenRecord);
   cmdPlayer_ = NewMenuButton(u"cmdPlayer", &frmMenu::ChangePlayer);
   ctlTitlebar_ = NewTitlebar();
   ctlTitlebar_->Quit = [this] { LeaveProgram(); };
@@ -98,7 +99,8 @@ void frmMenu::paintEvent(QPaintEvent* event) {
 void frmMenu::keyPressEvent(QKeyEvent* event) {
   const bool held = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
   const QString text = event->text();
-  const std::array<ctlButton*, 5> buttons = {cmdPlayer_, cmdArcade_, cmdCampaign_, cmdNetwork_, cmdOptions_};
+  const std::array<ctlButton*, 6> buttons = {cmdPlayer_,  cmdArcade_,  cmdCampaign_,
+                                             cmdNetwork_, cmdOptions_, cmdRecord_};
   if (event->key() == Qt::Key_Escape && !held && !event->isAutoRepeat()) {
     ChangePlayer();
     return;
@@ -120,7 +122,8 @@ bool frmMenu::Begin() {
 
 void frmMenu::EnableControls(bool enabled) {
   const bool lost = CampaignLost(player_);
-  for (ctlButton* button : {cmdArcade_, cmdNetwork_, cmdOptions_, cmdPlayer_}) button->setEnabled(enabled);
+  for (ctlButton* button : {cmdArcade_, cmdNetwork_, cmdOptions_, cmdRecord_, cmdPlayer_})
+    button->setEnabled(enabled);
   cmdCampaign_->setEnabled(enabled && !lost);
   resetCampaign_->setEnabled(enabled && lost);
   resetArcade_->setEnabled(enabled);
@@ -153,6 +156,12 @@ void frmMenu::OpenOptions() {
   if (!Begin()) return;
   EnableControls(false);
   services().navigator.OpenOptions();
+}
+
+void frmMenu::OpenRecord() {
+  if (!Begin()) return;
+  EnableControls(false);
+  services().navigator.OpenRecord();
 }
 
 void frmMenu::ChangePlayer() {

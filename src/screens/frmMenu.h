@@ -26,6 +26,7 @@ class frmMenu final : public Screen {
   [[nodiscard]] ctlButton& cmdCampaign() { return *cmdCampaign_; }
   [[nodiscard]] ctlButton& cmdNetwork() { return *cmdNetwork_; }
   [[nodiscard]] ctlButton& cmdOptions() { return *cmdOptions_; }
+  [[nodiscard]] ctlButton& cmdRecord() { return *cmdRecord_; }
   [[nodiscard]] ctlButton& cmdPlayer() { return *cmdPlayer_; }
   [[nodiscard]] QLabel& lblArcadeHigh() { return *lblArcadeHigh_; }
   [[nodiscard]] QLabel& lblSPStats() { return *lblSPStats_; }
@@ -52,6 +53,7 @@ class frmMenu final : public Screen {
   void OpenCampaign();
   void OpenNetwork();
   void OpenOptions();
+  void OpenRecord();
   void ChangePlayer();
   void ResetArcade();
   void ResetCampaign();
@@ -72,6 +74,7 @@ class frmMenu final : public Screen {
   ctlButton* cmdCampaign_ = nullptr;
   ctlButton* cmdNetwork_ = nullptr;
   ctlButton* cmdOptions_ = nullptr;
+  ctlButton* cmdRecord_ = nullptr;
   ctlButton* cmdPlayer_ = nullptr;
   QLabel* lblArcadeHigh_ = nullptr;
   QLabel* lblSPStats_ = nullptr;

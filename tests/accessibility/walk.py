@@ -111,6 +111,14 @@ class Walk:
         self.press('OK')
         self.reader.usable('arcade')
 
+    def record(self):
+        self.press('matches: your record')
+        self.look_at('Your matches')
+        self.reader.get('Matches', 'table')
+        self.reader.get('Credits over time: .*')
+        self.press('Back to the menu')
+        self.reader.usable('arcade')
+
     def options(self):
         self.press('options')
         self.look_at('Game Options')
@@ -305,6 +313,7 @@ def main():
         walk.campaign(buy=slate)
         walk.arcade(play=not slate)
         walk.network(walk.host if slate else walk.join)
+        walk.record()
         walk.options()
     except Missing as missing:
         walk.checker.faults.append(str(missing))

@@ -9,6 +9,8 @@
 #include <set>
 
 #include "app/AccessibleRoles.h"
+#include "history/MatchReplay.h"
+#include "platform/Files.h"
 #include "support/ProgramStage.h"
 
 namespace kv {
@@ -105,6 +107,52 @@ TEST_F(ProgramTest, AnArcadeRunIsPlayedForItsCreditsAndEndsInTheMenu) {
   EXPECT_EQ(program->game(), nullptr);
   EXPECT_EQ(Stored("ann")->Arcade_Best, 90);
   EXPECT_EQ(program->Retired(), 0u) << "closed screens are destroyed once no pause is under way";
+}
+
+TEST_F(ProgramTest, EveryMatchIsKeptAlsoOneThatIsLeft) {
+  MakePlayer("ann");
+  Start();
+  EnterMenu("ann");
+  EnterArcade(30);
+  EXPECT_FALSE(FileExists(folder / "ann.history.sqlite"));
+  Click("cmdContinue");
+  Settle(6000);
+  LoseMatch();
+  auto lines = program->history()->Lines();
+  ASSERT_EQ(lines.size(), 1u);
+  EXPECT_EQ(lines[0].outcome, MatchOutcome::Lost);
+  EXPECT_EQ(lines[0].style, EndStyle::GivenUp);
+  EXPECT_EQ(lines[0].mode, "Arcade");
+  EXPECT_EQ(lines[0].stake, 30);
+  EXPECT_EQ(lines[0].after, 70);
+  EXPECT_EQ(lines[0].strategy, "standard");
+  EXPECT_EQ(lines[0].opponent, program->game()->OppName);
+  EXPECT_TRUE(PlayAgain(*program->history()->Load(lines[0].id)));
+  SettleStake(20);
+  Click("cmdContinue");
+  Settle(6000);
+  program->EndAtOnce();
+  program.reset();
+  lines = HistoryFile(folder / "ann.history.sqlite").Lines();
+  ASSERT_EQ(lines.size(), 2u);
+  EXPECT_TRUE(std::ranges::any_of(lines, [](const MatchLine& line) { return line.style == EndStyle::Left; }));
+}
+
+TEST_F(ProgramTest, AHistoryThatCannotBeWrittenCostsNoMatchAndIsToldOnce) {
+  MakePlayer("ann");
+  std::filesystem::create_directory(folder / "ann.history.sqlite");
+  Start();
+  EnterMenu("ann");
+  EnterArcade(30);
+  Click("cmdContinue");
+  Settle(6000);
+  LoseMatch();
+  EXPECT_EQ(dialogs.boxes.size(), 1u) << "the question before the forfeit";
+  EXPECT_EQ(program->game()->CreditsRef->Value, 70);
+  EXPECT_EQ(
+      std::ranges::count_if(
+          announcer.told, [](const std::string& told) { return told.find("history") != std::string::npos; }),
+      1);
 }
 
 TEST_F(ProgramTest, ACampaignMatchIsBookedInAdvanceAndOnce) {

@@ -48,6 +48,8 @@ const Walk kWalks[] = {
        stage.Click("imgYourPic");
      },
      {}},
+    {"frmRecord", [](ProgramStage& stage) { stage.Click("cmdRecord"); },
+     [](ProgramStage& stage) { stage.Click("cmdImport"); }},
     {"frmCampaign", [](ProgramStage& stage) { stage.Click("cmdCampaign"); }, {}},
     {"frmCards", OpenCards, CloseByTitlebar},
     {"frmGame",
@@ -104,6 +106,7 @@ TEST_P(ScreensWalkTest, ClosesWhileItsBoxIsOpen) {
       ProgramStage stage;
       Enter(stage, walk);
       stage.dialogs.answers = {answer};
+      stage.dialogs.texts = {std::nullopt};
       stage.dialogs.whileOpen = [&stage] { stage.program->EndProgram(); };
       walk.ask(stage);
       EXPECT_EQ(stage.dialogs.boxes.size(), 1u);

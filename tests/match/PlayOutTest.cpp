@@ -2,6 +2,7 @@
 // strategies beat a careless player.
 #include <gtest/gtest.h>
 
+#include "platform/Interval.h"
 #include "vantri-strength/Tournament.h"
 
 namespace kv {

@@ -185,6 +185,7 @@ class TwoPrograms {
   void PlayUntil(const std::function<bool()>& done, int stake = 10, int seconds = 3600) {
     for (int tick = 0; tick < seconds * 20; ++tick) {
       Pass(50);
+      if (eachTick) eachTick();
       if (done()) return;
       for (NetworkPlayer* each : {&host, &guest}) {
         each->Act(stake);
@@ -213,6 +214,7 @@ class TwoPrograms {
   }
 
   static constexpr int kLongPass = 200;  // milliseconds
+  std::function<void()> eachTick;        // while both play
   Random* repeatTurns = nullptr;         // by its chance "[Turn]" is repeated before its time
   HandScheduler clock;
   LoopbackNet net;

@@ -6,7 +6,10 @@
 #include <cstdlib>
 #include <fstream>
 
+#include "history/MatchRecorder.h"
+#include "history/MatchReplay.h"
 #include "network/TwoPrograms.h"
+#include "support/EventLog.h"
 
 namespace kv {
 namespace {
@@ -29,6 +32,37 @@ struct Account {
   }
   NetworkPlayer& player;
   int credits;
+};
+
+/// Records the match of one side from its first event on.
+struct Recorded {
+  explicit Recorded(NetworkPlayer& who) : player(who) {}
+  void Listen() {
+    if (player.match() == nullptr || heard != nullptr) return;
+    heard = player.match();
+    // Who sat down was told before anybody could listen.
+    const clsGame& game = *player.program->game();
+    const event::MatchBegun begun{game.OppName, game.Wager, {*game.SideDeck, *game.CompDeck}};
+    for (MatchObserver* each : std::initializer_list<MatchObserver*>{&log, &recorder}) {
+      each->Happened(begun);
+      heard->observers().Add(*each);
+    }
+  }
+  void CheckReplay() const {
+    test::EventLog again;
+    EXPECT_TRUE(PlayAgain(recorder.record(),
+                          [&](const MatchEvent& event, const MatchShown&) { again.Happened(event); }));
+    EXPECT_GT(log.lines.size(), 10u);
+    EXPECT_EQ(again.lines, log.lines);
+    HistoryFile& history = *player.program->history();
+    const auto lines = history.Lines();
+    ASSERT_FALSE(lines.empty());
+    EXPECT_EQ(history.Load(lines.front().id)->sets, recorder.record().sets);
+  }
+  NetworkPlayer& player;
+  frmGame* heard = nullptr;
+  test::EventLog log;
+  MatchRecorder recorder{{}};
 };
 
 int Setting(const char* name, int otherwise) {
@@ -62,7 +96,13 @@ TEST(WholeMatch, EndsAlikeOnBothSidesHoweverTheStreamIsCut) {
       const auto hostBefore = counters(both.host.record());
       const auto guestBefore = counters(both.guest.record());
       both.repeatTurns = &chance;
+      std::array recorded = {Recorded(both.host), Recorded(both.guest)};
+      both.eachTick = [&recorded] {
+        for (Recorded& each : recorded) each.Listen();
+      };
       both.PlayMatch(stake);
+      both.eachTick = {};
+      for (const Recorded& each : recorded) each.CheckReplay();
       both.Pass(30000);
       ASSERT_EQ(both.host.results.size(), both.guest.results.size());
       const auto& seen = both.host.results.back();

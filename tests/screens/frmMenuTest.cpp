@@ -104,7 +104,8 @@ TEST_F(frmMenuTest, EachModeIsStartedOnceByClickAndByKey) {
   const std::vector<Case> cases = {{Qt::Key_1, &frmMenu::cmdArcade, {"NewGame Arcade", "OpenCards"}},
                                    {Qt::Key_2, &frmMenu::cmdCampaign, {"NewGame Campaign", "OpenCampaign"}},
                                    {Qt::Key_3, &frmMenu::cmdNetwork, {"NewGame Network", "OpenLobby"}},
-                                   {Qt::Key_4, &frmMenu::cmdOptions, {"OpenOptions"}}};
+                                   {Qt::Key_4, &frmMenu::cmdOptions, {"OpenOptions"}},
+                                   {Qt::Key_5, &frmMenu::cmdRecord, {"OpenRecord"}}};
   for (const Case& c : cases) {
     for (const bool byKey : {true, false}) {
       Open();

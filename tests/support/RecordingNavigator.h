@@ -19,6 +19,7 @@ class RecordingNavigator : public Navigator {
   }
   void OpenMenu() override { calls.emplace_back("OpenMenu"); }
   void OpenOptions() override { calls.emplace_back("OpenOptions"); }
+  void OpenRecord() override { calls.emplace_back("OpenRecord"); }
   void OpenCampaign() override { calls.emplace_back("OpenCampaign"); }
   void OpenCards() override { calls.emplace_back("OpenCards"); }
   void OpenLobby() override { calls.emplace_back("OpenLobby"); }

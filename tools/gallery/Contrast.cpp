@@ -87,7 +87,9 @@ std::function<void()> WithoutText(QWidget& control) {
   if (const QString sheet = control.styleSheet(); sheet.contains(u'{')) {  // a skinned box, list or mark
     control.setStyleSheet(sheet + QStringLiteral("*{color:transparent;selection-color:transparent}"
                                                  "*::item:selected{color:transparent}"
-                                                 "*:disabled{color:transparent}*:focus{color:transparent}"));
+                                                 "*:disabled{color:transparent}*:focus{color:transparent}"
+                                                 "QTableView,QTableView::item:selected,QHeaderView::section"
+                                                 "{color:transparent}"));
     return [&control, sheet] { control.setStyleSheet(sheet); };
   }
   return {};

@@ -12,7 +12,7 @@ namespace kv {
 namespace {
 
 constexpr auto kGroups = {RenderStart,    RenderMenu, RenderOptions, RenderPortraits, RenderHelp,
-                          RenderCampaign, RenderDesk, RenderLobby,   RenderMatch};
+                          RenderCampaign, RenderDesk, RenderLobby,   RenderMatch,     RenderRecord};
 
 }  // namespace
 

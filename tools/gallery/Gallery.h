@@ -48,6 +48,7 @@ void RenderCampaign(Gallery& gallery);
 void RenderDesk(Gallery& gallery);
 void RenderMatch(Gallery& gallery);
 void RenderLobby(Gallery& gallery);
+void RenderRecord(Gallery& gallery);
 
 /// A player a good way into the game, in this style.
 void FillSamplePlayer(clsPlayer& player);

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Interval.h"
 #include "platform/StandardOptions.h"
 #include "vantri-campaign/CampaignSeries.h"
 #include "vantri-strength/Tournament.h"

@@ -49,11 +49,4 @@ struct TournamentResult {
 /// invariant throws std::logic_error.
 [[nodiscard]] TournamentResult PlayTournament(const TournamentPlan& plan);
 
-/// The 95 % interval of a proportion (Wilson score interval), as fractions.
-struct Interval {
-  double low = 0;
-  double high = 0;
-};
-[[nodiscard]] Interval WilsonInterval(std::int64_t hits, std::int64_t trials);
-
 }  // namespace kv

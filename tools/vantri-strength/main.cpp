@@ -5,6 +5,7 @@
 #include <exception>
 #include <map>
 
+#include "platform/Interval.h"
 #include "platform/StandardOptions.h"
 #include "vantri-strength/Tournament.h"
 

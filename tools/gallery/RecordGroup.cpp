@@ -1,0 +1,53 @@
+// The record screen: with nothing in it, and with an evening's matches.
+#include <QComboBox>
+#include <utility>
+
+#include "Gallery.h"
+#include "history/frmRecord.h"
+#include "support/SampleMatch.h"
+#include "support/TempFolder.h"
+
+namespace kv {
+namespace {
+
+constexpr std::array kOpponents = {"Tamsen", "Orrin Vaal", "H6-J8", "Brummox"};
+constexpr std::uint64_t kMatches = 60;
+
+/// Credits that go up and down with the matches.
+void Fill(HistoryFile& history) {
+  std::int32_t credits = 100;
+  for (std::uint64_t i = 1; i <= kMatches; ++i) {
+    MatchRecord record = test::SampleMatch(i, kOpponents.at(i % kOpponents.size()));
+    if (i % 5 == 0) record.mode = "Arcade";
+    const bool won = i % 7 < 4;
+    record.booking->result = won ? event::Result::Won : event::Result::Lost;
+    if (won != (record.winner == Seat::Player)) std::swap(record.setWins[0], record.setWins[1]);
+    credits += won ? 20 : -25;
+    record.booking->after = credits;
+    history.Store(record, i == kMatches - 2);
+  }
+}
+
+}  // namespace
+
+void RenderRecord(Gallery& gallery) {
+  const test::TempFolder folder;
+  test::ScreenStage stage(gallery.style(), gallery.scale());
+  FillSamplePlayer(stage.player);
+  stage.player.FileName = folder / "mara.vnt";
+  HistoryFile history(folder / "mara.history.sqlite");
+  for (const char* name : {"record-empty", "record"}) {
+    frmRecord record(stage.services(), {stage.player, history});
+    record.Open();
+    stage.Settle();
+    gallery.Save(record, name);
+    if (history.Lines().empty()) Fill(history);
+  }
+  frmRecord record(stage.services(), {stage.player, history});
+  record.Open();
+  record.findChild<QComboBox*>(QStringLiteral("cmbRates"))->setCurrentIndex(3);
+  stage.Settle();
+  gallery.Save(record, "record-cards");
+}
+
+}  // namespace kv
