@@ -11,8 +11,8 @@
 namespace kv {
 namespace {
 
-constexpr auto kGroups = {RenderStart,    RenderMenu, RenderOptions, RenderPortraits,
-                          RenderCampaign, RenderDesk, RenderLobby,   RenderMatch};
+constexpr auto kGroups = {RenderStart, RenderMenu,  RenderOptions, RenderPortraits, RenderCampaign,
+                          RenderDesk,  RenderLobby, RenderMatch,   RenderMotion};
 
 }  // namespace
 

@@ -46,6 +46,7 @@ void RenderPortraits(Gallery& gallery);
 void RenderCampaign(Gallery& gallery);
 void RenderDesk(Gallery& gallery);
 void RenderMatch(Gallery& gallery);
+void RenderMotion(Gallery& gallery);
 void RenderLobby(Gallery& gallery);
 
 /// A player a good way into the game, in this style.
