@@ -74,6 +74,7 @@ void PlayScene(MotionLayer& layer, Scene scene, const SceneLook& look, const Sce
     if (step.scene != scene) continue;
     const SparkShow show{.source = SourceOf(step.from, places),
                          .colour = step.gold ? look.gold : look.light,
+                         .behind = places.banner,
                          .count = step.sparks,
                          .reach = step.reach,
                          .fall = step.fall,

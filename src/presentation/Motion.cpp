@@ -16,7 +16,7 @@ double Eased(Easing easing, double time) {
     case Easing::Even:
       return t;
     case Easing::Out:
-      return 1 - rest * rest * rest;
+      return 1 - rest * rest;
     case Easing::InOut:
       return t * t * (3 - 2 * t);
     case Easing::Over: {

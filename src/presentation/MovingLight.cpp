@@ -52,7 +52,7 @@ Sparks::Sparks(const SparkShow& show, std::uint64_t seed) : show_(show) {
     spark.flight = QPointF(std::cos(angle), std::sin(angle)) * far;
     spark.begins = show.volleys > 1 ? volley * (i % show.volleys) : 0.0;
     spark.lasts = (1 - spark.begins) * (0.6 + 0.4 * chance.Rnd());
-    spark.size = 1.2 + 1.6 * chance.Rnd();
+    spark.size = 1.5 + 2 * chance.Rnd();
     sparks_.push_back(spark);
   }
 }
@@ -68,14 +68,15 @@ QRegion Sparks::Area(double way) const {
     const double age = AgeOf(spark, way);
     if (age <= 0 || age >= 1) continue;
     const QRectF seen(At(spark, age), At(spark, show_.streaks ? std::max(0.0, age - kTail) : age));
-    const double rim = 2 * spark.size + 1;
+    const double rim = (show_.streaks ? 0.5 : 2) * spark.size + 1;
     area += seen.normalized().adjusted(-rim, -rim, rim, rim).toAlignedRect();
   }
-  return area;
+  return area - QRegion(show_.behind);
 }
 
 void Sparks::Paint(QPainter& painter, double way) const {
   painter.setRenderHint(QPainter::Antialiasing);
+  if (!show_.behind.isEmpty()) painter.setClipRegion(Area(way));
   for (const Spark& spark : sparks_) {
     const double age = AgeOf(spark, way);
     if (age <= 0 || age >= 1) continue;

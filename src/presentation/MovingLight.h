@@ -26,7 +26,8 @@ class Glow final : public Moving {
 /// How sparks fly. Lengths in layout pixels.
 struct SparkShow {
   QRect source;  // from anywhere within it
-  QColor colour;
+  QColor colour{};
+  QRect behind{};  // they pass behind what lies here
   int count = 12;
   double reach = 60;     // how far the fastest flies
   double fall = 0;       // how far each has fallen at the end; negative: it has risen

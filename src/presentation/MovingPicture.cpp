@@ -7,12 +7,20 @@
 namespace kv {
 namespace {
 
-constexpr double kShadowFall = 9;       // layout pixels below a picture that is at its highest
-constexpr int kShadowStrength = 95;     // 0 to 255
+constexpr double kShadowFall = 9;  // layout pixels below a picture that is at its highest
+constexpr double kShadowStrength = 0.38;
 constexpr double kTurnedAt = 0.85;      // the part of the way on which a picture has turned over
 constexpr double kNarrowest = 0.04;     // of its width, when it is seen from the edge
 constexpr double kShakes = 2.5;         // to and fro
-constexpr double kEdgeDarkness = 90.0;  // 0 to 255, of a picture that turns away from the light
+constexpr double kEdgeDarkness = 0.45;  // of a picture that turns away from the light
+
+QImage ShadeOf(QImage picture) {
+  QPainter painter(&picture);
+  painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+  painter.fillRect(QRectF(QPointF(0, 0), picture.deviceIndependentSize()), Qt::black);
+  painter.end();
+  return picture;
+}
 
 double Between(double from, double to, double way) {
   return from + (to - from) * way;
@@ -21,7 +29,10 @@ double Between(double from, double to, double way) {
 }  // namespace
 
 FlyingPicture::FlyingPicture(Flight flight)
-    : flight_(std::move(flight)), size_(flight_.front.deviceIndependentSize()) {}
+    : flight_(std::move(flight)),
+      frontShade_(ShadeOf(flight_.front)),
+      backShade_(flight_.back.isNull() ? QImage() : ShadeOf(flight_.back)),
+      size_(flight_.front.deviceIndependentSize()) {}
 
 double FlyingPicture::Height(double way) const {
   return std::sin(std::numbers::pi * std::clamp(way, 0.0, 1.0));
@@ -46,17 +57,19 @@ void FlyingPicture::Paint(QPainter& painter, double way) const {
   const double seen = std::abs(std::cos(std::numbers::pi * turn));
   const double width = place.width() * std::max(seen, kNarrowest);
   const QRectF face(place.center().x() - width / 2, place.top(), width, place.height());
-  painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-  painter.setPen(Qt::NoPen);
+  const bool front = turn >= 0.5;
+  const QImage& shade = front ? frontShade_ : backShade_;
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
   if (flight_.lift > 0) {
     const double fall = kShadowFall * Height(way);
-    painter.setBrush(QColor(0, 0, 0, static_cast<int>(kShadowStrength * Height(way))));
-    painter.drawRoundedRect(face.translated(fall / 2, fall), 5, 5);
+    painter.setOpacity(kShadowStrength * Height(way));
+    painter.drawImage(face.translated(fall / 2, fall), shade);
+    painter.setOpacity(1);
   }
-  painter.drawImage(face, turn < 0.5 ? flight_.back : flight_.front);
+  painter.drawImage(face, front ? flight_.front : flight_.back);
   if (seen > 0.99) return;
-  painter.setBrush(QColor(0, 0, 0, static_cast<int>(kEdgeDarkness * (1 - seen))));
-  painter.drawRoundedRect(face, 4 * seen, 4);
+  painter.setOpacity(kEdgeDarkness * (1 - seen));
+  painter.drawImage(face, shade);
 }
 
 QRegion UnfoldingPicture::Area(double) const {

@@ -13,10 +13,10 @@ namespace kv {
 
 /// Places are top left corners, in layout pixels of the screen.
 struct Flight {
-  QImage front;
-  QImage back;  // not null: it is seen first, and the picture turns around its axis on the way
-  QPointF from;
-  QPointF to;
+  QImage front{};
+  QImage back{};  // not null: it is seen first, and the picture turns around its axis on the way
+  QPointF from{};
+  QPointF to{};
   double fromScale = 1;
   double lift = 0;  // how much larger it is half-way, as if nearer to the eye; throws a shadow then
 };
@@ -32,6 +32,8 @@ class FlyingPicture final : public Moving {
   [[nodiscard]] QRectF Place(double way) const;
 
   Flight flight_;
+  QImage frontShade_;  // all dark, in its outline
+  QImage backShade_;
   QSizeF size_;
 };
 

@@ -13,10 +13,10 @@ constexpr int kColumns = 4;
 /// Takes its pictures while the match goes on, also within its pauses.
 class Strip {
  public:
-  Strip(Gallery& gallery, test::MatchScreen& match, QRect part, int pictures, int step = kStep)
+  Strip(Gallery& gallery, test::MatchScreen& match, QRect part, int pictures, int step = kStep, int from = 0)
       : gallery_(gallery), match_(match), part_(part) {
     for (int i = 0; i < pictures; ++i) {
-      match.scheduler.At(i * step + 1, [this] { pictures_.push_back(match_.screen->grab(part_)); });
+      match.scheduler.At(from + i * step + 1, [this] { pictures_.push_back(match_.screen->grab(part_)); });
     }
   }
   void Save(const std::string& name) {
@@ -114,10 +114,11 @@ void Busts(Gallery& gallery) {
 
 void Twenty(Gallery& gallery) {
   test::MatchScreen match(MovingSetup(gallery, {10, 3, 10, 4}));
+  match.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); }, test::StandOpponent};
   match.Begin();
+  const int draws = gallery.style() == "Ember" ? 740 : 1080;  // milliseconds until the player does
+  Strip strip(gallery, match, Board(gallery), 20, 31, draws);
   match.engine().person().EndTurn();
-  while (match.engine().shown().Table(Seat::Player).size() < 2) match.scheduler.Advance(1);
-  Strip strip(gallery, match, Board(gallery), 20, 31);
   match.Settle();
   strip.Save("motion-twenty");
 }
@@ -134,22 +135,20 @@ void Returns(Gallery& gallery) {
   strip.Save("motion-return");
 }
 
-/// The opponent goes over 20; before that, so many sets were won.
+/// A set is won, as so many were before it.
 void Wins(Gallery& gallery, const std::string& name, int setsBefore, const std::string& mode, int best) {
   test::MatchScreenSetup setup = MovingSetup(gallery, {});
   setup.mode = mode;
   setup.options = [best](clsPlayer& player) { player.Arcade_Best = best; };
   for (int set = 0; set <= setsBefore; ++set) {
-    for (const int draw : {10, 10, 9, 9}) setup.draws.push_back(draw);
+    setup.draws.insert(setup.draws.end(), {10, 10, 9});
   }
   test::MatchScreen match(setup);
-  match.player.TurnMode_Opt = 1;
-  match.strategy.turns.assign(1, [](AiOperations& side) { side.AI_Stand(); });
+  match.strategy.turns.assign(3, test::StandOpponent);
   match.screen->Open();
   for (int set = 0; set <= setsBefore; ++set) {
     match.Settle();
     match.engine().person().EndTurn();
-    match.strategy.turns.assign(1, [](AiOperations& side) { side.AI_Stand(); });
     match.Settle();
     match.engine().person().Stand();
     if (set == setsBefore) break;
