@@ -1,5 +1,6 @@
 // What one frame of the match screen costs while something moves, at twice the size, without a graphics card.
 #include <benchmark/benchmark.h>
+#include <malloc.h>
 
 #include <QApplication>
 #include <algorithm>
@@ -36,6 +37,12 @@ struct MovingMatch {
   kv::test::MatchScreen match;
 };
 
+/// Of the heap, in KB.
+double HeapKb() {
+  const struct mallinfo2 heap = ::mallinfo2();
+  return static_cast<double>(heap.uordblks + heap.hblkhd) / 1024;
+}
+
 struct DenseDisplay {
   DenseDisplay() : application((Prepare(), argc), nullptr) {}
   static void Prepare() {
@@ -52,11 +59,14 @@ void Frames(benchmark::State& state, const char* style, const Start& start) {
   const DenseDisplay display;
   auto moving = std::make_unique<MovingMatch>(style);
   double longest = 0;  // of processor time
+  double memory = 0;
   for (auto _ : state) {
     if (!moving->match.screen->motionLayer().moving()) {
       state.PauseTiming();
       moving = std::make_unique<MovingMatch>(style);
+      const double before = HeapKb();
       start(moving->match);
+      memory = std::max(memory, HeapKb() - before);
       moving->Frame();  // the first shows what the move itself has changed
       state.ResumeTiming();
     }
@@ -65,6 +75,7 @@ void Frames(benchmark::State& state, const char* style, const Start& start) {
     longest = std::max(longest, 1000.0 * static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC);
   }
   state.counters["longest_ms"] = longest;
+  state.counters["memory_kb"] = memory;
 }
 
 void Play(benchmark::State& state, const char* style) {

@@ -1,6 +1,7 @@
 #include "match/frmGameMotion.h"
 
 #include <algorithm>
+#include <map>
 
 #include "match/ctlBust.h"
 #include "match/frmGamePoint.h"
@@ -23,6 +24,7 @@ constexpr double kDrawPart = 0.7;   // of the turn's pause
 constexpr double kLandPart = 0.55;  // of the pause after a side has stood, when the card is its last
 constexpr double kShakeReach = 7;   // layout pixels
 constexpr double kLift = 0.14;
+constexpr double kRollLift = 0.06;
 constexpr int kLidEdge = 14;
 constexpr int kTwentyEdge = 60;
 
@@ -69,7 +71,11 @@ void frmGameMotion::See(const event::Drew& e) {
 }
 
 void frmGameMotion::See(const event::Flipped& e) {
-  if (wanted()) RollOver(hand_.ctlYourDeck(e.slot), held_.Value(e.slot), 0, kFlipTime);
+  if (wanted()) {
+    ctlCard& card = hand_.ctlYourDeck(e.slot);
+    RollOver(card, CardPicture(held_.Value(e.slot), card.Enabled()), layer_.PictureOf(card),
+             {.length = kFlipTime});
+  }
   held_.setValue(e.slot, e.card);
 }
 
@@ -209,24 +215,30 @@ void frmGameMotion::Land(Seat seat, Flight flight, int time) {
                {side(seat).table().back()});
 }
 
-void frmGameMotion::RollOver(ctlCard& card, const CardCode& before, int delay, int time) {
+void frmGameMotion::RollOver(ctlCard& card, QImage before, QImage now, const Timing& timing) {
   const QPointF place = layer_.PlaceOf(card).topLeft();
-  layer_.Begin(std::make_unique<FlyingPicture>(Flight{.front = layer_.PictureOf(card),
-                                                      .back = CardPicture(before, card.Enabled()),
-                                                      .from = place,
-                                                      .to = place,
-                                                      .lift = 0.06}),
-               {.delay = delay, .length = time, .easing = Easing::InOut}, {&card});
+  layer_.Begin(
+      std::make_unique<FlyingPicture>(Flight{
+          .front = std::move(now), .back = std::move(before), .from = place, .to = place, .lift = kRollLift}),
+      {.delay = timing.delay, .length = timing.length, .easing = Easing::InOut}, {&card});
 }
 
-/// One after the other, the last of them when the played card lands.
+/// One after the other, the last of them when the played card lands. Cards that look the same share a
+/// picture.
 void frmGameMotion::TurnCards(const event::Played& e, int time) {
+  std::map<std::string, QImage> pictures;
+  const auto picture = [&](const CardCode& code, bool enabled) {
+    QImage& found = pictures[code.text()];
+    if (found.isNull()) found = CardPicture(code, enabled);
+    return found;
+  };
   const int count = static_cast<int>(e.turned.size());
   const int roll = std::min(kRollTime, time);
   for (int i = 0; i < count; ++i) {
     const event::TurnedCard& turned = e.turned.at(static_cast<std::size_t>(i));
     ctlCard& card = *side(e.seat).table().at(static_cast<std::size_t>(turned.index) - 1);
-    RollOver(card, turned.card.Inverted(), count == 1 ? 0 : (time - roll) * i / (count - 1), roll);
+    RollOver(card, picture(turned.card.Inverted(), card.Enabled()), picture(turned.card, card.Enabled()),
+             {.delay = count == 1 ? 0 : (time - roll) * i / (count - 1), .length = roll});
   }
 }
 

@@ -7,8 +7,8 @@
 
 #include "match/MatchObserver.h"
 #include "match/frmGameHand.h"
-#include "match/frmGameScene.h"
 #include "match/frmGameMoving.h"
+#include "match/frmGameScene.h"
 #include "match/frmGameSide.h"
 #include "presentation/MotionLayer.h"
 
@@ -51,7 +51,8 @@ class frmGameMotion final : public MatchObserver {
   [[nodiscard]] QImage CardPicture(const CardCode& code, bool enabled);
   [[nodiscard]] std::vector<PlacedPicture> TablePictures(Seat seat);
   void Land(Seat seat, Flight flight, int time);
-  void RollOver(ctlCard& card, const CardCode& before, int delay, int time);
+  /// From what was seen before to what is seen now.
+  void RollOver(ctlCard& card, QImage before, QImage now, const Timing& timing);
   void TurnCards(const event::Played& e, int time);
   void CountUp(Seat seat, int total, int time);
   void Shake(Seat seat, int time);
