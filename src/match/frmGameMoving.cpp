@@ -5,6 +5,11 @@
 #include <numbers>
 
 namespace kv {
+namespace {
+
+constexpr int kEdgeStrength = 170;  // 0 to 255: the cards are seen through the light
+
+}  // namespace
 
 CountingTotal::CountingTotal(const QLabel& label, QRect place, int from, int to, double reach)
     : font_(label.font()),
@@ -54,7 +59,9 @@ void ClosingLid::Paint(QPainter& painter, double way) const {
   QColor dark = light_;
   dark.setAlpha(0);
   light.setColorAt(0, dark);
-  light.setColorAt(1, light_);
+  QColor bright = light_;
+  bright.setAlpha(kEdgeStrength);
+  light.setColorAt(1, bright);
   painter.setClipRect(place_);
   // Only over the cards, not over the bare table between them.
   for (const PlacedPicture& each : cards_) {

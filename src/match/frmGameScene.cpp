@@ -69,6 +69,7 @@ SceneLook SceneLookOf(int styleIndex) {
 
 void PlayScene(MotionLayer& layer, Scene scene, const SceneLook& look, const ScenePlaces& places) {
   if (scene == Scene::None) return;
+  if (places.face != nullptr) Nod(layer, *places.face);  // behind the light
   std::uint64_t seed = 1;
   for (const SceneStep& step : kSceneSteps) {
     if (step.scene != scene) continue;
@@ -89,7 +90,6 @@ void PlayScene(MotionLayer& layer, Scene scene, const SceneLook& look, const Sce
                                        kHaloReach, 2),
                 {.delay = i * kHaloTime / 2, .length = kHaloTime, .skippable = true});
   }
-  if (places.face != nullptr) Nod(layer, *places.face);
 }
 
 }  // namespace kv

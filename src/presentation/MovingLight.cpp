@@ -29,12 +29,15 @@ QRegion Glow::Area(double) const {
 
 void Glow::Paint(QPainter& painter, double way) const {
   constexpr int kRings = 4;
+  constexpr double kLightsUp = 0.12;  // of the way
+  if (way <= 0) return;
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setBrush(Qt::NoBrush);
   const double wide = reach_ * way;
+  const double strength = (1 - way) * std::min(1.0, way / kLightsUp);
   for (int ring = 0; ring < kRings; ++ring) {
     const double out = wide * (kRings - ring) / kRings;
-    painter.setPen(QPen(Faded(colour_, (1 - way) * (ring + 1.5) / (kRings + 1)), 2.5));
+    painter.setPen(QPen(Faded(colour_, strength * (ring + 1.5) / (kRings + 1)), 2.5));
     painter.drawRoundedRect(QRectF(place_).adjusted(-out, -out, out, out), corner_ + out, corner_ + out);
   }
 }
