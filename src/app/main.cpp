@@ -23,9 +23,11 @@
 #include "platform/QtScheduler.h"
 #include "platform/QtSignals.h"
 #include "platform/QtSizeFactor.h"
+#include "platform/QtStillStyle.h"
 #include "platform/QtThrift.h"
 #include "platform/SdlSoundDevice.h"
 #include "platform/StandardOptions.h"
+#include "platform/StillDesktop.h"
 #include "presentation/Fonts.h"
 #include "presentation/PictureSizes.h"
 
@@ -98,6 +100,8 @@ int main(int argc, char** argv) {
   QGuiApplication::setDesktopFileName(qEnvironmentVariable("FLATPAK_ID", QStringLiteral("kelm-vantri")));
   QApplication::setWindowIcon(ProgramIcon(dataFolder));
   QApplication::setQuitOnLastWindowClosed(false);
+  const std::filesystem::path configFolder = std::filesystem::path(kv::SettingsFolder()).parent_path();
+  if (kv::DesktopWishesStillness(configFolder.string())) QApplication::setStyle(new kv::QtStillStyle);
   kv::InstallAccessibleRoles();
   kv::QtSignals ends;
   ends.Ended = [] { QCoreApplication::exit(0); };  // of a box about a missing file

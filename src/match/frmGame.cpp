@@ -28,6 +28,7 @@ frmGame::frmGame(const frmGameServices& services)
   BuildTimers();
   BuildPanel();
   BuildControls();
+  BuildMotion();
   ConnectHand();
   for (int slot = 1; slot <= kHandSize; ++slot) {
     for (const Seat seat : {Seat::Player, Seat::Opponent}) HandChanged(seat, slot);
@@ -81,6 +82,14 @@ void frmGame::BuildControls() {
   }
 }
 
+void frmGame::BuildMotion() {
+  const MatchGrid& grid = kMatchGrids.at(static_cast<std::size_t>(styleIndex_));
+  motionLayer_ = new MotionLayer(*this, services_.scheduler);
+  motion_ = std::make_unique<frmGameMotion>(*motionLayer_, services_, grid,
+                                            std::array{player_.get(), opponent_.get()}, *hand_);
+  observers_.Add(*motion_);
+}
+
 ctlButton* frmGame::NewMatchButton(QStringView control, std::function<void()> click) {
   ctlButton* button = NewButton(control, std::move(click));
   button->installEventFilter(this);
@@ -97,6 +106,7 @@ void frmGame::ConnectHand() {
     panel_->raise();
   };
   hand_->DragEnded = [this] { panel_->lower(); };
+  hand_->PutHome = [this](int slot, QPoint from) { motion_->CardPutHome(slot, from); };
   hand_->Hover = [this](ctlCard& card) {
     if (ctlBust_->isHidden()) services_.effects.StartCardPulse(&card);
   };
@@ -120,6 +130,7 @@ void frmGame::Shown() {
 void frmGame::Closing() {
   engine_.Close();
   hand_->setEnabled(false, false);
+  motionLayer_->Close();
 }
 
 void frmGame::LeaveProgram() {

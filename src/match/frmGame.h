@@ -10,6 +10,7 @@
 #include "match/ctlBust.h"
 #include "match/ctlChat.h"
 #include "match/frmGameHand.h"
+#include "match/frmGameMotion.h"
 #include "match/frmGameServices.h"
 #include "match/frmGameSide.h"
 #include "match/frmGameStrip.h"
@@ -42,6 +43,7 @@ class frmGame final : public Screen, private MatchView {
   [[nodiscard]] ctlButton& cmdForfeit() { return *cmdForfeit_; }
   [[nodiscard]] ctlBust& banner() { return *ctlBust_; }
   [[nodiscard]] ctlTitlebar& titlebar() { return *ctlTitlebar_; }
+  [[nodiscard]] MotionLayer& motionLayer() { return *motionLayer_; }
   [[nodiscard]] QLabel& lblWager() { return *lblWager_; }
 
  protected:
@@ -68,6 +70,7 @@ class frmGame final : public Screen, private MatchView {
   void BuildPanel();
   void BuildControls();
   void LeaveNetwork();
+  void BuildMotion();
   void ConnectHand();
   ctlButton* NewMatchButton(QStringView control, std::function<void()> click);
   /// True when the key was one of the player's game keys; nothing else is done with it then.
@@ -87,7 +90,9 @@ class frmGame final : public Screen, private MatchView {
   std::unique_ptr<frmGameHand> hand_;
   std::unique_ptr<frmGameSide> player_;
   std::unique_ptr<frmGameSide> opponent_;
-  FadeTarget* panel_ = nullptr;  // children, all that follow
+  std::unique_ptr<frmGameMotion> motion_;
+  MotionLayer* motionLayer_ = nullptr;  // children, all that follow
+  FadeTarget* panel_ = nullptr;
   ctlButton* cmdTurn_ = nullptr;
   ctlButton* cmdStand_ = nullptr;
   ctlButton* cmdForfeit_ = nullptr;

@@ -1,5 +1,7 @@
 #include "match/frmGameHand.h"
 
+#include <utility>
+
 #include "match/frmGamePoint.h"
 
 namespace kv {
@@ -139,9 +141,11 @@ void frmGameHand::Release(int slot) {
 
 void frmGameHand::PutBack() {
   if (dragged_ == 0) return;
-  ctlYourDeck(dragged_).move(home_);
-  dragged_ = 0;
+  const int slot = std::exchange(dragged_, 0);
+  const QPoint from = ctlYourDeck(slot).pos();
+  ctlYourDeck(slot).move(home_);
   if (DragEnded) DragEnded();
+  if (PutHome) PutHome(slot, from);
 }
 
 }  // namespace kv

@@ -28,6 +28,8 @@ class frmGameHand {
   std::function<void(ctlCard& card)> Hover;
   std::function<void()> DragStarted;
   std::function<void()> DragEnded;
+  /// The card was let go at this place of the container and is at home again.
+  std::function<void(int slot, QPoint from)> PutHome;
 
   /// Shows the code in its slot and the flip buttons it needs; an empty code hides both.
   void ShowCard(int slot, const CardCode& code);

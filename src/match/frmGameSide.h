@@ -44,6 +44,7 @@ class frmGameSide {
   [[nodiscard]] bool shuttered() const { return !shutter_->isHidden(); }
   [[nodiscard]] QLabel& lblTotal() const { return *total_; }
   [[nodiscard]] const std::vector<ctlCard*>& table() const { return table_; }
+  [[nodiscard]] const std::vector<ctlShape*>& markers() const { return markers_; }
   [[nodiscard]] int SetWinsShown() const { return static_cast<int>(markers_.size()); }
   [[nodiscard]] ctlCard& ctlOppDeck(int slot) const { return *hand_.at(static_cast<std::size_t>(slot) - 1); }
 

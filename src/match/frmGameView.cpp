@@ -41,6 +41,7 @@ void frmGame::HandChanged(Seat seat, int slot) {
 
 void frmGame::SetWinAdded(Seat seat) {
   side(seat).ShowSetWins(engine_.shown().SetWins(seat));
+  motion_->MarkerAdded(seat);
 }
 
 void frmGame::ControlsChanged() {
@@ -93,6 +94,7 @@ void frmGame::BannerChanged() {
     if (chat_ == nullptr || !chat_->writing()) button.setFocus();
     QAccessibleEvent alert(ctlBust_, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
+    motion_->BannerShown(*ctlBust_);
   } else if (chat_ == nullptr || !chat_->writing()) {
     setFocus();
   }

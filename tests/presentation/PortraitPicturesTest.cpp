@@ -29,7 +29,7 @@ std::map<int, QImage> Tiles() {
   return tiles;
 }
 
-double Difference(const QImage& a, const QImage& b) {
+double MeanDifference(const QImage& a, const QImage& b) {
   long sum = 0;
   for (int y = 0; y < kTileSide; ++y)
     for (int x = 0; x < kTileSide; ++x) sum += std::abs(a.constScanLine(y)[x] - b.constScanLine(y)[x]);
@@ -42,7 +42,7 @@ TEST(PortraitPictures, NobodyIsTakenForAnotherInThePickerEvenWithoutColours) {
   constexpr double kLeast = 10;  // mean grey levels
   for (const auto& [number, tile] : tiles) {
     for (auto other = tiles.upper_bound(number); other != tiles.end(); ++other)
-      EXPECT_GT(Difference(tile, other->second), kLeast) << number << " and " << other->first;
+      EXPECT_GT(MeanDifference(tile, other->second), kLeast) << number << " and " << other->first;
   }
 }
 

@@ -11,8 +11,9 @@
 namespace kv {
 namespace {
 
-constexpr auto kGroups = {RenderStart,    RenderMenu, RenderOptions, RenderPortraits, RenderHelp,
-                          RenderCampaign, RenderDesk, RenderLobby,   RenderMatch,     RenderRecord};
+constexpr auto kGroups = {RenderStart, RenderMenu,     RenderOptions, RenderPortraits,
+                          RenderHelp,  RenderCampaign, RenderDesk,    RenderLobby,
+                          RenderMatch, RenderMotion,   RenderRecord};
 
 }  // namespace
 

@@ -47,6 +47,7 @@ void RenderHelp(Gallery& gallery);
 void RenderCampaign(Gallery& gallery);
 void RenderDesk(Gallery& gallery);
 void RenderMatch(Gallery& gallery);
+void RenderMotion(Gallery& gallery);
 void RenderLobby(Gallery& gallery);
 void RenderRecord(Gallery& gallery);
 

@@ -1,0 +1,34 @@
+#include "presentation/Motion.h"
+
+#include <QApplication>
+#include <QStyle>
+#include <algorithm>
+#include <cmath>
+
+#include "profile/clsPlayer.h"
+
+namespace kv {
+
+double Eased(Easing easing, double time) {
+  const double t = std::clamp(time, 0.0, 1.0);
+  const double rest = 1 - t;
+  switch (easing) {
+    case Easing::Even:
+      return t;
+    case Easing::Out:
+      return 1 - rest * rest;
+    case Easing::InOut:
+      return t * t * (3 - 2 * t);
+    case Easing::Over: {
+      constexpr double kBeyond = 1.4;
+      return 1 - rest * rest * ((kBeyond + 1) * rest - kBeyond);
+    }
+  }
+  return t;
+}
+
+bool MotionWanted(const clsPlayer& player) {
+  return player.LightPulse_Opt && QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
+}
+
+}  // namespace kv
