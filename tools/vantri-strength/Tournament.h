@@ -9,12 +9,15 @@
 #include <vector>
 
 #include "match/HeadlessMatch.h"
+#include "match/WilsonInterval.h"
 
 namespace kv {
 
+class OracleSeat;
+
 /// One side of a tournament.
 struct Contestant {
-  std::string strategy;  // a name of StrategyNames()
+  std::string strategy;  // a name of StrategyNames(), "oracle", or "oracle-N"
   std::string deck;      // "arcade", "campaign", "network", or the name of a circuit opponent
 };
 
@@ -42,18 +45,14 @@ struct TournamentResult {
 [[nodiscard]] std::vector<std::string> StrategyNames();
 /// Null for an unknown name.
 [[nodiscard]] std::unique_ptr<Strategy> MakeStrategy(std::string_view name);
+/// The seat of a strategy "oracle" or "oracle-N", which has to be told of each match and its events; null for
+/// any other. It belongs to the strategy.
+[[nodiscard]] OracleSeat* OracleIn(Strategy& strategy);
 /// Returns false for an unknown name.
 [[nodiscard]] bool FindDeck(std::string_view name, clsDeckArray& deck);
 
 /// Plays the plan. Both contestants' names must be known (std::invalid_argument otherwise); a broken
 /// invariant throws std::logic_error.
 [[nodiscard]] TournamentResult PlayTournament(const TournamentPlan& plan);
-
-/// The 95 % interval of a proportion (Wilson score interval), as fractions.
-struct Interval {
-  double low = 0;
-  double high = 0;
-};
-[[nodiscard]] Interval WilsonInterval(std::int64_t hits, std::int64_t trials);
 
 }  // namespace kv

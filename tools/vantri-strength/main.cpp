@@ -15,6 +15,7 @@ constexpr const char* kUsage =
     "[--seed N]\n"
     "                       [--threads N] [--check] [--table]\n"
     "  S: standard, ember, careless, standard-rescue-ends, standard-rescue-stands\n"
+    "     or oracle-N, which weighs its moves by N simulated matches a decision (oracle: 1000)\n"
     "  D: arcade, campaign, network, or a circuit opponent such as \"H6-J8\"\n"
     "  Half of the matches are played with the seats changed. --check proves the rules at every step.\n"
     "  --table plays standard and ember against each other and against a careless player with several "
