@@ -36,22 +36,35 @@ class NobodyWatches final : public MatchView, public MatchBooking, public Dialog
 
   /// The match goes on from a position; what is counted begins there.
   HeadlessResult Play(MatchEngine& engine, const MatchPosition& position) {
+    GoOn(engine, position);
+    return PlayOn(engine);
+  }
+
+  /// Only to the end of the set, or of the match with it.
+  void PlaySet(MatchEngine& engine, const MatchPosition& position) {
+    GoOn(engine, position);
+    while (!engine.shown().banner.visible) Tick(engine);
+  }
+
+ private:
+  void GoOn(MatchEngine& engine, const MatchPosition& position) {
     engine_ = &engine;
     result_ = {};
     timerRuns_ = bannerShown_ = left_ = false;
     engine.Resume(position);
-    return PlayOn(engine);
   }
 
- private:
+  void Tick(MatchEngine& engine) const {
+    if (!timerRuns_) throw std::logic_error("the match stands still");
+    engine.GameTick();
+  }
+
   HeadlessResult PlayOn(MatchEngine& engine) {
     while (!left_) {
-      if (timerRuns_) {
-        engine.GameTick();
-      } else if (engine.shown().banner.visible) {
+      if (!timerRuns_ && engine.shown().banner.visible) {
         engine.Continue();
       } else {
-        throw std::logic_error("the match stands still");
+        Tick(engine);
       }
     }
     return result_;

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "match/BetweenSets.h"
+
 namespace kv {
 namespace {
 
@@ -12,6 +14,14 @@ clsGame BareGame(Strategy& opponent) {
   // The strategy is lent; the record does not own it.
   game.AI = std::shared_ptr<Strategy>(std::shared_ptr<Strategy>(), &opponent);
   return game;
+}
+
+HandCards CardsOf(const MatchShown& shown, Seat seat) {
+  HandCards cards;
+  for (int slot = 1; slot <= kHandSize; ++slot) {
+    cards.at(static_cast<std::size_t>(slot) - 1) = shown.HandCard(seat, slot);
+  }
+  return cards;
 }
 
 }  // namespace
@@ -33,10 +43,27 @@ MatchFrom::MatchFrom(PlaysOn strategies, int turnMode, Random& random)
   engine_.person().setStrategy(openings_.data());
 }
 
-Seat MatchFrom::Play(const MatchPosition& position, const TurnMove* first) {
+void MatchFrom::Begin(const MatchPosition& position, const TurnMove* first) {
   game_.Wager = kAnyStake;
   openings_[static_cast<std::size_t>(position.turn)].BeginWith(first);
+}
+
+Seat MatchFrom::Play(const MatchPosition& position, const TurnMove* first) {
+  Begin(position, first);
   return screen_.Play(engine_, position).winner;
+}
+
+double MatchFrom::PlaySet(const MatchPosition& position, const TurnMove* first) {
+  Begin(position, first);
+  screen_.PlaySet(engine_, position);
+  const MatchShown& shown = engine_.shown();
+  const Seat own = position.turn;
+  const Seat other = OtherSeat(own);
+  return ChanceToWin({.ownWins = shown.SetWins(own),
+                      .otherWins = shown.SetWins(other),
+                      .own = CardsOf(shown, own),
+                      .other = CardsOf(shown, other),
+                      .ownStarts = position.startsNext == own});
 }
 
 Seat PlayFrom(const MatchPosition& position, const TurnMove& first, PlaysOn strategies, Random& random) {

@@ -21,8 +21,13 @@ class MatchFrom {
   MatchFrom(MatchFrom&&) = delete;
   /// The side to move makes `first`, if there is one; then the strategies play. Gives the match's winner.
   Seat Play(const MatchPosition& position, const TurnMove* first);
+  /// The same to the end of the set, and no further: how likely the side to move then is to win the match.
+  /// That is certain when the set decides it, and an estimate otherwise.
+  double PlaySet(const MatchPosition& position, const TurnMove* first);
 
  private:
+  void Begin(const MatchPosition& position, const TurnMove* first);
+
   /// Makes one given move, then plays as another strategy does.
   class Opening final : public Strategy {
    public:

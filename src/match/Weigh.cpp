@@ -1,6 +1,7 @@
 #include "match/Weigh.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "ai/clsAI_Normal.h"
 #include "match/PlayFrom.h"
@@ -19,12 +20,10 @@ class Weighing {
     for (CardCode& card : position_.side(position_.turn).hand) card = Signed(card);
     for (const TurnMove& move : PossibleMoves(task.position)) moves_.push_back({move});
     if (!task.made) return;
-    const auto made = std::find_if(moves_.begin(), moves_.end(), [&](auto& each) { return Made(each); });
-    if (made == moves_.end()) {
-      moves_.push_back({*task.made});
-    } else {
-      made->move.slot = task.made->slot;
-    }
+    const auto made = std::find_if(moves_.begin(), moves_.end(),
+                                   [&](const WeighedMove& each) { return SameMove(each.move, *task.made); });
+    if (made != moves_.end()) moves_.erase(made);
+    moves_.insert(moves_.begin(), {*task.made});
   }
 
   std::vector<WeighedMove> Run() {
@@ -45,7 +44,6 @@ class Weighing {
   [[nodiscard]] static bool Better(const WeighedMove& a, const WeighedMove& b) {
     return a.Chance() > b.Chance();
   }
-  [[nodiscard]] bool Made(const WeighedMove& each) const { return SameMove(each.move, *task_.made); }
   [[nodiscard]] bool Stopped() const { return task_.stop != nullptr && task_.stop->load(); }
 
   [[nodiscard]] static int Rounds(std::size_t moves) {
@@ -57,27 +55,30 @@ class Weighing {
   void PlayDeal(std::size_t inQuestion) {
     unseen_.Deal(position_, random_);
     const auto seed = static_cast<std::uint64_t>(random_.Rnd() * kSeeds);
+    double first = 0;
     for (std::size_t i = 0; i < inQuestion && !Stopped(); ++i) {
       WeighedMove& each = moves_[i];
       course_ = SeededRandom(seed);
-      each.wins += match_.Play(position_, &each.move) == position_.turn ? 1 : 0;
+      const double won = Won(each.move);
+      if (i == 0) first = won;
       ++each.matches;
+      each.wins += won;
+      each.lead += won - first;
+      each.leadSquares += (won - first) * (won - first);
     }
   }
 
-  /// The better half stays in question, and the move that was made.
+  double Won(const TurnMove& move) {
+    if (task_.toTheSetOnly) return match_.PlaySet(position_, &move);
+    return match_.Play(position_, &move) == position_.turn ? 1 : 0;
+  }
+
+  /// The better half stays in question, and the move that was made, which stands first.
   std::size_t DropTheWorse(std::size_t inQuestion) {
     if (inQuestion <= 2) return inQuestion;
-    const auto begin = moves_.begin();
-    const auto end = begin + static_cast<std::ptrdiff_t>(inQuestion);
-    std::stable_sort(begin, end, Better);
-    std::size_t kept = (inQuestion + 1) / 2;
-    if (!task_.made) return kept;
-    const auto dropped = begin + static_cast<std::ptrdiff_t>(kept);
-    const auto made = std::find_if(dropped, end, [&](auto& each) { return Made(each); });
-    if (made == end) return kept;
-    std::rotate(dropped, made, made + 1);
-    return kept + 1;
+    const std::ptrdiff_t made = task_.made ? 1 : 0;
+    std::stable_sort(moves_.begin() + made, moves_.begin() + static_cast<std::ptrdiff_t>(inQuestion), Better);
+    return std::max<std::size_t>(2, (inQuestion + 1) / 2);
   }
 
   const WeighTask& task_;
@@ -92,6 +93,13 @@ class Weighing {
 };
 
 }  // namespace
+
+double WeighedMove::Ahead() const {
+  if (matches == 0 || lead == 0) return 0;
+  const auto deals = static_cast<double>(matches);
+  const double spread = std::sqrt(std::max(leadSquares - lead * lead / deals, 0.0));
+  return lead / std::max(spread, 1e-9);
+}
 
 std::vector<WeighedMove> Weigh(const WeighTask& task, Random& random) {
   return Weighing(task, random).Run();

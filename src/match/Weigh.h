@@ -17,19 +17,22 @@ namespace kv {
 struct WeighedMove {
   TurnMove move;
   std::int64_t matches = 0;  // played with it
-  std::int64_t wins = 0;
+  double wins = 0;           // an estimate counts as a part of one
+  double lead = 0;           // wins more than the move that was made, over the same deals
+  double leadSquares = 0;    // the sum of the squares of that, deal by deal
 
-  [[nodiscard]] double Chance() const {
-    return matches == 0 ? 0 : static_cast<double>(wins) / static_cast<double>(matches);
-  }
+  [[nodiscard]] double Chance() const { return matches == 0 ? 0 : wins / static_cast<double>(matches); }
   [[nodiscard]] Interval Within() const { return WilsonInterval(wins, matches); }
+  /// How many standard errors it is ahead of the move that was made.
+  [[nodiscard]] double Ahead() const;
 };
 
 struct WeighTask {
   const MatchPosition& position;
   int matches = 4000;                           // of all moves together
   std::optional<TurnMove> made = std::nullopt;  // a move that is weighed to the end, whatever it is worth
-  const std::atomic<bool>* stop = nullptr;      // set from another thread: no further match is played
+  bool toTheSetOnly = false;  // then an estimate takes the place of the sets to come: quicker, and less even
+  const std::atomic<bool>* stop = nullptr;  // set from another thread: no further match is played
 };
 
 /// The side to move's possible moves, the best first; `made` among them. Every deal is played with all moves

@@ -10,6 +10,6 @@ struct Interval {
   double low = 0;
   double high = 0;
 };
-[[nodiscard]] Interval WilsonInterval(std::int64_t hits, std::int64_t trials);
+[[nodiscard]] Interval WilsonInterval(double hits, std::int64_t trials);
 
 }  // namespace kv
