@@ -9,7 +9,7 @@ namespace {
 
 kv::MatchPosition Middle() {
   kv::MatchPosition position =
-      kv::test::PositionOf({{"no6", "no7"}, {"fp2", "fp4", "s51", "s11"}, 1}, {{"no9"}, {}, 1});
+      kv::test::PositionOf({{"no6", "no7"}, {"fp2", "fp4", "s51", "s11"}}, {{"no9"}});
   kv::PositionSide& other = position.side(kv::Seat::Opponent);
   other.hand.fill(kv::CardCode(kv::CardType::FaceDown, 0));
   other.deck.emplace().setAll({"s199", "s199", "s599", "s599", "fl3", "fl3", "fl4", "fl4", "fp5", "s299"});

@@ -1,5 +1,7 @@
 #include "match/BetweenSets.h"
 
+#include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstdlib>
 
@@ -10,7 +12,8 @@ namespace kv {
 namespace {
 
 constexpr std::size_t kKinds = 10;
-constexpr std::size_t kSideTerms = kKinds + 1;
+constexpr std::size_t kSideTerms = kKinds + 6;
+constexpr std::size_t kDown = kKinds + 4;  // the term of the changes down
 
 /// Plus, minus and flip cards up to 3 and from 4 on, tiebreaker, double, turning cards, one-or-two.
 std::size_t KindOf(const CardCode& card) {
@@ -34,14 +37,55 @@ std::size_t KindOf(const CardCode& card) {
   }
 }
 
+/// The changes that one card can make, as bits 1 to 6.
+struct Reach {
+  unsigned up = 0;
+  unsigned down = 0;
+};
+
+void AddReach(const CardCode& card, Reach& reach) {
+  const unsigned bit = 1U << static_cast<unsigned>(std::min(std::abs(card.number()), 6));
+  switch (card.type()) {
+    case CardType::Plus:
+      reach.up |= bit;
+      break;
+    case CardType::Minus:
+      reach.down |= bit;
+      break;
+    case CardType::Flip:
+    case CardType::FlipPlus:
+    case CardType::FlipMinus:
+      reach.up |= bit;
+      reach.down |= bit;
+      break;
+    case CardType::Tiebreaker:
+      reach.up |= 0b10U;
+      reach.down |= 0b10U;
+      break;
+    case CardType::OneOrTwo:
+      reach.up |= 0b110U;
+      reach.down |= 0b110U;
+      break;
+    default:
+      break;
+  }
+}
+
 void Count(const HandCards& hand, double* terms) {
-  double cards = 0;
+  Reach reach;
+  int cards = 0;
   for (const CardCode& card : hand) {
     if (IsEmptySlot(card)) continue;
     ++terms[KindOf(card)];
     ++cards;
+    AddReach(card, reach);
   }
-  terms[kKinds] = cards * cards;
+  double* more = terms + kKinds;
+  for (int least = 2; least <= kHandSize; ++least) *more++ = cards >= least ? 1 : 0;
+  const int down = std::popcount(reach.down);
+  *more++ = std::popcount(reach.up);
+  *more++ = down;
+  *more = down * down;
 }
 
 struct WeightRow {
@@ -49,25 +93,26 @@ struct WeightRow {
   int other;
   BetweenTerms weights;
 };
-// Printed by vantri-strength --fit --matches 600000.
+// Printed by vantri-strength --fit --matches 300000.
 constexpr std::array<WeightRow, 6> kWeights = {
-    {{0, 0, {{0.411,  0.361,  0.559,  0.560,  0.669,  0.658,  0.758,  0.407,
-              0.299,  0.781,  0.006,  -0.403, -0.363, -0.542, -0.568, -0.683,
-              -0.648, -0.779, -0.387, -0.301, -0.777, -0.006, -0.065, 0.030}}},
-     {0, 1, {{0.455,  0.411,  0.553,  0.630,  0.700,  0.737,  0.783,  0.419,
-              0.392,  0.821,  -0.003, -0.436, -0.388, -0.571, -0.575, -0.723,
-              -0.720, -0.896, -0.424, -0.350, -0.881, 0.000,  -0.048, -0.842}}},
-     {0, 2, {{0.508,  0.440,  0.577,  0.800,  0.764,  0.865,  0.841,  0.487,
-              0.568,  0.946,  -0.017, -0.479, -0.435, -0.611, -0.611, -0.805,
-              -0.788, -1.079, -0.475, -0.402, -1.018, 0.009,  -0.092, -2.058}}},
-     {1, 1, {{0.454,  0.404,  0.544,  0.633,  0.735,  0.759,  0.838,  0.440,  0.415,  0.898, -0.008, -0.466,
-              -0.407, -0.557, -0.644, -0.742, -0.780, -0.854, -0.441, -0.420, -0.892, 0.010, -0.080, 0.042}}},
-     {1, 2, {{0.518,  0.466,  0.563,  0.770,  0.778,  0.878,  0.862,  0.499,
-              0.604,  0.974,  -0.030, -0.484, -0.431, -0.564, -0.667, -0.758,
-              -0.810, -0.968, -0.458, -0.475, -0.997, 0.024,  -0.047, -1.182}}},
-     {2, 2, {{0.494,  0.460,  0.539,  0.739,  0.733,  0.864,  0.898,  0.476,
-              0.631,  0.969,  -0.045, -0.487, -0.443, -0.522, -0.728, -0.717,
-              -0.848, -0.870, -0.469, -0.615, -0.952, 0.042,  -0.138, 0.059}}}}};
+    {{0, 0, {{0.306,  0.273,  0.460,  0.442,  0.522,  0.476,  0.664,  0.351,  0.268,  0.515,  0.048,  0.126,
+              0.075,  0.086,  0.083,  0.003,  -0.286, -0.251, -0.460, -0.469, -0.527, -0.492, -0.642, -0.355,
+              -0.238, -0.538, -0.080, -0.104, -0.129, -0.095, -0.069, 0.002,  0.000,  -0.077, 0.035}}},
+     {0, 1, {{0.303,  0.246,  0.391,  0.479,  0.501,  0.500,  0.594,  0.341,  0.292,  0.528,  0.087,  0.111,
+              0.067,  0.084,  0.084,  0.001,  -0.270, -0.199, -0.444, -0.437, -0.503, -0.457, -0.682, -0.388,
+              -0.255, -0.505, -0.091, -0.120, -0.095, -0.156, -0.116, 0.003,  0.017,  -0.048, -0.792}}},
+     {0, 2, {{0.322,  0.255,  0.348,  0.539,  0.492,  0.539,  0.594,  0.364,  0.462,  0.537,  0.055,  0.042,
+              0.009,  0.121,  0.183,  -0.019, -0.255, -0.197, -0.442, -0.406, -0.510, -0.469, -0.853, -0.408,
+              -0.336, -0.492, -0.077, -0.049, -0.080, -0.203, -0.174, -0.007, 0.047,  -0.073, -2.060}}},
+     {1, 1, {{0.252,  0.198,  0.417,  0.453,  0.465,  0.488,  0.644,  0.346,  0.318,  0.495,  0.071,  0.073,
+              0.041,  0.158,  0.091,  0.003,  -0.245, -0.190, -0.419, -0.484, -0.464, -0.474, -0.617, -0.366,
+              -0.319, -0.492, -0.080, -0.083, -0.014, -0.172, -0.072, -0.005, -0.001, -0.064, 0.045}}},
+     {1, 2, {{0.271,  0.203,  0.309, 0.470,  0.395,  0.452,  0.546,  0.356,  0.475,  0.415,  0.045,  -0.002,
+              -0.058, 0.176,  0.181, -0.005, -0.278, -0.197, -0.331, -0.385, -0.406, -0.429, -0.703, -0.396,
+              -0.389, -0.405, 0.007, -0.015, 0.035,  -0.181, -0.236, -0.004, 0.030,  -0.048, -1.165}}},
+     {2, 2, {{0.210,  0.127,  0.182,  0.371,  0.244,  0.319,  0.451,  0.355,  0.510,  0.223,  -0.012, -0.069,
+              -0.078, 0.222,  0.291,  -0.012, -0.176, -0.116, -0.146, -0.293, -0.227, -0.282, -0.460, -0.325,
+              -0.459, -0.245, -0.008, 0.038,  0.058,  -0.217, -0.307, 0.017,  -0.001, -0.149, 0.054}}}}};
 
 }  // namespace
 
@@ -75,8 +120,9 @@ BetweenTerms TermsOf(const BetweenSets& at) {
   BetweenTerms terms{};
   Count(at.own, terms.data());
   Count(at.other, terms.data() + kSideTerms);
-  terms[2 * kSideTerms] = at.ownStarts ? 1 : 0;
-  terms[2 * kSideTerms + 1] = 1;
+  terms[2 * kSideTerms] = terms[kDown] * terms[kSideTerms + kDown];
+  terms[2 * kSideTerms + 1] = at.ownStarts ? 1 : 0;
+  terms[2 * kSideTerms + 2] = 1;
   return terms;
 }
 

@@ -19,9 +19,10 @@ struct BetweenSets {
   bool ownStarts = false;
 };
 
-/// What the estimate looks at: of either side how many cards of each of ten kinds, and the square of their
-/// number; who starts; and one.
-inline constexpr std::size_t kBetweenTerms = 24;
+/// What the estimate looks at: of either side how many cards of each of ten kinds, whether there are two,
+/// three, four, and how many changes up and down one of them can make; then both sides' changes down
+/// together, who starts, and one.
+inline constexpr std::size_t kBetweenTerms = 35;
 using BetweenTerms = std::array<double, kBetweenTerms>;
 [[nodiscard]] BetweenTerms TermsOf(const BetweenSets& at);
 

@@ -43,7 +43,10 @@ class NobodyWatches final : public MatchView, public MatchBooking, public Dialog
   /// Only to the end of the set, or of the match with it.
   void PlaySet(MatchEngine& engine, const MatchPosition& position) {
     GoOn(engine, position);
-    while (!engine.shown().banner.visible) Tick(engine);
+    while (!engine.shown().banner.visible) {
+      if (!timerRuns_) StandsStill();
+      engine.GameTick();
+    }
   }
 
  private:
@@ -54,17 +57,16 @@ class NobodyWatches final : public MatchView, public MatchBooking, public Dialog
     engine.Resume(position);
   }
 
-  void Tick(MatchEngine& engine) const {
-    if (!timerRuns_) throw std::logic_error("the match stands still");
-    engine.GameTick();
-  }
+  [[noreturn]] static void StandsStill() { throw std::logic_error("the match stands still"); }
 
   HeadlessResult PlayOn(MatchEngine& engine) {
     while (!left_) {
-      if (!timerRuns_ && engine.shown().banner.visible) {
+      if (timerRuns_) {
+        engine.GameTick();
+      } else if (engine.shown().banner.visible) {
         engine.Continue();
       } else {
-        Tick(engine);
+        StandsStill();
       }
     }
     return result_;

@@ -6,6 +6,7 @@
 #include "match/PlayFrom.h"
 #include "match/PositionFollower.h"
 #include "match/PossibleMoves.h"
+#include "match/StandardMove.h"
 #include "support/Position.h"
 #include "vantri-strength/Tournament.h"
 
@@ -59,8 +60,12 @@ TEST(PlayFrom, AMatchTakenUpAtAnyTurnEndsAsItWouldHave) {
                      random);
     if (!keeper.kept) continue;
     ++takenUp;
+    SeededRandom again = keeper.chance;
     MatchFrom from(others, options.turnMode, keeper.chance);
     EXPECT_EQ(from.Play(*keeper.kept, nullptr), whole.winner) << "match " << i;
+    // The standard strategy sits in the player's seat.
+    if (!atPlayer) continue;
+    EXPECT_EQ(PlayFrom(*keeper.kept, StandardMove(*keeper.kept), others, again), whole.winner) << i;
   }
   EXPECT_GT(takenUp, 250);
 }

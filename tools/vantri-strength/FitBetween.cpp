@@ -7,9 +7,14 @@
 #include "ai/clsAI_Normal.h"
 #include "match/Dealing.h"
 #include "match/PlayFrom.h"
+#include "match/UnseenHand.h"
+#include "vantri-strength/Tournament.h"
 
 namespace kv {
 namespace {
+
+constexpr std::array kDecks = {"arcade", "arcade",  "campaign",   "network",
+                               "Tamsen", "Brummox", "Orrin Vaal", "H6-J8"};
 
 struct Sample {
   BetweenTerms terms;
@@ -58,10 +63,18 @@ class Samples {
     }
   }
 
+  /// Of a deck that is played with, or of any cards; some of the four are played already.
   HandCards SomeHand() {
+    const auto which = static_cast<std::size_t>(Below(2 * static_cast<int>(kDecks.size())));
+    clsDeckArray deck;
+    for (int i = 1; i <= kDeckSize; ++i) deck.setValue(i, SomeCard());
+    if (which < kDecks.size()) static_cast<void>(FindDeck(kDecks.at(which), deck));
+    const auto dealt = DealHand(deck, random_);
     HandCards hand;
     const int cards = Below(kHandSize + 1);
-    for (int i = 0; i < cards; ++i) hand.at(static_cast<std::size_t>(i)) = SomeCard();
+    for (int slot = 1; slot <= cards; ++slot) {
+      hand.at(static_cast<std::size_t>(slot) - 1) = Signed(dealt->Value(slot));
+    }
     return hand;
   }
 

@@ -87,11 +87,11 @@ class Share {
         !FindDeck(plan.second.deck, decks_[1])) {
       throw std::invalid_argument("unknown strategy or deck");
     }
-    for (const auto& strategy : strategies_) {
-      if (OracleSeat* oracle = OracleIn(*strategy); oracle != nullptr) {
-        observers_.Add(*oracle);
-        observer_ = &observers_;
-      }
+    for (std::size_t who = 0; who < oracles_.size(); ++who) {
+      oracles_.at(who) = OracleIn(*strategies_.at(who));
+      if (oracles_.at(who) == nullptr) continue;
+      observers_.Add(*oracles_.at(who));
+      observer_ = &observers_;
     }
   }
 
@@ -120,11 +120,11 @@ class Share {
   }
 
   void SeatOracles(std::size_t atPlayer, std::uint64_t seed) {
-    for (std::size_t who = 0; who < strategies_.size(); ++who) {
+    if (observer_ == nullptr) return;
+    for (std::size_t who = 0; who < oracles_.size(); ++who) {
       const Seat seat = who == atPlayer ? Seat::Player : Seat::Opponent;
-      if (OracleSeat* oracle = OracleIn(*strategies_.at(who)); oracle != nullptr) {
-        oracle->SitDown(seat, decks_.at(1 - who), MatchOptions().turnMode, seed + who);
-      }
+      if (oracles_.at(who) == nullptr) continue;
+      oracles_.at(who)->SitDown(seat, decks_.at(1 - who), MatchOptions().turnMode, seed + who);
     }
   }
 
@@ -149,8 +149,9 @@ class Share {
   const TournamentPlan& plan_;
   std::array<std::unique_ptr<Strategy>, 2> strategies_;
   std::array<clsDeckArray, 2> decks_;
-  MatchObservers observers_;           // the oracles
-  MatchObserver* observer_ = nullptr;  // without one nobody is told anything
+  std::array<OracleSeat*, 2> oracles_{};  // null for any other strategy
+  MatchObservers observers_;              // the oracles
+  MatchObserver* observer_ = nullptr;     // without one nobody is told anything
 };
 
 }  // namespace
