@@ -78,10 +78,11 @@ int TotalAfter(const MatchPosition& position, const TurnMove& move) {
 
 std::vector<TurnMove> PossibleMoves(const MatchPosition& position) {
   const PositionSide& own = position.own();
-  const bool full = own.table.size() == kTableSize;
+  const bool standsByItself = position.turn == Seat::Player && own.Total() == kTargetTotal;
   std::vector<TurnMove> moves{TurnMove{0, CardCode(), true}};
-  if (own.Total() <= kTargetTotal && !full) moves.push_back(TurnMove());
-  if (position.cardPlayed || full) return moves;
+  if (standsByItself || own.table.size() == kTableSize) return moves;
+  if (own.Total() <= kTargetTotal) moves.push_back(TurnMove());
+  if (position.cardPlayed) return moves;
   std::vector<CardCode> seen;
   for (int slot = 1; slot <= kHandSize; ++slot) {
     const CardCode& card = own.hand.at(static_cast<std::size_t>(slot) - 1);

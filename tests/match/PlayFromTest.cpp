@@ -7,6 +7,7 @@
 #include "match/PositionFollower.h"
 #include "match/PossibleMoves.h"
 #include "match/StandardMove.h"
+#include "match/TurnCollector.h"
 #include "support/Position.h"
 #include "vantri-strength/Tournament.h"
 
@@ -68,6 +69,30 @@ TEST(PlayFrom, AMatchTakenUpAtAnyTurnEndsAsItWouldHave) {
     EXPECT_EQ(PlayFrom(*keeper.kept, StandardMove(*keeper.kept), others, again), whole.winner) << i;
   }
   EXPECT_GT(takenUp, 250);
+}
+
+TEST(TurnCollector, HasEveryTurnOfTheMatchAsItWasMade) {
+  clsAI_Normal standard;
+  clsAI_Ember ember;
+  clsDeckArray deck;
+  ASSERT_TRUE(FindDeck("H6-J8", deck));
+  int turns = 0;
+  TurnCollector collector;
+  for (std::uint64_t seed = 1; seed <= 60; ++seed) {
+    SeededRandom random(seed);
+    collector.Tell({}, 2);
+    static_cast<void>(PlayHeadless({standard, ember, deck, deck, {}, &collector}, random));
+    for (const PlayedTurn& each : collector.turns()) {
+      if (each.position.turn != Seat::Player) continue;
+      ++turns;
+      const TurnMove expected = StandardMove(each.position);
+      // On 20 and over it the rules have the last word.
+      const bool closes = TotalAfter(each.position, expected) >= kTargetTotal;
+      EXPECT_TRUE(SameMove({expected.slot, expected.card, expected.stands || closes}, each.made))
+          << "seed " << seed << ", total " << each.position.own().Total();
+    }
+  }
+  EXPECT_GT(turns, 800);
 }
 
 TEST(PossibleMoves, EveryCardWithEverySignThatIsWorthATry) {
