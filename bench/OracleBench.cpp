@@ -2,7 +2,9 @@
 // as a review plays them and to the end of the set as the oracle does.
 #include <benchmark/benchmark.h>
 
-#include "match/Weigh.h"
+#include "ai/clsAI_Normal.h"
+#include "match/HeadlessMatch.h"
+#include "match/TurnCollector.h"
 #include "support/Position.h"
 
 namespace {
@@ -28,5 +30,20 @@ void Decision(benchmark::State& state, bool toTheSetOnly) {
 }
 BENCHMARK_CAPTURE(Decision, whole, false)->Name("decision/whole")->Arg(4000)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Decision, set, true)->Name("decision/set")->Arg(4000)->Unit(benchmark::kMillisecond);
+
+void WholeReview(benchmark::State& state) {
+  kv::clsAI_Normal first;
+  kv::clsAI_Normal second;
+  kv::clsDeckArray deck;
+  deck.setAll({"s199", "s199", "s599", "s599", "fl3", "fl3", "fl4", "fl4", "fp5", "s299"});
+  kv::TurnCollector turns;
+  turns.Tell({deck, deck}, 2);
+  kv::SeededRandom random(1);
+  static_cast<void>(kv::PlayHeadless({first, second, deck, deck, {}, &turns}, random));
+  std::size_t decisions = 0;
+  for (auto _ : state) decisions += kv::ReviewMatch(turns.turns(), {}).turns.size();
+  state.counters["decisions"] = static_cast<double>(decisions) / static_cast<double>(state.iterations());
+}
+BENCHMARK(WholeReview)->Name("review/match")->Unit(benchmark::kMillisecond);
 
 }  // namespace
