@@ -7,6 +7,8 @@
 #include <stdexcept>
 #include <string>
 
+#include "match/MatchPosition.h"
+
 namespace kv {
 namespace {
 
@@ -52,6 +54,22 @@ void MatchBoard::Clear() {
     each.table.clear();
   }
   for (const Seat seat : {Seat::Player, Seat::Opponent}) view_.TableChanged(seat, 0);
+}
+
+void MatchBoard::TakeUp(const MatchPosition& position) {
+  mainDeckCount_ = position.drawn;
+  for (const Seat seat : {Seat::Player, Seat::Opponent}) {
+    const PositionSide& from = position.side(seat);
+    MatchSide& to = shown_.side(seat);
+    to.table = from.table;
+    to.total = from.Total();
+    to.setWins = from.setWins;
+    to.stood = from.stood;
+    for (int slot = 1; slot <= kHandSize; ++slot) {
+      const CardCode& card = from.hand.at(static_cast<std::size_t>(slot) - 1);
+      hand(seat).setValue(slot, card.empty() && seat == Seat::Opponent ? EmptiedSlot() : card);
+    }
+  }
 }
 
 bool MatchBoard::EvenChance() {

@@ -13,6 +13,8 @@
 
 namespace kv {
 
+struct MatchPosition;
+
 class MatchBoard {
  public:
   /// Shows the hands of `game`, which must be dealt. All references must outlive the board.
@@ -21,6 +23,8 @@ class MatchBoard {
 
   /// A set begins: both tables are empty and the main deck is complete.
   void Clear();
+  /// Tables, hands and main deck become those of a position; the view is told nothing.
+  void TakeUp(const MatchPosition& position);
   /// By the same chance that draws the cards.
   [[nodiscard]] bool EvenChance();
   /// A card from the main deck, at random.

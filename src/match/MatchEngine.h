@@ -32,6 +32,8 @@ class MatchEngine {
 
   /// The screen was shown: decides who starts and begins the first set (or waits for the peer).
   void Activate();
+  /// In the place of Activate, for simulations: the match goes on from there, unseen.
+  void Resume(const MatchPosition& position);
   /// Starts a set.
   void Reset();
   /// The ticks of two timers; the others are those of pauses() and peer().

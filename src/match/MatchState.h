@@ -11,6 +11,9 @@ class clsPlayer;
 
 /// The two sides of a match. The player is the person at this screen; the opponent a strategy or a peer.
 enum class Seat : std::uint8_t { Player, Opponent };
+[[nodiscard]] constexpr Seat OtherSeat(Seat seat) {
+  return seat == Seat::Player ? Seat::Opponent : Seat::Player;
+}
 
 inline constexpr int kTableSize = 9;
 inline constexpr int kSetsToWin = 3;

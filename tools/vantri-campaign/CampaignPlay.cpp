@@ -8,9 +8,12 @@
 #include "campaign/Settlement.h"
 #include "campaign/WagerEntry.h"
 #include "campaign/modSaveWin.h"
+#include "match/Dealing.h"
 #include "match/HeadlessMatch.h"
+#include "match/OracleSeat.h"
 #include "match/clsGame.h"
 #include "profile/PlayerFields.h"
+#include "vantri-strength/Tournament.h"
 
 namespace kv {
 namespace {
@@ -39,6 +42,8 @@ constexpr std::array<Swap, 13> kSwaps = {{{{1, 1}, {1, 6}},
 constexpr std::int32_t kSmallestPurse = 100;  // what the buyer keeps
 constexpr int kPurseStakes = 2;               // or so many of the newest opponent's least stakes
 constexpr int kPatientStakes = 5;             // what the patient player wants to have before meeting it
+
+constexpr double kSeeds = 9007199254740992.0;  // 2^53, all that Rnd tells apart
 
 class NoBoxes final : public Dialogs {
  public:
@@ -72,6 +77,8 @@ class Campaign {
   Campaign(const CampaignHabits& habits, Strategy& strategy, Random& random)
       : habits_(habits), strategy_(strategy), random_(random) {
     game_.AI = std::make_shared<clsAI_Normal>();
+    // What an oracle simulates is no part of the campaign's own chance.
+    if (oracle_ != nullptr) oracleSeeds_ = SeededRandom(static_cast<std::uint64_t>(random_.Rnd() * kSeeds));
   }
 
   CampaignResult Play() {
@@ -104,9 +111,17 @@ class Campaign {
     desk.StakeSettled();
     desk.Store();
     DealMatch(game_, player_, random_);
-    static_cast<void>(PlayPrepared(game_, strategy_, booking_, {}, random_));
+    SeatOracle();
+    static_cast<void>(PlayPrepared(game_, strategy_, booking_, {}, random_, {}, oracle_));
     ++result_.matches;
     ++result_.against.at(static_cast<std::size_t>(tile));
+  }
+
+  void SeatOracle() {
+    if (oracle_ == nullptr) return;
+    const bool mirror = game_.OppName == "Yourself";
+    oracle_->SitDown(Seat::Player, mirror ? *game_.DeckRef : OpponentDeck(game_.OppName),
+                     MatchOptions().turnMode, static_cast<std::uint64_t>(oracleSeeds_.Rnd() * kSeeds));
   }
 
   /// The newest opponent; while the purse is too small for it, the one from whom most can be expected.
@@ -198,6 +213,8 @@ class Campaign {
   const CampaignHabits& habits_;
   Strategy& strategy_;
   Random& random_;
+  OracleSeat* const oracle_ = OracleIn(strategy_);
+  SeededRandom oracleSeeds_{0};
   PlayerFields player_;
   clsGame game_;
   NoBoxes dialogs_;

@@ -20,7 +20,7 @@ constexpr const char* kUsage =
     "[--seed "
     "N]\n"
     "                       [--threads N] [--table]\n"
-    "  S: standard, ember, careless; P: least, quarter, most\n"
+    "  S: standard, ember, careless, oracle-N (N simulated matches a decision); P: least, quarter, most\n"
     "  --hasty meets each opponent as soon as its least stake is there; --keep never buys a card; --give-up "
     "N\n"
     "  stops after so many matches (5000). --table plays the strategies with every habit.\n";

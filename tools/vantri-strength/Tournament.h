@@ -9,12 +9,15 @@
 #include <vector>
 
 #include "match/HeadlessMatch.h"
+#include "match/WilsonInterval.h"
 
 namespace kv {
 
+class OracleSeat;
+
 /// One side of a tournament.
 struct Contestant {
-  std::string strategy;  // a name of StrategyNames()
+  std::string strategy;  // a name of StrategyNames(), "oracle", or "oracle-N"
   std::string deck;      // "arcade", "campaign", "network", or the name of a circuit opponent
 };
 
@@ -42,6 +45,9 @@ struct TournamentResult {
 [[nodiscard]] std::vector<std::string> StrategyNames();
 /// Null for an unknown name.
 [[nodiscard]] std::unique_ptr<Strategy> MakeStrategy(std::string_view name);
+/// The seat of a strategy "oracle" or "oracle-N", which has to be told of each match and its events; null for
+/// any other. It belongs to the strategy.
+[[nodiscard]] OracleSeat* OracleIn(Strategy& strategy);
 /// Returns false for an unknown name.
 [[nodiscard]] bool FindDeck(std::string_view name, clsDeckArray& deck);
 

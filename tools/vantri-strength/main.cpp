@@ -7,6 +7,7 @@
 
 #include "platform/Interval.h"
 #include "platform/StandardOptions.h"
+#include "vantri-strength/FitBetween.h"
 #include "vantri-strength/Tournament.h"
 
 namespace {
@@ -14,12 +15,14 @@ namespace {
 constexpr const char* kUsage =
     "usage: vantri-strength [--first S] [--second S] [--first-deck D] [--second-deck D] [--matches N] "
     "[--seed N]\n"
-    "                       [--threads N] [--check] [--table]\n"
+    "                       [--threads N] [--check] [--table] [--fit]\n"
     "  S: standard, ember, careless, standard-rescue-ends, standard-rescue-stands\n"
+    "     or oracle-N, which weighs its moves by N simulated matches a decision (oracle: 1000)\n"
     "  D: arcade, campaign, network, or a circuit opponent such as \"H6-J8\"\n"
     "  Half of the matches are played with the seats changed. --check proves the rules at every step.\n"
     "  --table plays standard and ember against each other and against a careless player with several "
-    "decks.\n";
+    "decks.\n"
+    "  --fit prints the weights of the estimate that the oracle has of a match between two sets.\n";
 
 void PrintHeading() {
   std::puts(
@@ -62,13 +65,28 @@ void RunTable(kv::TournamentPlan plan) {
   }
 }
 
+/// The rows of the table in match/BetweenSets.cpp.
+void PrintFit(const kv::TournamentPlan& plan) {
+  for (int own = 0; own < kv::kSetsToWin; ++own) {
+    for (int other = own; other < kv::kSetsToWin; ++other) {
+      std::printf("{%d, %d, {{", own, other);
+      const char* gap = "";
+      for (const double weight : kv::FitBetween(own, other, static_cast<int>(plan.matches), plan.seed)) {
+        std::printf("%s%.3f", gap, weight);
+        gap = ", ";
+      }
+      std::puts("}}},");
+    }
+  }
+}
+
 bool ReadNumber(const std::string& text, std::uint64_t& number) {
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   return error == std::errc() && end == text.data() + text.size();
 }
 
 /// Reads the words of the command line; false when one is not understood.
-bool ReadPlan(int count, char** words, kv::TournamentPlan& plan, bool& table) {
+bool ReadPlan(int count, char** words, kv::TournamentPlan& plan, std::string& what) {
   std::uint64_t matches = static_cast<std::uint64_t>(plan.matches);
   std::uint64_t threads = 0;
   const std::map<std::string, std::string*> texts = {{"--first", &plan.first.strategy},
@@ -81,8 +99,8 @@ bool ReadPlan(int count, char** words, kv::TournamentPlan& plan, bool& table) {
     const std::string word = words[i];
     if (word == "--check") {
       plan.checkInvariants = true;
-    } else if (word == "--table") {
-      table = true;
+    } else if (word == "--table" || word == "--fit") {
+      what = word;
     } else if (i + 1 == count) {
       return false;
     } else if (const auto text = texts.find(word); text != texts.end()) {
@@ -102,18 +120,18 @@ bool ReadPlan(int count, char** words, kv::TournamentPlan& plan, bool& table) {
 int main(int count, char** words) {
   if (kv::AnswersStandardOption(count, words, "vantri-strength", kUsage)) return 0;
   kv::TournamentPlan plan{.first = {"standard", "arcade"}, .second = {"ember", "arcade"}};
-  bool table = false;
-  if (!ReadPlan(count, words, plan, table)) {
+  std::string what;
+  if (!ReadPlan(count, words, plan, what)) {
     std::fputs(kUsage, stderr);
     return 2;
   }
   try {
     const auto start = std::chrono::steady_clock::now();
-    PrintHeading();
-    if (table) {
-      RunTable(plan);
+    if (what == "--fit") {
+      PrintFit(plan);
     } else {
-      Run(plan);
+      PrintHeading();
+      what == "--table" ? RunTable(plan) : Run(plan);
     }
     const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
     std::fprintf(stderr, "%.1f s\n", seconds.count());
