@@ -37,7 +37,8 @@ struct CampaignResult {
   std::array<int, kCircuitTiles> against{};  // matches, by tile
 };
 
-/// Plays a campaign from 100 credits; an oracle knows the deck of its opponent, as a person learns it. Equal random numbers give equal campaigns.
+/// Plays a campaign from 100 credits; an oracle knows the deck of its opponent, as a person learns it. Equal
+/// random numbers give equal campaigns.
 [[nodiscard]] CampaignResult PlayCampaign(const CampaignHabits& habits, Strategy& strategy, Random& random);
 
 }  // namespace kv
