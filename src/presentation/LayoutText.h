@@ -1,5 +1,5 @@
-// The layout files of the screens, compiled in, which only Layout reads; and the read-me ("README"), whose chapters
-// are the rules inside the program.
+// The layout files of the screens, compiled in, which only Layout reads; and the read-me ("README"), whose
+// chapters are the rules inside the program.
 #pragma once
 
 #include <string_view>
