@@ -16,6 +16,7 @@
 #include "platform/QtTcpSocket.h"
 #include "presentation/LayoutText.h"
 #include "presentation/PictureSizes.h"
+#include "presentation/TipSkin.h"
 #include "screens/frmHelp.h"
 #include "screens/frmMenu.h"
 #include "screens/frmOptions.h"
@@ -134,6 +135,7 @@ void Program::Show(Make make) {
   globals_.look.interfaceStyle = player_ == nullptr ? "Slate" : player_->Interface_Opt;
   dialogs_.setInterfaceStyle(globals_.look.interfaceStyle);
   stage_.setInterfaceStyle(globals_.look.interfaceStyle);
+  SkinTips(globals_.look.interfaceStyle);
   screen_ = make();
   stage_.Show(*screen_);
   screen_->Open();

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <utility>
 
+#include "cards/CardMeaning.h"
 #include "platform/QtPropertyBag.h"
 #include "platform/QtText.h"
 #include "platform/Text.h"
@@ -95,6 +96,7 @@ void ctlCard::ShowCaption(const QString& caption) {
 void ctlCard::setCard(std::string_view code) {
   const CardCode old = code_;
   code_ = CardCode(LowerAscii(code));
+  setToolTip(ToQString(CardMeaning(code_)));
   Refresh(!isEnabled(), old.prefix() != code_.prefix());
 }
 

@@ -20,10 +20,12 @@ frmGame::frmGame(const frmGameServices& services)
         strip_->Tell(told);
       }),
       reasons_(services.booking),
+      hint_(services.game, services.player.TurnMode_Opt),
       engine_(services.game, MatchOptionsOf(services.player), *this, services.network, services.booking,
               services.dialogs, services.random) {
   observers_.Add(sentences_);
   observers_.Add(reasons_);
+  observers_.Add(hint_);
   engine_.setObserver(&observers_);
   BuildTimers();
   BuildPanel();

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "match/MatchEngine.h"
+#include "match/MatchHint.h"
 #include "match/MatchReasons.h"
 #include "match/MatchSentences.h"
 #include "match/ctlBust.h"
@@ -73,16 +74,21 @@ class frmGame final : public Screen, private MatchView {
   void BuildMotion();
   void ConnectHand();
   ctlButton* NewMatchButton(QStringView control, std::function<void()> click);
+  /// Says the best move of this turn, and gives the focus to what makes it. Never against a peer.
+  void Hint();
+  [[nodiscard]] QString TipFor(const QObject* watched) const;
+  [[nodiscard]] QString WithKey(const std::string& tip, int row, int column) const;
   /// True when the key was one of the player's game keys; nothing else is done with it then.
   bool GameKey(const QKeyEvent& event);
   /// The keys by which everything is reached without a mouse or a look: arrows, Escape to give up the match,
-  /// F2 and F3 to hear table and hand.
+  /// F2 and F3 to hear table and hand, F4 for a hint.
   bool FocusKey(const QKeyEvent& event);
 
   frmGameServices services_;
   const int styleIndex_;
   MatchSentences sentences_;  // what happens, in words
   MatchReasons reasons_;
+  MatchHint hint_;
   MatchObservers observers_;
   MatchEngine engine_;
   clsCardArray keys_;                             // the player's, as they were when the screen was activated

@@ -61,6 +61,8 @@ void frmGameSide::BuildLight(Layout& layout, const frmGameServices& services) {
   unlit_ = services.getPic(bag.number(u"picture_off"));
   light_ = new FadeTarget(&container_);
   layout.Place(control, *light_);
+  light_->setToolTip(seat_ == Seat::Player ? QStringLiteral("Lit while it is your turn.")
+                                           : QStringLiteral("Lit while it is the opponent's turn."));
   RepaintLight();
   TellLight(false);
 }
@@ -123,6 +125,7 @@ void frmGameSide::ShowSetWins(int count) {
     marker->setObjectName(
         (player ? QStringLiteral("imgYourWins%1") : QStringLiteral("imgOppWins%1")).arg(set));
     marker->setAccessibleName(markerBag_.text(u"accessible"));
+    marker->setToolTip(QStringLiteral("A won set; three win the match."));
     marker->setGeometry(QRect(PointOf(grid_.MarkerSpot(seat_, set)), markerSize_));
     marker->show();
     markers_.push_back(marker);

@@ -1,10 +1,14 @@
 // The match screen's two borders: what the engine says is shown, and what the person does is handed back.
 #include <QAccessible>
+#include <QHelpEvent>
 #include <QKeyEvent>
+#include <QToolTip>
 
 #include "match/MatchKeys.h"
+#include "match/MatchTips.h"
 #include "match/frmGame.h"
 #include "platform/QtKeys.h"
+#include "platform/QtText.h"
 
 namespace kv {
 namespace {
@@ -131,6 +135,12 @@ bool frmGame::event(QEvent* event) {
 }
 
 bool frmGame::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::ToolTip) {
+    const QString tip = TipFor(watched);
+    if (tip.isEmpty()) return false;
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, static_cast<QWidget*>(watched));
+    return true;
+  }
   if (event->type() != QEvent::KeyPress) return false;
   const auto& key = static_cast<QKeyEvent&>(*event);
   if (GameKey(key)) return true;
@@ -140,6 +150,28 @@ bool frmGame::eventFilter(QObject* watched, QEvent* event) {
     return true;
   }
   return FocusKey(key);
+}
+
+/// Made when it is asked for: what can be done changes from moment to moment.
+QString frmGame::TipFor(const QObject* watched) const {
+  const MatchShown& shown = engine_.shown();
+  if (watched == cmdTurn_) return WithKey(EndTurnTip(shown), 1, 1);
+  if (watched == cmdStand_) return WithKey(StandTip(shown), 1, 2);
+  if (watched == cmdForfeit_) return ToQString(ForfeitTip(shown)) + QStringLiteral(" (Esc)");
+  for (int slot = 1; slot <= kHandSize; ++slot) {
+    if (watched == &hand_->ctlYourDeck(slot)) return WithKey(HandTip(shown, slot), 2, slot);
+    if (watched == &hand_->imgFlip(slot)) return WithKey(FirstFlipTip(shown), 3, slot);
+    if (watched == &hand_->imgFlip2(slot)) return WithKey(SecondFlipTip(shown), 4, slot);
+  }
+  return {};
+}
+
+/// With the key of this entry of the key table, while the keys are in use.
+QString frmGame::WithKey(const std::string& tip, int row, int column) const {
+  const QString text = ToQString(tip);
+  if (tip.empty() || services_.game.isNetwork() || !services_.player.KeysEn) return text;
+  const QString key = KeyName(keys_.Value(row, column));
+  return key.isEmpty() ? text : text + QStringLiteral(" (") + key + QStringLiteral(")");
 }
 
 bool frmGame::GameKey(const QKeyEvent& event) {
@@ -170,6 +202,19 @@ bool frmGame::GameKey(const QKeyEvent& event) {
   return true;
 }
 
+void frmGame::Hint() {
+  if (services_.game.isNetwork()) return;
+  std::string text = "No hint: it is not your turn.";
+  if (engine_.shown().controls.endTurn) {
+    const WeighedMove best = hint_.Best();
+    text = HintText(best);
+    QWidget* closes = best.move.stands ? cmdStand_ : cmdTurn_;
+    (best.move.slot == 0 ? closes : &hand_->ctlYourDeck(best.move.slot))->setFocus(Qt::TabFocusReason);
+  }
+  services_.announcer.Announce(text, Urgency::Assertive);
+  strip_->Tell(text);
+}
+
 bool frmGame::FocusKey(const QKeyEvent& event) {
   switch (event.key()) {
     case Qt::Key_Right:
@@ -189,6 +234,9 @@ bool frmGame::FocusKey(const QKeyEvent& event) {
       return true;
     case Qt::Key_F3:
       services_.announcer.Announce(HandText(engine_.shown()), Urgency::Assertive);
+      return true;
+    case Qt::Key_F4:
+      if (!event.isAutoRepeat()) Hint();
       return true;
     case Qt::Key_Escape:
       if (!event.isAutoRepeat() && ctlTitlebar_->Enabled()) engine_.person().Forfeit();

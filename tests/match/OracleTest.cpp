@@ -16,7 +16,7 @@ TEST(Oracle, BeatsTheStandardStrategyAndDependsOnItsSeedAlone) {
   plan.checkInvariants = true;
   plan.threads = 1;
   const TournamentResult one = PlayTournament(plan);
-  EXPECT_GT(WilsonInterval(static_cast<double>(one.wins[0]), one.matches).low, 0.5);
+  EXPECT_GT(WilsonInterval(one.wins[0], one.matches).low, 0.5);
   plan.threads = 3;
   const TournamentResult three = PlayTournament(plan);
   EXPECT_EQ(one.wins, three.wins);
