@@ -84,6 +84,7 @@ void frmOptions::BuildKeys() {
   // Made last and never raised, so that it lies over the options but under the window's corners.
   frmeKeys_ = new frmOptionsKeys(this, layout(), services().buttons);
   frmeKeys_->KeyClick = [this](int index) { getKey(index); };
+  frmeKeys_->DefaultsClick = [this] { Announce("All keys are those of a new player."); };
   frmeKeys_->DoneClick = [this] { HideKeyFrame(); };
   frmeKeys_->hide();
 }
