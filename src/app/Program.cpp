@@ -176,7 +176,11 @@ void Program::OpenSplash() {
         Services(),
         frmSplashServices{folders_.player,
                           [this] { return std::make_unique<clsPlayer>(dialogs_, services_.random); },
-                          settings_.lastPlayer()});
+                          settings_.lastPlayer(),
+                          {services_.moveToTrash, HistoryFile::FilesOf,
+                           [this](const std::string& from, const std::string& to) {
+                             if (settings_.lastPlayer() == from) settings_.setLastPlayer(to);
+                           }}});
   });
 }
 

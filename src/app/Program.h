@@ -49,6 +49,8 @@ struct ProgramServices {
   SettingsStore* settings = nullptr;
   /// Tells what happens to who does not see it; null: nobody listens.
   Announcer* announcer = nullptr;
+  /// Moves a file to the desktop's trash; false when it lies where it was. Empty: there is no trash.
+  std::function<bool(const std::string& path)> moveToTrash{};
 };
 
 /// Without a slash at their ends.

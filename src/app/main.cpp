@@ -1,6 +1,7 @@
 // The game. It has no options of its own: everything it remembers is in the player file.
 #include <QApplication>
 #include <QDesktopServices>
+#include <QFile>
 #include <QIcon>
 #include <QUrl>
 #include <algorithm>
@@ -37,6 +38,10 @@ void OpenFolder(const std::string& folder) {
   std::error_code error;
   const std::string absolute = std::filesystem::absolute(folder, error).string();
   QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(absolute)));
+}
+
+bool MoveToTrash(const std::string& path) {
+  return QFile::moveToTrash(QString::fromStdString(path));
 }
 
 /// The icon's sizes that lie with the data and that a window manager shows; a missing one is no fault.
@@ -120,9 +125,19 @@ int main(int argc, char** argv) {
   kv::QtSizeFactor sizes;
   kv::FileSettings settings(kv::SettingsFolder() + "/settings.ini", scheduler);
   kv::QtAnnouncer announcer;
-  kv::Program program(
-      {scheduler, dialogs, random, sound, quit, OpenFolder, {}, {}, &sizes, &settings, &announcer},
-      {dataFolder, working, kv::PortraitFolder(dataFolder, working)});
+  kv::Program program({scheduler,
+                       dialogs,
+                       random,
+                       sound,
+                       quit,
+                       OpenFolder,
+                       {},
+                       {},
+                       &sizes,
+                       &settings,
+                       &announcer,
+                       MoveToTrash},
+                      {dataFolder, working, kv::PortraitFolder(dataFolder, working)});
   if (ends.ended()) return 0;
   ends.Ended = [&program] { program.EndAtOnce(); };
   program.Start();

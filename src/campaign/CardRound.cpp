@@ -98,7 +98,13 @@ void CardRound::Continue() {
   }
 }
 
-void CardRound::EndClick() {
+bool CardRound::EndClick() {
+  if (!AskEndRun(false)) return false;
+  Leave();
+  return true;
+}
+
+void CardRound::Leave() {
   Navigator& navigator = services_.navigator;
   if (services_.game.isNetwork()) {
     // The lobby first: while a save that fails is being told, the peer must find this side there.
@@ -119,6 +125,16 @@ bool CardRound::AskForfeit() {
   return yes && !services_.life.closing();
 }
 
+bool CardRound::AskEndRun(bool inPassing) {
+  const clsGame& game = services_.game;
+  const bool begun = game.Mode == kModeArcade && !game.LastWagers.empty();
+  const bool won = game.CreditsRef->Value > ArcadeStartCredits(services_.player.Arcade_Best);
+  if (!begun || (!won && !inPassing)) return true;
+  const bool yes = services_.dialogs.AskYesNo("Do you wish to end this arcade run?", "Kelm Vantri: End Run",
+                                              DialogIcon::Question);
+  return yes && !services_.life.closing();
+}
+
 bool CardRound::AskDiscard() {
   if (!desk_.Changed()) return true;
   const bool yes = services_.dialogs.AskYesNo("Your changes are not stored. Are you sure you wish to leave?",
@@ -126,12 +142,12 @@ bool CardRound::AskDiscard() {
   return yes && !services_.life.closing();
 }
 
-bool CardRound::TitlebarQuit() {
+bool CardRound::TitlebarQuit(bool inPassing) {
   if (services_.life.closing()) return false;
   if (desk_.LeavesFreely()) {
-    if (!AskDiscard()) return false;
+    if (!AskDiscard() || !AskEndRun(inPassing)) return false;
     view_.PlaySound("click");
-    EndClick();
+    Leave();
     return true;
   }
   if (!AskForfeit()) return false;
@@ -141,7 +157,7 @@ bool CardRound::TitlebarQuit() {
   } else if (services_.game.Mode == kModeArcade) {
     services_.navigator.ReloadCards();
   } else {
-    EndClick();
+    Leave();
   }
   return true;
 }

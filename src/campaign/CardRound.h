@@ -55,11 +55,12 @@ class CardRound final : public WagerView {
   void ctlWager_WagerClick();
   /// Continue: stores the desk, deals, and opens the match.
   void Continue();
-  /// The panel's end button.
-  void EndClick();
-  /// The title bar's close: asks first when a settled stake or a changed deck would be lost. False when the
-  /// person stays.
-  bool TitlebarQuit();
+  /// The panel's end button: asks first when an arcade run has won credits. False when the person stays.
+  bool EndClick();
+  /// The title bar's close: asks first when a settled stake, a changed deck or a run with won credits would
+  /// be lost. A key, which may be pressed `inPassing`, asks before it ends any run that has begun. False when
+  /// the person stays.
+  bool TitlebarQuit(bool inPassing = false);
   /// The window system's close; the same question.
   void LeaveProgram();
 
@@ -75,7 +76,10 @@ class CardRound final : public WagerView {
   void NetWaitTick();
   void Propose(std::int32_t amount);
   void Settle(const WagerPress& press);
+  void Leave();
   [[nodiscard]] bool AskForfeit();
+  /// True when no arcade run is lost that is worth a question, or may be.
+  [[nodiscard]] bool AskEndRun(bool inPassing);
   /// True when nothing unstored would be lost, or may be.
   [[nodiscard]] bool AskDiscard();
 

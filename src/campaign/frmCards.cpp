@@ -30,7 +30,11 @@ frmCards::frmCards(const ScreenServices& services, const frmCardsServices& cards
   BuildButtons();
   ctlWager_ = new ctlWager(this, layout(), services.buttons, round_.entry());
   ctlWager_->WagerClick = [this] { round_.ctlWager_WagerClick(); };
-  ctlWager_->EndClick = [this] { round_.EndClick(); };
+  ctlWager_->EndClick = [this] {
+    if (round_.EndClick() || closing()) return;
+    ctlWager_->getcmdEnd().setEnabled(true);
+    FocusAmount();
+  };
   ctlWager_->CreditsClick = [this] { ctlWager_->ShowFilled(round_.entry().FillFromCredits()); };
   ctlWager_->WagerInfoClick = [this] { ctlWager_->ShowFilled(round_.entry().FillFromInfo()); };
   if (cards_.game.isNetwork()) {
@@ -110,16 +114,10 @@ void frmCards::ShowSettled() {
   if (chat_ == nullptr || !chat_->writing()) setFocus();
 }
 
-bool frmCards::AskEndRun() {
-  const bool yes = services().dialogs.AskYesNo("Do you wish to end this arcade run?", "Kelm Vantri: End Run",
-                                               DialogIcon::Question);
-  return yes && !closing();
-}
-
-void frmCards::TitlebarQuit() {
+void frmCards::TitlebarQuit(bool inPassing) {
   // Pressed twice it would end twice; after a no it can be pressed anew.
   ctlTitlebar_->setEnabled(false);
-  if (!round_.TitlebarQuit() && !closing()) ctlTitlebar_->setEnabled(true);
+  if (!round_.TitlebarQuit(inPassing) && !closing()) ctlTitlebar_->setEnabled(true);
 }
 
 // --- Keys ------------------------------------------------------------------------------------------------
@@ -154,8 +152,7 @@ void frmCards::keyPressEvent(QKeyEvent* event) {
   if (button != nullptr && Usable(*button) && !event->isAutoRepeat()) {
     button->click();  // with the button's own sound
   } else if (key == Qt::Key_Escape && !event->isAutoRepeat()) {
-    // A key pressed in passing must not end a run, and the button that ends it does not ask.
-    if (cards_.game.Mode != kModeArcade || !round_.desk().LeavesFreely() || AskEndRun()) TitlebarQuit();
+    TitlebarQuit(true);
   } else {
     Screen::keyPressEvent(event);
   }

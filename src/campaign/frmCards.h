@@ -68,8 +68,7 @@ class frmCards final : public Screen, private CardRoundView {
   void RemoveCard(int slot);
   void SwitchView(CardView view);
   void Trade();
-  void TitlebarQuit();
-  [[nodiscard]] bool AskEndRun();
+  void TitlebarQuit(bool inPassing = false);
   void FocusAmount();
 
   // What the round says

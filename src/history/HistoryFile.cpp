@@ -111,6 +111,11 @@ std::string HistoryFile::PathOf(const std::string& playerFile) {
   return std::filesystem::path(playerFile).replace_extension(".history.sqlite").string();
 }
 
+std::vector<std::string> HistoryFile::FilesOf(const std::string& playerFile) {
+  const std::string path = PathOf(playerFile);
+  return {path, path + "-wal", path + "-shm"};
+}
+
 // --- Opening ---------------------------------------------------------------------------------------------
 
 bool HistoryFile::Open() {

@@ -27,6 +27,8 @@ class HistoryFile {
 
   /// The history of the player in `playerFile` ("zoe.vnt": "zoe.history.sqlite" beside it).
   [[nodiscard]] static std::string PathOf(const std::string& playerFile);
+  /// The same and its logs, which lie beside it while it is open or after a crash: moved only together.
+  [[nodiscard]] static std::vector<std::string> FilesOf(const std::string& playerFile);
 
   /// Opens the file, or makes it, so that the first match need not. False: it cannot be used. One that is
   /// damaged, or of a newer program, is renamed, and another made in its place.

@@ -82,7 +82,7 @@ struct Look {
                "QScrollBar::add-page,QScrollBar::sub-page{background:transparent}")
         .arg(border, accent);
   }
-  // A mark within the indicator's frame: it is seen by its shape, not only by its colour.
+  // A solid block for on, an empty frame for off: seen by its shape, not only by its colour.
   [[nodiscard]] QString Mark(const QString& type, const QString& round) const {
     return QStringLiteral(
                "%1{color:%2;background:transparent;spacing:6px}"
@@ -93,10 +93,11 @@ struct Look {
                .arg(type, text, accent, disabled, border, round, fill) +
            QStringLiteral(
                "%1::indicator:hover,%1::indicator:focus{border-color:%2}"
-               "%1::indicator:checked{background-color:%2;background-clip:content}"
+               "%1::indicator:checked{background-color:%2;background-clip:border;border-color:%2}"
+               "%1::indicator:checked:hover,%1::indicator:checked:focus{border-color:%4}"
                "%1::indicator:disabled{border-color:%3}"
                "%1::indicator:checked:disabled{background-color:%3}")
-               .arg(type, accent, disabled);
+               .arg(type, accent, disabled, text);
   }
   [[nodiscard]] QString Combo() const {
     return Box(QStringLiteral("QComboBox")) +

@@ -3,6 +3,11 @@
 #include <QPainter>
 
 namespace kv {
+namespace {
+
+constexpr double kUnusable = 0.45;  // how strongly a disabled link is drawn
+
+}  // namespace
 
 TextLink::TextLink(QWidget* parent, const PropertyBag& bag)
     : QAbstractButton(parent),
@@ -29,7 +34,8 @@ QSize TextLink::sizeHint() const {
 void TextLink::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const bool byKeyboard = hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
-  painter.setPen(underMouse() || byKeyboard ? hoverColor_ : color_);
+  if (!isEnabled()) painter.setOpacity(kUnusable);
+  painter.setPen(isEnabled() && (underMouse() || byKeyboard) ? hoverColor_ : color_);
   painter.drawText(rect(), static_cast<int>(alignment_), text());
   if (byKeyboard) painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }

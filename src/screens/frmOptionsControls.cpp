@@ -23,8 +23,8 @@ namespace {
 constexpr int kNameLimit = 20;  // characters
 constexpr int kArcadeUnlockWins = 5;
 
-constexpr QStringView kPanels[] = {u"grpPlayer", u"grpArcade",     u"grpGame", u"grpInterface",
-                                   u"grpSounds", u"grpTurnSystem", u"grpKeys", u"grpSize"};
+constexpr QStringView kOptionPanels[] = {u"grpPlayer", u"grpArcade",     u"grpGame", u"grpInterface",
+                                         u"grpSounds", u"grpTurnSystem", u"grpKeys", u"grpSize"};
 constexpr QStringView kLabels[] = {
     u"lblInfo(0)",    u"lblInfo(1)",  u"lblName",      u"lblPIN",      u"lblSpeed",           u"lblArcadeOpp",
     u"lblArcadeInfo", u"lblArcadeAI", u"lblInterface", u"lblKeysInfo", u"lblEmberSizeWarning"};
@@ -34,7 +34,7 @@ constexpr QStringView kLabels[] = {
 void frmOptions::BuildControls() {
   NewTitlebar()->Quit = [this] { Cancel(); };
   frmeOptions_ = new frmOptionsFrame(this, layout(), u"frmeOptions");
-  for (const QStringView panel : kPanels) frmeOptions_->AddPanel(layout(), panel);
+  for (const QStringView panel : kOptionPanels) frmeOptions_->AddPanel(layout(), panel);
   for (const QStringView label : kLabels) layout().NewLabel(label, frmeOptions_);
   BuildPlayer();
   fields_ = std::make_unique<frmOptionsFields>(*frmeOptions_, layout(), [this] { PlayEffect("check"); });
@@ -84,6 +84,7 @@ void frmOptions::BuildKeys() {
   // Made last and never raised, so that it lies over the options but under the window's corners.
   frmeKeys_ = new frmOptionsKeys(this, layout(), services().buttons);
   frmeKeys_->KeyClick = [this](int index) { getKey(index); };
+  frmeKeys_->DefaultsClick = [this] { Announce("All keys are those of a new player."); };
   frmeKeys_->DoneClick = [this] { HideKeyFrame(); };
   frmeKeys_->hide();
 }

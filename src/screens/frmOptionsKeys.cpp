@@ -2,7 +2,9 @@
 
 #include <QLabel>
 #include <QPainter>
+#include <algorithm>
 
+#include "profile/PlayerFields.h"
 #include "screens/modgetKeyName.h"
 
 namespace kv {
@@ -61,6 +63,14 @@ frmOptionsKeys::frmOptionsKeys(QWidget* parent, Layout& layout, ButtonContext& c
       if (KeyClick) KeyClick(index);
     };
   }
+  lblKeysShared_ = layout.NewLabel(u"lblKeysShared", this);
+  shared_ = layout.bag(u"lblKeysShared").colour(u"color");
+  cmdKeysDefaults_ = NewButton(u"cmdKeysDefaults", layout, context);
+  cmdKeysDefaults_->Click = [this] {
+    BindDefaults();
+    cmdKeysDefaults_->setEnabled(true);
+    if (DefaultsClick) DefaultsClick();
+  };
   cmdKeysDone_ = NewButton(u"cmdKeysDone", layout, context);
   cmdKeysDone_->Click = [this] {
     if (DoneClick) DoneClick();
@@ -77,8 +87,13 @@ ctlButton* frmOptionsKeys::NewButton(QStringView control, Layout& layout, Button
 void frmOptionsKeys::Read(const clsCardArray& keys) {
   for (int index = 0; index < kKeyButtons; ++index) {
     const KeyEntry& entry = kKeyEntries.at(static_cast<std::size_t>(index));
-    Bind(index, keys.Value(entry.row, entry.column));
+    keys_.at(static_cast<std::size_t>(index)).tag = keys.Value(entry.row, entry.column);
   }
+  ShowKeys();
+}
+
+void frmOptionsKeys::BindDefaults() {
+  Read(*PlayerFields().Keys);
 }
 
 void frmOptionsKeys::Write(clsCardArray& keys) const {
@@ -89,13 +104,30 @@ void frmOptionsKeys::Write(clsCardArray& keys) const {
 }
 
 void frmOptionsKeys::Bind(int index, std::int16_t keyCode) {
-  KeyButton& key = keys_.at(static_cast<std::size_t>(index));
-  const QString name = getKeyName(keyCode);
-  key.tag = keyCode;
-  key.button->setCaption(name);
-  key.button->setAccessibleName(key.what + QStringLiteral(": ") +
-                                (name.isEmpty() ? QStringLiteral("no key") : name));
-  key.button->setColor_Style(keyCode <= 0 ? QStringLiteral("Ember") : QStringLiteral("Ember_Menu"));
+  keys_.at(static_cast<std::size_t>(index)).tag = keyCode;
+  ShowKeys();
+}
+
+bool frmOptionsKeys::Shared(int index) const {
+  const std::int16_t key = KeyOf(index);
+  return key > 0 && std::ranges::count(keys_, key, &KeyButton::tag) > 1;
+}
+
+void frmOptionsKeys::ShowKeys() {
+  bool any = false;
+  for (int index = 0; index < kKeyButtons; ++index) {
+    const KeyButton& key = keys_.at(static_cast<std::size_t>(index));
+    const QString name = getKeyName(key.tag);
+    const bool shared = Shared(index);
+    any = any || shared;
+    key.button->setCaption(name);
+    key.button->setAccessibleName(key.what + QStringLiteral(": ") +
+                                  (name.isEmpty() ? QStringLiteral("no key") : name) +
+                                  (shared ? QStringLiteral(", also set for another action") : QString()));
+    key.button->setColor_Style(key.tag <= 0 ? QStringLiteral("Ember") : QStringLiteral("Ember_Menu"));
+  }
+  lblKeysShared_->setVisible(any);
+  update();
 }
 
 void frmOptionsKeys::BeginWaiting(int index) {
@@ -130,10 +162,17 @@ void frmOptionsKeys::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), QColor(0, 0, 0, kScrimAlpha));
   PaintPanel(painter, panel_);
+  const auto frame = [&painter](const QWidget& button) {
+    painter.drawRect(
+        QRectF(button.geometry()).adjusted(-kWaitingGap, -kWaitingGap, kWaitingGap, kWaitingGap));
+  };
+  painter.setPen(QPen(shared_, kWaitingFrame, Qt::DashLine));
+  for (int index = 0; index < kKeyButtons; ++index) {
+    if (Shared(index)) frame(cmdKey(index));
+  }
   if (waiting_ == nullptr) return;
   painter.setPen(QPen(accent_, kWaitingFrame));
-  painter.drawRect(
-      QRectF(waiting_->geometry()).adjusted(-kWaitingGap, -kWaitingGap, kWaitingGap, kWaitingGap));
+  frame(*waiting_);
 }
 
 }  // namespace kv

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
+#include <filesystem>
 #include <optional>
 
 #include "platform/QtKeys.h"
@@ -99,6 +100,7 @@ void frmPortraits::BuildControls() {
   lblOverride_ = layout().NewLabel(u"lblOverride", this);
   lblHint_ = layout().NewLabel(u"lblHint", this);
   lblRefusal_ = layout().NewLabel(u"lblRefusal", this);
+  cmdFolder_ = NewButton(u"cmdFolder", [this] { OpenFolder(); });
   cmdOK_ = NewButton(u"cmdOK", [this] { Confirm(); });
   ctlTitlebar_ = NewTitlebar();
   ctlTitlebar_->Quit = [this] { LeaveProgram(); };
@@ -111,6 +113,7 @@ void frmPortraits::ShowOverride() {
   if (found) imgOverride_->setPicture(own.picture);
   imgOverride_->setVisible(found);
   lblOverride_->setVisible(found);
+  cmdFolder_->setVisible(!found);
   lblHint_->setVisible(!found && own.refusal.empty());
   lblRefusal_->setVisible(!own.refusal.empty());
   lblRefusal_->setText(ToQString(own.refusal));
@@ -175,7 +178,10 @@ void frmPortraits::keyPressEvent(QKeyEvent* event) {
 }
 
 void frmPortraits::OpenFolder() {
+  std::error_code ignored;  // a folder that cannot be made is shown by no browser either
+  std::filesystem::create_directories(picker_.portraitFolder, ignored);
   if (picker_.openFolder) picker_.openFolder(picker_.portraitFolder);
+  if (!closing() && cmdFolder_->isVisible()) cmdFolder_->setEnabled(true);
 }
 
 void frmPortraits::Confirm() {

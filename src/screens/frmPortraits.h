@@ -19,7 +19,7 @@ class PortraitList;
 
 struct frmPortraitsServices {
   std::string portraitFolder;
-  /// Shows a folder in the system's file browser.
+  /// Shows a folder, which exists, in the system's file browser.
   std::function<void(const std::string& folder)> openFolder;
 };
 
@@ -39,6 +39,7 @@ class frmPortraits final : public Screen {
   [[nodiscard]] FadeTarget& imgOverride() { return *imgOverride_; }
   [[nodiscard]] QLabel& lblOverride() { return *lblOverride_; }
   [[nodiscard]] QLabel& lblRefusal() { return *lblRefusal_; }
+  [[nodiscard]] ctlButton& cmdFolder() { return *cmdFolder_; }
   [[nodiscard]] ctlButton& cmdOK() { return *cmdOK_; }
   [[nodiscard]] ctlTitlebar& titlebar() { return *ctlTitlebar_; }
 
@@ -68,7 +69,8 @@ class frmPortraits final : public Screen {
   FadeTarget* imgOverride_ = nullptr;
   QLabel* lblOverride_ = nullptr;
   QLabel* lblHint_ = nullptr;
-  QLabel* lblRefusal_ = nullptr;  // why the own picture is not shown
+  QLabel* lblRefusal_ = nullptr;    // why the own picture is not shown
+  ctlButton* cmdFolder_ = nullptr;  // while there is no own picture to click
   ctlButton* cmdOK_ = nullptr;
   ctlTitlebar* ctlTitlebar_ = nullptr;
 };

@@ -12,6 +12,7 @@
 #include "presentation/WidgetSkin.h"
 #include "screens/PinBox.h"
 #include "screens/TextBoxes.h"
+#include "screens/TextLink.h"
 #include "screens/frmSplashCreation.h"
 #include "screens/frmSplashFrame.h"
 #include "screens/frmSplashTitle.h"
@@ -81,6 +82,7 @@ void frmSplash::BuildList() {
   PlaceBox(layout(), u"txtPIN", *txtPIN_);
   cmdContinue_ = NewButton(u"cmdContinue", [this] { Continue(); });
   cmdCreate_ = NewButton(u"cmdCreate", [this] { Create(); });
+  BuildCare();
 }
 
 void frmSplash::BuildCreation() {
@@ -115,8 +117,9 @@ void frmSplash::BuildFrame() {
 
 void frmSplash::ShowList(bool list) {
   setFocus();  // what has the focus may be hidden now: it must not wander on to whatever comes next
-  for (QWidget* part : std::initializer_list<QWidget*>{lblPlayerHeader_, lstPlayers_, lblPINtitle_, txtPIN_,
-                                                       cmdContinue_, cmdCreate_}) {
+  for (QWidget* part :
+       std::initializer_list<QWidget*>{lblPlayerHeader_, lstPlayers_, lblPINtitle_, txtPIN_, cmdContinue_,
+                                       cmdCreate_, lblOwner_, lnkRename_, lnkDelete_}) {
     part->setVisible(list);
   }
   StepChanged();
@@ -140,7 +143,15 @@ void frmSplash::Closing() {
 
 /// A key that a control takes for itself wakes the title, too.
 bool frmSplash::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::KeyPress) title_->Stir();
+  if (event->type() == QEvent::KeyPress) {
+    title_->Stir();
+    // Before the list takes it for a letter to search for. In the PIN box it is the text's.
+    const auto* pressed = static_cast<QKeyEvent*>(event);
+    if (watched == lstPlayers_ && pressed->key() == Qt::Key_Delete && !pressed->isAutoRepeat()) {
+      Delete();
+      return true;
+    }
+  }
   return Screen::eventFilter(watched, event);
 }
 
@@ -159,6 +170,9 @@ void frmSplash::keyPressEvent(QKeyEvent* event) {
       } else {
         LeaveProgram();
       }
+      return;
+    case Qt::Key_F2:
+      if (!event->isAutoRepeat()) Rename();
       return;
     case Qt::Key_Up:
     case Qt::Key_Down:

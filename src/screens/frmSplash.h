@@ -1,5 +1,6 @@
 // The start screen: the person picks a player file and types its PIN, or creates a new player. It loads and
-// creates player files; it never changes one that exists, and no player is current until a load succeeds.
+// creates player files, renames them and moves them to the trash; it never changes what is in one, and no
+// player is current until a load succeeds.
 #pragma once
 
 #include <memory>
@@ -19,6 +20,7 @@ class QPushButton;
 namespace kv {
 
 class PinBox;
+class TextLink;
 class frmSplashCreation;
 class frmSplashTitle;
 
@@ -64,6 +66,13 @@ class frmSplash final : public Screen {
 
   void Create();
   void BackToList();
+  void BuildCare();
+  void ShowOwner();
+  [[nodiscard]] std::string SelectedName() const;
+  /// The selected player if the person may delete and rename him; tells it and gives nothing if not.
+  [[nodiscard]] std::string NameForCare();
+  void Delete();
+  void Rename();
 
   /// The button of the step that the Enter key performs.
   [[nodiscard]] ctlButton* StepButton() const;
@@ -84,6 +93,9 @@ class frmSplash final : public Screen {
   PinBox* txtPIN_ = nullptr;
   ctlButton* cmdContinue_ = nullptr;
   ctlButton* cmdCreate_ = nullptr;
+  QLabel* lblOwner_ = nullptr;  // the name inside the selected file
+  TextLink* lnkRename_ = nullptr;
+  TextLink* lnkDelete_ = nullptr;
   QPushButton* cmdNew2_ = nullptr;  // hidden: what the Enter key presses
 };
 

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "profile/clsPlayer.h"
+#include "screens/PlayerCare.h"
 
 namespace kv {
 
@@ -13,6 +14,7 @@ struct frmSplashServices {
   std::string workingFolder;  // player files; empty for the current folder
   std::function<std::unique_ptr<clsPlayer>()> newPlayer;
   std::string lastPlayer{};  // whom the list stands at first, if he is there still
+  PlayerCareServices care{};
 };
 
 }  // namespace kv

@@ -5,6 +5,7 @@
 
 #include "screens/PinBox.h"
 #include "screens/PlayerFiles.h"
+#include "screens/TextLink.h"
 #include "screens/frmSplash.h"
 #include "screens/frmSplashCreation.h"
 #include "screens/frmSplashTitle.h"
@@ -28,7 +29,12 @@ void frmSplash::RefreshPlayerList() {
   const bool any = !lstFiles_.files().empty();
   lstPlayers_->setEnabled(any);
   cmdContinue_->setEnabled(any);
-  if (any) lstPlayers_->setCurrentRow(0);
+  for (TextLink* link : {lnkRename_, lnkDelete_}) link->setEnabled(any);
+  if (any) {
+    lstPlayers_->setCurrentRow(0);
+  } else {
+    ShowOwner();
+  }
   StepChanged();
 }
 
@@ -36,6 +42,7 @@ void frmSplash::PlayerSelected() {
   if (lstPlayers_->currentRow() < 0) return;
   txtPIN_->clear();
   cmdContinue_->setEnabled(true);
+  ShowOwner();
   StepChanged();
 }
 
@@ -66,6 +73,7 @@ void frmSplash::EnableList(bool enabled) {
   txtPIN_->setEnabled(enabled);
   cmdContinue_->setEnabled(enabled);
   cmdCreate_->setEnabled(enabled);
+  for (TextLink* link : {lnkRename_, lnkDelete_}) link->setEnabled(enabled);
   StepChanged();
 }
 

@@ -192,6 +192,8 @@ class Walk:
         else:
             self.forfeit(ARCADE_CARDS)
         self.press('End: back without a match')
+        if self.reader.look('Yes'):  # a run that has won credits
+            self.press('Yes')
         self.reader.usable('arcade')
 
     def hear_table(self):

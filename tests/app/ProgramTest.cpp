@@ -138,6 +138,22 @@ TEST_F(ProgramTest, EveryMatchIsKeptAlsoOneThatIsLeft) {
   EXPECT_TRUE(std::ranges::any_of(lines, [](const MatchLine& line) { return line.style == EndStyle::Left; }));
 }
 
+TEST_F(ProgramTest, AHistoryGoesWithItsPlayerToAnotherNameAndToTheTrash) {
+  MakePlayer("ann");
+  folder.Put("ann.history.sqlite", "matches");
+  folder.Put("ann.history.sqlite-wal", "the last of them");
+  Settings(settings).setLastPlayer("ann");
+  Start();
+  dialogs.texts = {"zoe"};
+  Click("lnkRename");
+  EXPECT_EQ(folder.Get("zoe.history.sqlite") + folder.Get("zoe.history.sqlite-wal"),
+            "matchesthe last of them");
+  EXPECT_EQ(Settings(settings).lastPlayer(), "zoe");
+  dialogs.answers = {true};
+  Click("lnkDelete");
+  EXPECT_EQ(trashed, (std::vector<std::string>{"zoe.vnt", "zoe.history.sqlite", "zoe.history.sqlite-wal"}));
+}
+
 TEST_F(ProgramTest, AHistoryThatCannotBeWrittenCostsNoMatchAndIsToldOnce) {
   MakePlayer("ann");
   std::filesystem::create_directory(folder / "ann.history.sqlite");

@@ -249,14 +249,39 @@ TEST_P(CardsScreenTest, WhatTheDeskDoesIsTold) {
   EXPECT_EQ(Label("lblDeck").accessibleName(), QStringLiteral("Cards in the deck: 10 of 10"));
 }
 
-TEST_P(CardsScreenTest, EscapeEndsAnArcadeRunOnlyAfterAQuestion) {
-  Open(kModeArcade);
-  stage.dialogs.answers = {false, true};
-  Key(Qt::Key_Escape);
-  EXPECT_EQ(stage.dialogs.boxes.size(), 1U);
-  EXPECT_TRUE(asked().empty());
-  Key(Qt::Key_Escape);
-  EXPECT_EQ(asked(), std::vector<std::string>{"OpenMenu"});
+TEST_P(CardsScreenTest, AnArcadeRunIsAskedAboutOnceAndOnlyForWhatItHasWon) {
+  const std::pair<const char*, std::function<void()>> ways[] = {
+      {"end", [this] { Click(screen->wager().getcmdEnd()); }},
+      {"title bar", [this] { screen->titlebar().Quit(); }},
+      {"Escape", [this] { Key(Qt::Key_Escape); }},
+  };
+  const std::int32_t start = ArcadeStartCredits(stage.player.Arcade_Best);
+  for (const auto& [name, leave] : ways) {
+    const bool key = std::string_view(name) == "Escape";
+    for (const auto& [played, credits, asks] : {std::tuple{false, start, false},
+                                                {true, start, key},
+                                                {true, start - 1, key},
+                                                {true, start + 1, true}}) {
+      SCOPED_TRACE(std::string(name) + " with " + std::to_string(credits));
+      stage.dialogs.boxes.clear();
+      stage.recorded.calls.clear();
+      game.LastWagers.clear();
+      if (played) game.LastWagers["Orrin Vaal"] = 10;
+      game.CreditsRef->Value = credits;
+      Open(kModeArcade);
+      stage.recorded.calls.clear();
+      if (asks) {
+        stage.dialogs.answers = {false, true};
+        leave();
+        EXPECT_TRUE(asked().empty());
+        EXPECT_TRUE(screen->titlebar().isEnabled() && screen->wager().getcmdEnd().Enabled());
+      }
+      leave();
+      EXPECT_EQ(stage.dialogs.boxes.size(), asks ? 2U : 0U);
+      EXPECT_EQ(asked(), std::vector<std::string>{"OpenMenu"});
+      stage.player.Arcade_Best = 0;
+    }
+  }
 }
 
 TEST_P(CardsScreenTest, TabGoesFromTheCollectionOverItsButtonsToTheDeckAndOn) {

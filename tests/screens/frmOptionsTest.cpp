@@ -289,6 +289,34 @@ TEST(frmOptionsTest, EveryOtherWayOutLeavesTheRecordAsItWas) {
   }
 }
 
+TEST(frmOptionsTest, AKeyOfTwoActionsIsMarkedAndTheDefaultsAreOneButtonAway) {
+  OptionsStage stage;
+  stage.OpenKeys();
+  const auto name = [&stage](const char* key) { return stage.Button(key).accessibleName().toStdString(); };
+  const auto frames = [&stage](const char* key) {
+    const QPoint corner = stage.Find(key).mapTo(stage.screen.get(), QPoint(-3, -3));
+    return stage.screen->grab().toImage().pixelColor(corner) ==
+           stage.Find<QLabel>("lblKeysShared").palette().color(QPalette::WindowText);
+  };
+  EXPECT_FALSE(stage.Find("lblKeysShared").isVisible());
+  stage.Catch("cmdKeysFlip1(0)", Qt::Key_Tab);
+  EXPECT_TRUE(stage.Find("lblKeysShared").isVisible());
+  EXPECT_EQ(name("cmdKeysStand"), "Key for Stand: Tab, also set for another action");
+  EXPECT_EQ(stage.announcer.Last(), "Key for Flip sign, card 1: Tab, also set for another action");
+  EXPECT_TRUE(frames("cmdKeysStand") && frames("cmdKeysFlip1(0)"));
+  EXPECT_FALSE(frames("cmdKeysTurn"));
+  for (const char* key : {"cmdKeysStand", "cmdKeysFlip1(0)"}) stage.Catch(key, Qt::Key_Escape);
+  EXPECT_FALSE(stage.Find("lblKeysShared").isVisible()) << "no key is not a key of both";
+  stage.Click("cmdKeysDefaults");
+  stage.Click("cmdKeysDefaults");
+  EXPECT_EQ(name("cmdKeysStand"), "Key for Stand: Tab");
+  EXPECT_EQ(stage.Button("cmdKeysFlip1(0)").Caption(), QStringLiteral("Q"));
+  stage.Click("cmdKeysDone");
+  EXPECT_EQ(stage.player.Keys->Value(3, 1), 'Q');
+  stage.Click("cmdOK");
+  EXPECT_EQ(stage.player.Keys->Value(1, 2), 9);
+}
+
 TEST(frmOptionsTest, EveryKeyIsCaught) {
   OptionsStage stage;
   stage.OpenKeys();

@@ -157,6 +157,19 @@ TEST_F(frmPortraitsTest, AnOwnPictureIsShownWinsAndOpensItsFolder) {
   EXPECT_EQ(QColor(caller.chosen[0].image()->pixel(0, 0)), QColor(Qt::red));
 }
 
+TEST_F(frmPortraitsTest, AButtonOpensTheFolderAsLongAsThereIsNoOwnPicture) {
+  Open();
+  std::filesystem::remove_all(folder.path());
+  hand->Click(picker->cmdFolder());
+  EXPECT_THAT(opened, ElementsAre(folder.path()));
+  EXPECT_TRUE(std::filesystem::is_directory(folder.path())) << "there is something to open";
+  hand->Click(picker->cmdFolder());
+  EXPECT_EQ(opened.size(), 2U);
+  PutOwnPicture("bob.bmp");
+  Open();
+  EXPECT_TRUE(picker->cmdFolder().isHidden()) << "the picture itself opens it";
+}
+
 TEST_F(frmPortraitsTest, EveryTileSaysWhatIsOnItAndWhetherItIsChosen) {
   Open(12);
   std::set<QString> words;

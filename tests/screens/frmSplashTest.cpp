@@ -26,9 +26,15 @@ class frmSplashTest : public testing::Test {
   void Open() {
     splash = std::make_unique<frmSplash>(
         stage.services(),
-        frmSplashServices{folder.path(),
-                          [this] { return std::make_unique<clsPlayer>(stage.dialogs, stage.padding); },
-                          lastPlayer});
+        frmSplashServices{
+            folder.path(),
+            [this] { return std::make_unique<clsPlayer>(stage.dialogs, stage.padding); },
+            lastPlayer,
+            {[this](const std::string& path) { return Trash(path); },
+             [](const std::string& path) {
+               return std::vector{path + ".log", path + ".more"};
+             },
+             [this](const std::string& from, const std::string& to) { renamed = from + " to " + to; }}});
     splash->Open();
     stage.Settle(2);
     hand = std::make_unique<ScreenHand>(*splash);
@@ -39,6 +45,18 @@ class frmSplashTest : public testing::Test {
     player.PIN = pin;
     player.FileName = folder / file;
     player.WritePlayerFile();
+  }
+  /// A trash that takes nothing of the name `stuck`.
+  bool Trash(const std::string& path) {
+    const std::string name = std::filesystem::path(path).filename();
+    if (name == stuck) return false;
+    std::filesystem::rename(path, trash / name);
+    return true;
+  }
+  void TypePIN(const char* pin) { Find<PinBox>("txtPIN").setPIN(pin); }
+  void PressDelete() {
+    List().setFocus();
+    hand->Key(Qt::Key_Delete);
   }
   template <typename T = QLineEdit>
   T& Find(const char* name) {
@@ -57,6 +75,9 @@ class frmSplashTest : public testing::Test {
   void Enter() { hand->Key(Qt::Key_Return); }
 
   test::TempFolder folder;
+  test::TempFolder trash;
+  std::string stuck;
+  std::string renamed;
   test::ScreenStage stage;
   std::string lastPlayer;
   std::unique_ptr<frmSplash> splash;
@@ -285,6 +306,109 @@ TEST_F(frmSplashTest, ClosedBehindABoxItTouchesNothingMore) {
   stage.Settle();
   EXPECT_EQ(Button("cmdContinue").Caption().toStdString(), "loading...");
   EXPECT_THAT(stage.recorded.calls, IsEmpty());
+}
+
+TEST_F(frmSplashTest, ADeletedPlayerGoesToTheTrashWithWhatLiesBesideHim) {
+  for (const char* name : {"ann.vnt", "bob.vnt", "cleo.vnt"}) PutPlayer(name, "");
+  folder.Put("bob.vnt.log", "matches");
+  const std::string before = folder.Get("bob.vnt");
+  Open();
+  List().setCurrentRow(1);
+  stage.dialogs.answers = {false, true};
+  PressDelete();
+  EXPECT_EQ(folder.Count(), 4) << "a no leaves everything";
+  hand->Click(Find<QAbstractButton>("lnkDelete"));
+  EXPECT_EQ(stage.dialogs.boxes.back().text,
+            "Move the player file \"bob\" and the matches kept with it to the trash?");
+  EXPECT_THAT(Entries(), ElementsAre("ann", "cleo"));
+  EXPECT_EQ(List().currentRow(), 1) << "the hand stays where it was";
+  EXPECT_EQ(trash.Get("bob.vnt"), before);
+  EXPECT_EQ(trash.Get("bob.vnt.log"), "matches");
+  stage.dialogs.answers = {true, true};
+  PressDelete();
+  PressDelete();
+  EXPECT_FALSE(Find<QAbstractButton>("lnkDelete").isEnabled());
+  EXPECT_FALSE(Button("cmdContinue").Enabled());
+  hand->Key(Qt::Key_F2);
+  EXPECT_TRUE(stage.dialogs.answers.empty() && stage.dialogs.texts.empty());
+}
+
+TEST_F(frmSplashTest, ATrashThatRefusesCostsNothingAndIsTold) {
+  PutPlayer("ann.vnt", "");
+  folder.Put("ann.vnt.log", "matches");
+  Open();
+  stuck = "ann.vnt";
+  stage.dialogs.answers = {true, true};
+  PressDelete();
+  EXPECT_EQ(stage.dialogs.boxes.back().text,
+            "The player file \"ann\" could not be moved to the trash. Nothing was deleted.");
+  EXPECT_EQ(folder.Count(), 2);
+  EXPECT_THAT(Entries(), ElementsAre("ann"));
+  stuck = "ann.vnt.log";
+  PressDelete();
+  EXPECT_THAT(stage.dialogs.boxes.back().text, testing::HasSubstr("could not be moved."));
+  EXPECT_EQ(folder.Get("ann.vnt.log"), "matches");
+}
+
+TEST_F(frmSplashTest, APlayerWithAPINIsLeftAloneWithoutIt) {
+  PutPlayer("ann.vnt", "0042");
+  folder.Put("broken.vnt", "no player");
+  Open();
+  for (const char* pin : {"", "42", "1042"}) {
+    TypePIN(pin);
+    PressDelete();
+    hand->Key(Qt::Key_F2);
+  }
+  ASSERT_EQ(stage.dialogs.boxes.size(), 6U);
+  for (const auto& box : stage.dialogs.boxes) EXPECT_EQ(box.text, "Player file corrupted, or incorrect PIN");
+  EXPECT_TRUE(Find("txtPIN").hasFocus());
+  EXPECT_EQ(folder.Count(), 2);
+  hand->Key(Qt::Key_Delete);  // in the box it is the text's
+  EXPECT_EQ(stage.dialogs.boxes.size(), 6U);
+  TypePIN("0042");
+  stage.dialogs.answers = {true, true};
+  PressDelete();
+  PressDelete();
+  EXPECT_EQ(folder.Count(), 0) << "no PIN opens a broken file: it is nobody's secret";
+}
+
+TEST_F(frmSplashTest, ARenamedPlayerKeepsEverythingAndReplacesNothing) {
+  PutPlayer("ann.vnt", "7");
+  PutPlayer("bob.vnt", "");
+  folder.Put("ann.vnt.log", "matches");
+  folder.Put("zoe.vnt.more", "another's");
+  const std::string before = folder.Get("ann.vnt");
+  const std::string other = folder.Get("bob.vnt");
+  Open();
+  TypePIN("7");
+  stage.dialogs.texts = {"BOB", "../ann", "an ann of more than twenty", "zoe", std::nullopt};
+  hand->Key(Qt::Key_F2);
+  EXPECT_EQ(stage.dialogs.boxes.size(), 9U) << "each is refused with a reason, and can be mended";
+  EXPECT_EQ(stage.dialogs.boxes[2].preset, "BOB");
+  EXPECT_EQ(folder.Get("bob.vnt") + folder.Get("zoe.vnt.more"), other + "another's");
+  EXPECT_EQ(folder.Get("ann.vnt"), before);
+  EXPECT_EQ(renamed, "");
+  stage.dialogs.texts = {" cleo "};
+  hand->Click(Find<QAbstractButton>("lnkRename"));
+  EXPECT_THAT(Entries(), ElementsAre("bob", "cleo"));
+  EXPECT_EQ(List().currentRow(), 1);
+  EXPECT_EQ(folder.Get("cleo.vnt"), before);
+  EXPECT_EQ(folder.Get("cleo.vnt.log"), "matches");
+  EXPECT_EQ(folder.Count(), 4);
+  EXPECT_EQ(renamed, "ann to cleo");
+  stage.dialogs.texts = {"Cleo"};
+  hand->Key(Qt::Key_F2);
+  EXPECT_EQ(folder.Get("Cleo.vnt"), before) << "its own name in other letters is not taken";
+}
+
+TEST_F(frmSplashTest, TheNameInsideAFileStandsBesideItUnlessItHasAPIN) {
+  for (const char* name : {"ann.vnt", "bob.vnt"}) PutPlayer(name, name[0] == 'a' ? "" : "1");
+  Open();
+  const auto& owner = Find<QLabel>("lblOwner");
+  EXPECT_EQ(owner.text().toStdString(), "ann.vnt");
+  EXPECT_EQ(owner.accessibleName().toStdString(), "Name of the player: ann.vnt");
+  List().setCurrentRow(1);
+  EXPECT_EQ(owner.text().toStdString(), "");
 }
 
 TEST_F(frmSplashTest, APINBoxTakesDigitsOnlyAndShowsThemForASecond) {

@@ -50,7 +50,11 @@ class ProgramStage {
                         [] { return std::vector<std::string>{"10.0.0.1"}; },
                         sizes,
                         &settings,
-                        &announcer},
+                        &announcer,
+                        [this](const std::string& path) {
+                          trashed.push_back(std::filesystem::path(path).filename().string());
+                          return std::filesystem::remove(path);
+                        }},
         ProgramFolders{programFolder, folder.path(), folder / "Portraits"});
     program->Start();
     Settle(1000);
@@ -110,6 +114,7 @@ class ProgramStage {
   QtSizeFactor* sizes = nullptr;  // one that is set gives what is drawn another size
   RecordingAnnouncer announcer;
   int quits = 0;
+  std::vector<std::string> trashed;  // names of files
   std::unique_ptr<Program> program;
 };
 

@@ -8,6 +8,7 @@
 #include "screens/frmHelp.h"
 #include "screens/frmMenu.h"
 #include "screens/frmOptions.h"
+#include "screens/frmOptionsKeys.h"
 #include "screens/frmPortraits.h"
 #include "screens/frmSplash.h"
 #include "support/ScreenHand.h"
@@ -16,7 +17,8 @@
 namespace kv {
 namespace {
 
-constexpr int kOwnPicture = 41;  // stands for a picture of the player's own
+constexpr std::size_t kLongestName = 20;  // characters
+constexpr int kOwnPicture = 41;           // stands for a picture of the player's own
 
 template <typename Kind>
 Kind& Child(Screen& screen, const char* name) {
@@ -58,7 +60,10 @@ void RenderStart(Gallery& gallery) {
   test::ScreenStage stage(gallery.style(), gallery.scale());
   const auto newPlayer = [&stage] { return std::make_unique<clsPlayer>(stage.dialogs, stage.padding); };
   for (const char* name : {"bram", "mara", "old rival", "teth"}) {
-    static_cast<void>(CreatePlayerFile(*newPlayer(), folder.path(), name));
+    const auto player = newPlayer();
+    player->Name = "Mara of the Long Coast";
+    player->Name.resize(kLongestName);
+    static_cast<void>(CreatePlayerFile(*player, folder.path(), name));
   }
   frmSplash splash(stage.services(), {folder.path(), newPlayer, {}}, gallery.style());
   splash.Open();
@@ -107,6 +112,9 @@ void RenderOptions(Gallery& gallery) {
   gallery.Save(options, "options");
   Click(stage, options, "cmdKeys");
   gallery.Save(options, "options-keys");
+  auto& keys = dynamic_cast<frmOptionsKeys&>(Child<QWidget>(options, "frmeKeys"));
+  keys.Bind(1, keys.KeyOf(2));
+  gallery.Save(options, "options-keys-shared");
 }
 
 void RenderPortraits(Gallery& gallery) {

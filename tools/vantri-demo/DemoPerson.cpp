@@ -1,7 +1,11 @@
 #include "DemoPerson.h"
 
+#include <QAbstractButton>
+#include <QApplication>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QPixmap>
+#include <QTimer>
 
 namespace kv {
 namespace {
@@ -55,6 +59,15 @@ void DemoPerson::Click(const QWidget& widget) {
 
 void DemoPerson::Click(const std::string& name) {
   WaitFor(name + " can be clicked", [&] { return Sees(name) && Find(name).isEnabled(); });
+  Click(Find(name));
+}
+
+void DemoPerson::ClickAndSayYes(const std::string& name) {
+  WaitFor(name + " can be clicked", [&] { return Sees(name) && Find(name).isEnabled(); });
+  QTimer::singleShot(kAfterAct, [] {
+    const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box != nullptr) box->button(QMessageBox::Yes)->click();
+  });
   Click(Find(name));
 }
 

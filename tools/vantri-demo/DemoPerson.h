@@ -46,6 +46,8 @@ class DemoPerson {
   void Click(const QWidget& widget);
   /// Waits until the control can be used, and clicks it.
   void Click(const std::string& name);
+  /// The same; a question that it brings up is answered.
+  void ClickAndSayYes(const std::string& name);
   /// Clicks a line of a list.
   void ClickRow(const std::string& list, int row);
   void Key(Qt::Key key);

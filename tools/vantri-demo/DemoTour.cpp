@@ -110,7 +110,7 @@ void DemoTour::Arcade() {
   person_.TakePicture("arcade-again");
   const int credits = game.CreditsRef->Value;
   DemoPerson::Expect(credits == kStartCredits + 40 || credits == kStartCredits - 40, "the match is booked");
-  person_.Click("cmdEnd");
+  person_.ClickAndSayYes("cmdEnd");  // a run that has won credits asks
   person_.WaitForScreen("frmMenu");
   const int best = person_.program().player()->Arcade_Best;
   DemoPerson::Expect(best == credits, "the run's credits are the high score");
