@@ -9,7 +9,7 @@
 
 #include "ai/TurnMove.h"
 #include "match/MatchPosition.h"
-#include "match/WilsonInterval.h"
+#include "platform/Interval.h"
 #include "platform/Random.h"
 
 namespace kv {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "match/HeadlessMatch.h"
-#include "match/WilsonInterval.h"
+#include "platform/Interval.h"
 
 namespace kv {
 
