@@ -67,7 +67,7 @@ void frmReview::BuildTable() {
   table_ = new frmRecordTable(*tblDecisions_,
                               {QStringLiteral("set"), QStringLiteral("cost"), QStringLiteral("chance, 95 %"),
                                QStringLiteral("decision")},
-                              {36, 126, 124}, [this](int row, int column) { return Cell(row, column); });
+                              {36, 120, 140}, [this](int row, int column) { return Cell(row, column); });
   QObject::connect(tblDecisions_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
                    [this](const QModelIndex& current) {
                      if (current.isValid()) ShowDecision(rows_.at(static_cast<std::size_t>(current.row())));
@@ -91,6 +91,8 @@ QString frmReview::Cell(int row, int column) const {
 void frmReview::Activate() {
   ShowWeighed(false);
   if (decisions_ == 0) {
+    lblDecision_->setText(QString::fromUtf8(kNothingToReview));
+    lblDecision_->setAccessibleName(lblDecision_->text());
     Announce(kNothingToReview);
     return;
   }
@@ -131,7 +133,7 @@ void frmReview::ShowWeighed(bool whole) {
 }
 
 void frmReview::ShowState(bool whole) {
-  std::string state = kNothingToReview;
+  std::string state = "0 decisions";
   if (whole) {
     const auto dear =
         std::count_if(weighed_.begin(), weighed_.end(), [](const auto& each) { return each.Dear(); });

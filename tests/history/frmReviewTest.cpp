@@ -126,8 +126,8 @@ TEST_F(frmReviewTest, EndsWithItsScreen) {
 
 TEST_F(frmReviewTest, SaysThatThereIsNothingToReview) {
   Open(MatchRecord(), kEndless);
-  EXPECT_EQ(Text("lblState"), "This match has no decision of yours that could be weighed.");
-  EXPECT_EQ(stage.announcer.Last(), Text("lblState"));
+  EXPECT_EQ(Text("lblDecision"), "This match has no decision of yours that could be weighed.");
+  EXPECT_EQ(stage.announcer.Last(), Text("lblDecision"));
   EXPECT_EQ(screen->running(), nullptr);
   hand->Click(*screen->findChild<QWidget*>(QStringLiteral("plot")));
   hand->Key(Qt::Key_Home);

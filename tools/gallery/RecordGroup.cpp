@@ -36,7 +36,11 @@ void RenderReview(Gallery& gallery, test::ScreenStage& stage) {
   if (review.running() != nullptr) review.running()->Wait();
   stage.Settle();
   gallery.Save(review, "review");
-  frmReview nothing(stage.services(), {stage.player, MatchRecord()});
+  MatchRecord left;
+  left.mode = "Campaign";
+  left.opponent = "Tamsen";
+  left.time = test::SampleMatch(12).time;
+  frmReview nothing(stage.services(), {stage.player, left});
   nothing.Open();
   stage.Settle();
   gallery.Save(nothing, "review-empty");
