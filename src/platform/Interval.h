@@ -10,7 +10,8 @@ struct Interval {
   double high = 1;
 };
 
-/// Wilson's interval of 95 % for a rate of `hits` in `trials`, as fractions; 0 to 1 without trials.
+/// Wilson's interval of 95 % for a rate of `hits` in `trials`; 0 to 1 without trials. An estimate may count
+/// as a part of a hit.
 [[nodiscard]] Interval WilsonInterval(double hits, std::int64_t trials);
 
 }  // namespace kv
