@@ -10,6 +10,7 @@
 
 #include "app/Stage.h"
 #include "campaign/ctlWager.h"
+#include "history/ctlChancePlot.h"
 #include "history/ctlCreditsPlot.h"
 #include "match/ctlBust.h"
 #include "match/ctlShape.h"
@@ -157,7 +158,7 @@ QAccessibleInterface* NewInterface(const QString&, QObject* object) {
   if (Is<ctlBust>(widget)) return plain(QAccessible::AlertMessage);
   if (Is<ctlWager>(widget)) return plain(QAccessible::Grouping);
   if (Is<PortraitList>(widget)) return plain(QAccessible::List);
-  if (Is<ctlCreditsPlot>(widget)) return plain(QAccessible::Graphic);
+  if (Is<ctlCreditsPlot>(widget) || Is<ctlChancePlot>(widget)) return plain(QAccessible::Graphic);
   if (Is<ctlShape>(widget)) return plain(QAccessible::Graphic);
   return nullptr;
 }

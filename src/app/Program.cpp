@@ -11,6 +11,8 @@
 #include "campaign/frmCards.h"
 #include "campaign/modSaveWin.h"
 #include "history/frmRecord.h"
+#include "history/frmReplay.h"
+#include "history/frmReview.h"
 #include "match/frmGame.h"
 #include "network/frmNetwork.h"
 #include "platform/QtTcpSocket.h"
@@ -208,6 +210,18 @@ void Program::OpenOptions() {
 
 void Program::OpenRecord() {
   Show([this] { return std::make_shared<frmRecord>(Services(), frmRecordServices{*player_, *history_}); });
+}
+
+void Program::OpenReview(std::int64_t match) {
+  const auto record = history_->Load(match);
+  if (!record) return;
+  Show([&] { return std::make_shared<frmReview>(Services(), frmReviewServices{*player_, *record}); });
+}
+
+void Program::OpenReplay(std::int64_t match) {
+  const auto record = history_->Load(match);
+  if (!record) return;
+  Show([&] { return std::make_shared<frmReplay>(Services(), frmReplayServices{*player_, *record}); });
 }
 
 void Program::OpenCampaign() {

@@ -76,6 +76,8 @@ class Program final : public Navigator {
   void OpenMenu() override;
   void OpenOptions() override;
   void OpenRecord() override;
+  void OpenReview(std::int64_t match) override;
+  void OpenReplay(std::int64_t match) override;
   void OpenCampaign() override;
   void OpenCards() override;
   void OpenLobby() override;

@@ -37,6 +37,8 @@ void frmRecord::BuildControls() {
   cmbMode_ = NewFilter(u"cmbMode");
   cmbOpponent_ = NewFilter(u"cmbOpponent");
   cmbOutcome_ = NewFilter(u"cmbOutcome");
+  ofOne_.push_back(NewAction(u"cmdReview", &frmRecord::OpenReview));
+  ofOne_.push_back(NewAction(u"cmdReplay", &frmRecord::OpenReplay));
   tblMatches_ = NewTable(u"tblMatches");
   lblTotals_ = layout().NewLabel(u"lblTotals", this);
   plot_ = new ctlCreditsPlot(this, layout().bag(u"plot"));
@@ -44,7 +46,7 @@ void frmRecord::BuildControls() {
   plot_->Told = [this](const std::string& sentence) { Announce(sentence); };
   cmbRates_ = NewFilter(u"cmbRates");
   tblRates_ = NewTable(u"tblRates");
-  cmdExport_ = NewAction(u"cmdExport", &frmRecord::Export);
+  ofOne_.push_back(NewAction(u"cmdExport", &frmRecord::Export));
   NewAction(u"cmdImport", &frmRecord::Import);
   NewAction(u"cmdList", &frmRecord::SaveList);
   NewAction(u"cmdPlot", &frmRecord::SavePlot);
@@ -83,7 +85,7 @@ ctlButton* frmRecord::NewAction(QStringView control, void (frmRecord::*act)()) {
     (this->*act)();
     if (self.isNull() || closing()) return;
     if (auto* button = dynamic_cast<ctlButton*>(findChild<QWidget*>(name))) button->setEnabled(true);
-    cmdExport_->setEnabled(!shown_.empty());
+    EnableActions();
   });
 }
 

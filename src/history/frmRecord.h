@@ -57,6 +57,11 @@ class frmRecord final : public Screen {
   void ShowRates();
   /// A sentence that stays on the screen, and is told.
   void Tell(const std::string& sentence);
+  /// Asks for a screen about the chosen match, if it can be read.
+  void OpenChosen(void (Navigator::*open)(std::int64_t match));
+  void OpenReview() { OpenChosen(&Navigator::OpenReview); }
+  void OpenReplay() { OpenChosen(&Navigator::OpenReplay); }
+  void EnableActions();
   void SaveList();
   void SavePlot();
   void Export();
@@ -79,7 +84,7 @@ class frmRecord final : public Screen {
   ctlCreditsPlot* plot_ = nullptr;
   QLabel* lblTotals_ = nullptr;
   QLabel* lblNotice_ = nullptr;
-  ctlButton* cmdExport_ = nullptr;
+  std::vector<ctlButton*> ofOne_;  // what is done with the chosen match
   ctlTitlebar* ctlTitlebar_ = nullptr;
 };
 

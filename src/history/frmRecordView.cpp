@@ -79,7 +79,7 @@ void frmRecord::ShowMatches() {
   shown_ = Filtered(all_, filter);
   matches_->setRows(static_cast<int>(shown_.size()));
   if (!shown_.empty()) tblMatches_->selectRow(0);
-  cmdExport_->setEnabled(!shown_.empty());
+  EnableActions();
   lblTotals_->setText(QString::fromStdString(TotalsText(TotalsOf(shown_))));
   lblTotals_->setAccessibleName(lblTotals_->text());
   plot_->setPoints(CreditsOverTime(shown_));
@@ -95,6 +95,21 @@ void frmRecord::Tell(const std::string& sentence) {
   lblNotice_->setText(QString::fromStdString(sentence));
   lblNotice_->setAccessibleName(lblNotice_->text());
   Announce(sentence);
+}
+
+void frmRecord::EnableActions() {
+  for (ctlButton* button : ofOne_) button->setEnabled(!shown_.empty());
+}
+
+void frmRecord::OpenChosen(void (Navigator::*open)(std::int64_t match)) {
+  const int row = tblMatches_->currentIndex().row();
+  if (row < 0 || row >= static_cast<int>(shown_.size())) return;
+  const std::int64_t match = shown_.at(static_cast<std::size_t>(row)).id;
+  if (record_.history.Load(match)) {
+    (services().navigator.*open)(match);
+  } else {
+    Tell("This match cannot be read.");
+  }
 }
 
 void frmRecord::SaveList() {

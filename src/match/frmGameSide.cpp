@@ -119,6 +119,10 @@ void frmGameSide::ShowTotal(int total) {
 
 void frmGameSide::ShowSetWins(int count) {
   const bool player = seat_ == Seat::Player;
+  for (; SetWinsShown() > count; markers_.pop_back()) {
+    markers_.back()->hide();
+    markers_.back()->deleteLater();
+  }
   while (SetWinsShown() < count) {
     const int set = SetWinsShown() + 1;
     auto* marker = new ctlShape(&container_, ctlShape::Kind::Marker, markerBag_.colour(u"color"));

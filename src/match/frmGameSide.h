@@ -26,7 +26,7 @@ class frmGameSide {
   void ClearTable();
   void setTableEnabled(bool enabled);
   void ShowTotal(int total);
-  /// Shows the first `count` won-set markers.
+  /// Shows the first `count` won-set markers, and no others.
   void ShowSetWins(int count);
   /// Shows or hides a card of the opponent's hand.
   void ShowHandCard(int slot, bool shown);

@@ -2,6 +2,7 @@
 // asked for and closes the one that asked. A screen must do nothing of its own after such a call.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string_view>
 
@@ -22,6 +23,10 @@ class Navigator {
   virtual void OpenOptions() = 0;
   /// The matches that the current player has played.
   virtual void OpenRecord() {}
+  /// One of them, by its id in the history: its decisions weighed.
+  virtual void OpenReview(std::int64_t /*match*/) {}
+  /// And played again.
+  virtual void OpenReplay(std::int64_t /*match*/) {}
   virtual void OpenCampaign() = 0;
   virtual void OpenCards() = 0;
   virtual void OpenLobby() = 0;

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "support/ProgramStage.h"
+#include "support/SampleMatch.h"
 
 namespace kv {
 namespace {
@@ -28,6 +29,12 @@ void OpenCards(ProgramStage& stage) {
   Set(stage, "txtWager", "10");
   stage.Click("cmdWager");
 }
+/// The screen that this button of the record screen opens for a match of the past.
+void OpenPast(ProgramStage& stage, const char* button) {
+  HistoryFile(HistoryFile::PathOf(stage.folder / "ann.vnt")).Store(test::SampleMatch(3));
+  stage.Click("cmdRecord");
+  stage.Click(button);
+}
 
 const Walk kWalks[] = {
     {"frmSplash",
@@ -50,6 +57,13 @@ const Walk kWalks[] = {
      {}},
     {"frmRecord", [](ProgramStage& stage) { stage.Click("cmdRecord"); },
      [](ProgramStage& stage) { stage.Click("cmdImport"); }},
+    {"frmReview", [](ProgramStage& stage) { OpenPast(stage, "cmdReview"); }, {}},
+    {"frmReplay",
+     [](ProgramStage& stage) {
+       OpenPast(stage, "cmdReplay");
+       stage.Click("cmdRun");
+     },
+     {}},
     {"frmCampaign", [](ProgramStage& stage) { stage.Click("cmdCampaign"); }, {}},
     {"frmCards", OpenCards, CloseByTitlebar},
     {"frmGame",

@@ -123,6 +123,19 @@ TEST_F(frmRecordTest, IsReachedByKeysAlone) {
   EXPECT_EQ(stage.recorded.calls, std::vector<std::string>{"OpenMenu"});
 }
 
+TEST_F(frmRecordTest, LeadsToReviewAndReplayOfTheChosenMatch) {
+  Store(1, "Tamsen", true, 120);
+  Store(2, "Brummox", false, 80);
+  Open();
+  Control<QTableView>("tblMatches").selectRow(1);
+  Click("cmdReview");
+  Click("cmdReplay");
+  EXPECT_EQ(stage.recorded.calls, (std::vector<std::string>{"OpenReview 1", "OpenReplay 1"}));
+  Control<QComboBox>("cmbMode").setCurrentIndex(1);
+  Control<QComboBox>("cmbOutcome").setCurrentIndex(3);
+  EXPECT_FALSE(Control<QWidget>("cmdReview").isEnabled()) << "nothing is chosen";
+}
+
 TEST_F(frmRecordTest, SaysWhatBecameOfADamagedHistory) {
   folder.Put("zoe.history.sqlite", "whatever it holds");
   Open();

@@ -20,6 +20,8 @@ class RecordingNavigator : public Navigator {
   void OpenMenu() override { calls.emplace_back("OpenMenu"); }
   void OpenOptions() override { calls.emplace_back("OpenOptions"); }
   void OpenRecord() override { calls.emplace_back("OpenRecord"); }
+  void OpenReview(std::int64_t match) override { calls.emplace_back("OpenReview " + std::to_string(match)); }
+  void OpenReplay(std::int64_t match) override { calls.emplace_back("OpenReplay " + std::to_string(match)); }
   void OpenCampaign() override { calls.emplace_back("OpenCampaign"); }
   void OpenCards() override { calls.emplace_back("OpenCards"); }
   void OpenLobby() override { calls.emplace_back("OpenLobby"); }

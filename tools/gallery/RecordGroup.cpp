@@ -4,6 +4,8 @@
 
 #include "Gallery.h"
 #include "history/frmRecord.h"
+#include "history/frmReplay.h"
+#include "history/frmReview.h"
 #include "support/SampleMatch.h"
 #include "support/TempFolder.h"
 
@@ -28,6 +30,38 @@ void Fill(HistoryFile& history) {
   }
 }
 
+void RenderReview(Gallery& gallery, test::ScreenStage& stage) {
+  frmReview review(stage.services(), {stage.player, test::SampleMatch(12, "Tamsen"), 1000});
+  review.Open();
+  if (review.running() != nullptr) review.running()->Wait();
+  stage.Settle();
+  gallery.Save(review, "review");
+  MatchRecord left;
+  left.mode = "Campaign";
+  left.opponent = "Tamsen";
+  left.time = test::SampleMatch(12).time;
+  frmReview nothing(stage.services(), {stage.player, left});
+  nothing.Open();
+  stage.Settle();
+  gallery.Save(nothing, "review-empty");
+}
+
+void RenderReplay(Gallery& gallery, test::ScreenStage& stage) {
+  const MatchRecord record = test::SampleMatch(12, "Tamsen");
+  frmReplay replay(stage.services(), {stage.player, record});
+  replay.Open();
+  const auto click = [&](const char* name, int times) {
+    for (auto* button = static_cast<ctlButton*>(replay.findChild<QWidget*>(QString::fromUtf8(name)));
+         times > 0; --times) {
+      button->Click();
+    }
+  };
+  click("cmdNextSet", 3);
+  click("cmdForward", 8);
+  stage.Settle(50);
+  gallery.Save(replay, "replay");
+}
+
 }  // namespace
 
 void RenderRecord(Gallery& gallery) {
@@ -48,6 +82,8 @@ void RenderRecord(Gallery& gallery) {
   record.findChild<QComboBox*>(QStringLiteral("cmbRates"))->setCurrentIndex(3);
   stage.Settle();
   gallery.Save(record, "record-cards");
+  RenderReview(gallery, stage);
+  RenderReplay(gallery, stage);
 }
 
 }  // namespace kv
