@@ -17,10 +17,8 @@ constexpr std::uint64_t kSeed = 20;
 MatchHint::MatchHint(const clsGame& game, int turnMode) {
   std::array<std::optional<clsDeckArray>, 2> decks;
   if (game.DeckRef != nullptr) decks[0] = *game.DeckRef;
-  if (game.Mode == kModeCampaign) {
-    const clsDeckArray deck = OpponentDeck(game.OppName);
-    if (deck.Value(1).text() != "0") decks[1] = deck;
-  }
+  const clsDeckArray deck = OpponentDeck(game.OppName);
+  if (deck.Value(1).text() != "0") decks[1] = deck;
   follower_.Tell(decks, turnMode);
 }
 

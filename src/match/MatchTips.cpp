@@ -35,8 +35,8 @@ std::string HandTip(const MatchShown& shown, int slot) {
   const CardCode& card = shown.HandCard(Seat::Player, slot);
   if (IsEmptySlot(card)) return {};
   const std::string meaning = CardMeaning(card);
-  if (shown.controls.hand) return meaning + " Double-click it, or drag it onto the table.";
-  return meaning + " " + (shown.controls.endTurn ? "One side card a turn." : WhyNot(shown));
+  if (shown.controls.hand) return meaning + "\nDouble-click it, or drag it onto the table.";
+  return meaning + "\n" + (shown.controls.endTurn ? "One side card a turn." : WhyNot(shown));
 }
 
 std::string FirstFlipTip(const MatchShown& shown) {

@@ -13,11 +13,11 @@ TEST(MatchTips, SayWhyNothingCanBeDone) {
   EXPECT_EQ(StandTip(shown), "It is not your turn.");
   table.Start();
   EXPECT_EQ(StandTip(shown), "Keeps your total of 7 and draws no more in this set.");
-  EXPECT_EQ(HandTip(shown, 1), "Adds 3 to your total. Double-click it, or drag it onto the table.");
+  EXPECT_EQ(HandTip(shown, 1), "Adds 3 to your total.\nDouble-click it, or drag it onto the table.");
   table.Play(1);
   EXPECT_EQ(HandTip(shown, 1), "");
   EXPECT_EQ(HandTip(shown, 2),
-            "Takes 2 from your total: turn the sign with the button below it. One side card a turn.");
+            "Takes 2 from your total: turn the sign with the button below it.\nOne side card a turn.");
   table.strategy.turns = {test::StandOpponent};
   table.Stand();
   EXPECT_EQ(EndTurnTip(shown), shown.banner.visible ? "The set is over: continue first."
