@@ -54,6 +54,10 @@ QIcon ProgramIcon(const std::string& dataFolder) {
   return icon;
 }
 
+void HoldStill() {
+  QApplication::setStyle(new kv::QtStillStyle);
+}  // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): the toolkit owns it
+
 constexpr std::string_view kHelp =
     "usage: vantri [--help | --version]\n"
     "Opens Kelm Vantri, a card game. Players, options and decks are kept in ~/.local/share/kelm-vantri/\n"
@@ -106,7 +110,7 @@ int main(int argc, char** argv) {
   QApplication::setWindowIcon(ProgramIcon(dataFolder));
   QApplication::setQuitOnLastWindowClosed(false);
   const std::filesystem::path configFolder = std::filesystem::path(kv::SettingsFolder()).parent_path();
-  if (kv::DesktopWishesStillness(configFolder.string())) QApplication::setStyle(new kv::QtStillStyle);
+  if (kv::DesktopWishesStillness(configFolder.string())) HoldStill();
   kv::InstallAccessibleRoles();
   kv::QtSignals ends;
   ends.Ended = [] { QCoreApplication::exit(0); };  // of a box about a missing file

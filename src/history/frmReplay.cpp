@@ -77,7 +77,7 @@ ctlButton* frmReplay::NewStepButton(QStringView control, void (frmReplay::*act)(
 }
 
 void frmReplay::Activate() {
-  Show();
+  ShowStep();
 }
 
 void frmReplay::Closing() {
@@ -87,7 +87,7 @@ void frmReplay::Closing() {
 void frmReplay::Go(void (ReplayCourse::*way)()) {
   StopRunning();
   if (!course_.empty()) (course_.*way)();
-  Show();
+  ShowStep();
 }
 
 void frmReplay::Run() {
@@ -98,7 +98,7 @@ void frmReplay::Run() {
     tmrRun_->setEnabled(true);
     cmdRun_->setCaption(QStringLiteral("stop"));
   }
-  Show();
+  ShowStep();
 }
 
 void frmReplay::StopRunning() {
@@ -109,10 +109,10 @@ void frmReplay::StopRunning() {
 void frmReplay::RunTick() {
   course_.Forth();
   if (course_.AtEnd()) StopRunning();
-  Show();
+  ShowStep();
 }
 
-void frmReplay::Show() {
+void frmReplay::ShowStep() {
   ShowButtons();
   if (course_.empty()) {
     lblStrip_->setText(QString::fromUtf8(kNothingToPlay));

@@ -51,7 +51,7 @@ class frmReplay final : public Screen {
   void Run();
   void StopRunning();
   void RunTick();
-  void Show();
+  void ShowStep();
   void ShowSide(Seat seat);
   void ShowHands();
   void ShowButtons();

@@ -1,5 +1,6 @@
 #include "match/MatchTips.h"
 
+#include "ai/HandSearch.h"
 #include "cards/CardMeaning.h"
 
 namespace kv {
