@@ -23,10 +23,10 @@ function(kv_precompiled target kind)
   endif()
 endfunction()
 
-# kv_join_sources(target): compiles several sources as one in the builds that only test, where loading the headers is
-# most of what a source costs. What two sources of a folder hide in unnamed namespaces is therefore named differently.
+# kv_join_sources(target): compiles five sources as one if KV_JOIN is set, as in the builds that only test, where loading
+# the headers is most of what a source costs. What two sources of a folder hide in unnamed namespaces is therefore named differently.
 function(kv_join_sources target)
-  if(KV_SANITIZE OR KV_FUZZ)
+  if(KV_JOIN)
     set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 5)
   endif()
 endfunction()

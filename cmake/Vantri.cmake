@@ -12,11 +12,15 @@ if(KV_WERROR)
 endif()
 # gcc 12 warns wrongly of overlapping copies in std::string's operator+ (GCC bug 105651).
 target_compile_options(kv_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
-# A target with KV_UNCHECKED is compiled as it is: what paints the pictures is not what the sanitizers look at.
+# A target with KV_UNCHECKED is compiled as it is: what paints the pictures is not what the sanitizers look at. One with
+# KV_MEMORY_ONLY goes without the checks for undefined behaviour: in the tests' own code they double what it costs to
+# compile, and the code that is to be checked is in the libraries.
 set(kv_checked $<NOT:$<BOOL:$<TARGET_PROPERTY:KV_UNCHECKED>>>)
+set(kv_checked_fully $<AND:${kv_checked},$<NOT:$<BOOL:$<TARGET_PROPERTY:KV_MEMORY_ONLY>>>>)
 if(KV_SANITIZE)
   target_compile_options(kv_options INTERFACE
-    "$<${kv_checked}:-fsanitize=address,undefined;-fno-sanitize-recover=all;-fno-omit-frame-pointer>")
+    "$<${kv_checked}:-fsanitize=address;-fno-sanitize-recover=all;-fno-omit-frame-pointer>"
+    "$<${kv_checked_fully}:-fsanitize=undefined>")
   target_link_options(kv_options INTERFACE -fsanitize=address,undefined)
 endif()
 if(KV_FUZZ)
@@ -124,9 +128,12 @@ function(kv_embed_layouts)
   target_link_libraries(kv_layouts PUBLIC kv_options)
 endfunction()
 
-# What the tests' own code is compiled with. Under the sanitizers, optimizing it costs more time than it saves, and
-# checking it for undefined behaviour nearly doubles it: the code that is to be checked is in the libraries.
-set(kv_test_flags "$<$<BOOL:${KV_SANITIZE}>:-O0;-fno-sanitize=undefined>")
+# kv_test_code(target): code that tests or shows the game. Under the sanitizers, optimizing it costs more time than it
+# saves.
+function(kv_test_code target)
+  set_target_properties(${target} PROPERTIES KV_MEMORY_ONLY ON)
+  target_compile_options(${target} PRIVATE $<$<BOOL:${KV_SANITIZE}>:-O0>)
+endfunction()
 
 add_custom_target(tests)  # all test programs, with what they use
 
@@ -137,7 +144,7 @@ function(kv_add_test folder)
     add_executable(test-${folder} ${sources})
     target_include_directories(test-${folder} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
     target_link_libraries(test-${folder} PRIVATE ${ARGN} GTest::gmock)
-    target_compile_options(test-${folder} PRIVATE ${kv_test_flags})
+    kv_test_code(test-${folder})
     kv_precompiled(test-${folder} test)
     add_dependencies(tests test-${folder})
     kv_join_sources(test-${folder})
