@@ -12,7 +12,7 @@ import tempfile
 import time
 
 WIDTH, HEIGHT = 1280, 1024
-STRIP = 24  # rows of pixels that a look takes
+STRIP = 2  # rows of pixels that a look takes: it must not keep a core from what it looks at
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 
 

@@ -106,6 +106,9 @@ function(kv_link_floors)
     # Only the sound library's headers: it is loaded itself by name after the first window stands.
     pkg_check_modules(SDL2 REQUIRED IMPORTED_TARGET sdl2)
     target_include_directories(kv_platform_ui SYSTEM PRIVATE ${SDL2_INCLUDE_DIRS})
+    # The toolkit has it open already; it is told to read its configuration beforehand.
+    pkg_check_modules(FONTCONFIG REQUIRED IMPORTED_TARGET fontconfig)
+    target_link_libraries(kv_platform_ui PRIVATE PkgConfig::FONTCONFIG)
     # Without its headers for the toolkit's own use the size of everything is fixed.
     target_link_libraries(kv_platform_ui PRIVATE $<TARGET_NAME_IF_EXISTS:Qt6::GuiPrivate>)
     kv_floor_uses(kv_platform_ui ${CMAKE_DL_LIBS} Qt6::Network)

@@ -15,6 +15,7 @@
 #include "history/frmReview.h"
 #include "match/frmGame.h"
 #include "network/frmNetwork.h"
+#include "platform/Memory.h"
 #include "platform/QtTcpSocket.h"
 #include "presentation/LayoutText.h"
 #include "presentation/PictureSizes.h"
@@ -66,6 +67,7 @@ Program::Program(const ProgramServices& services, const ProgramFolders& folders)
                                               tmrSweep_->setEnabled(false);
                                               // A screen goes before the records it stands on.
                                               while (!retired_.empty()) retired_.pop_front();
+                                              ReturnCleanPages();
                                             })),
       tmrSounds_(services.scheduler.NewTimer(kSoundsDelay, [this] { LoadSounds(); })) {
   BuildStage();
@@ -104,7 +106,11 @@ Program::~Program() {
 
 void Program::Start() {
   // A missing picture stays empty: without its data file the game is plain, but it can be played.
-  static_cast<void>(pictures_.OpenDataFile(folders_.program + "/" + kDataFileName));
+  if (services_.ahead == nullptr) {
+    static_cast<void>(pictures_.OpenDataFile(folders_.program + "/" + kDataFileName));
+  } else {
+    static_cast<void>(pictures_.OpenDataFile(*services_.ahead));
+  }
   globals_.look.faces.LoadCardPictures([this](int number) { return pictures_.getPic(number); });
   OpenSplash();
   tmrSounds_->setEnabled(true);
@@ -113,6 +119,7 @@ void Program::Start() {
 void Program::LoadSounds() {
   tmrSounds_->setEnabled(false);
   sounds_.InitEffects(folders_.program);
+  ReturnCleanPages();
 }
 
 ScreenServices Program::Services() {

@@ -51,6 +51,8 @@ struct ProgramServices {
   Announcer* announcer = nullptr;
   /// Moves a file to the desktop's trash; false when it lies where it was. Empty: there is no trash.
   std::function<bool(const std::string& path)> moveToTrash{};
+  /// Opens the data file, and decodes the pictures of the start screen; null: the program does.
+  PicturesAhead* ahead = nullptr;
 };
 
 /// Without a slash at their ends.

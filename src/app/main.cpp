@@ -3,6 +3,7 @@
 #include <QDesktopServices>
 #include <QFile>
 #include <QIcon>
+#include <QTimer>
 #include <QUrl>
 #include <algorithm>
 #include <array>
@@ -10,6 +11,8 @@
 #include <iostream>
 #include <span>
 #include <string_view>
+#include <thread>
+#include <vector>
 
 #include "app/AccessibleRoles.h"
 #include "app/Program.h"
@@ -19,6 +22,7 @@
 #include "platform/Folders.h"
 #include "platform/Memory.h"
 #include "platform/QtAnnouncer.h"
+#include "platform/QtCaretRest.h"
 #include "platform/QtDialogs.h"
 #include "platform/QtFontSystem.h"
 #include "platform/QtScheduler.h"
@@ -31,6 +35,7 @@
 #include "platform/StillDesktop.h"
 #include "presentation/Fonts.h"
 #include "presentation/PictureSizes.h"
+#include "presentation/PicturesAhead.h"
 
 namespace {
 
@@ -43,6 +48,8 @@ void OpenFolder(const std::string& folder) {
 bool MoveToTrash(const std::string& path) {
   return QFile::moveToTrash(QString::fromStdString(path));
 }
+
+constexpr int kIconDelay = 100;  // milliseconds
 
 /// The icon's sizes that lie with the data and that a window manager shows; a missing one is no fault.
 QIcon ProgramIcon(const std::string& dataFolder) {
@@ -62,6 +69,10 @@ constexpr std::string_view kHelp =
     "usage: vantri [--help | --version]\n"
     "Opens Kelm Vantri, a card game. Players, options and decks are kept in ~/.local/share/kelm-vantri/\n"
     "(with XDG_DATA_HOME set: $XDG_DATA_HOME/kelm-vantri/).\n";
+
+/// What the start screen is painted with, in the order in which it asks: the scene, the title off and on, its
+/// line.
+const std::vector<int> kStartPictures = {400, 401, 402, 403, 404};
 
 /// What a session manager or a developer tells the toolkit; each has a value behind it.
 constexpr std::array<std::string_view, 2> kToolkitOptions = {"-platform", "-session"};
@@ -102,12 +113,14 @@ int main(int argc, char** argv) {
   }
 
   kv::QtThrift thrift;
+  // On the other cores, while the toolkit starts.
+  std::jthread fonts(kv::QtFontSystem::ReadSystemFonts);
+  kv::PicturesAhead ahead(dataFolder + "/" + kv::kDataFileName, kStartPictures);
   QApplication application(argc, argv);
   // No display name: the toolkit would add it to every title.
   QApplication::setApplicationName(QStringLiteral("kelm-vantri"));
   // Flatpak lists the game under a name of its own.
   QGuiApplication::setDesktopFileName(qEnvironmentVariable("FLATPAK_ID", QStringLiteral("kelm-vantri")));
-  QApplication::setWindowIcon(ProgramIcon(dataFolder));
   QApplication::setQuitOnLastWindowClosed(false);
   const std::filesystem::path configFolder = std::filesystem::path(kv::SettingsFolder()).parent_path();
   if (kv::DesktopWishesStillness(configFolder.string())) HoldStill();
@@ -116,13 +129,14 @@ int main(int argc, char** argv) {
   ends.Ended = [] { QCoreApplication::exit(0); };  // of a box about a missing file
 
   kv::QtScheduler scheduler;
+  const kv::QtCaretRest caret(scheduler);
   kv::QtDialogs dialogs(scheduler);
   if (!kv::CheckProgramFiles(dataFolder, working, dialogs)) return 1;
   kv::SystemRandom random;
   kv::SdlSoundDevice sound(scheduler);
-  kv::QtFontSystem fonts;
+  kv::QtFontSystem fontSystem;
   for (const kv::DisplayFont& font : kv::kDisplayFonts) {
-    kv::InstallFont(dataFolder + "/" + font.file, font.name, false, fonts, dialogs);
+    kv::InstallFont(dataFolder + "/" + font.file, font.name, false, fontSystem, dialogs);
   }
   // A plain end of the event loop: asking every window first whether it may be closed would let one refuse.
   const auto quit = [] { QCoreApplication::exit(0); };
@@ -140,11 +154,15 @@ int main(int argc, char** argv) {
                        &sizes,
                        &settings,
                        &announcer,
-                       MoveToTrash},
+                       MoveToTrash,
+                       &ahead},
                       {dataFolder, working, kv::PortraitFolder(dataFolder, working)});
   if (ends.ended()) return 0;
   ends.Ended = [&program] { program.EndAtOnce(); };
   program.Start();
+  // Window managers take it as well when the window stands, and its files would hold that up.
+  QTimer::singleShot(kIconDelay, [&] { QApplication::setWindowIcon(ProgramIcon(dataFolder)); });
+  fonts.join();  // it reads the environment
   thrift.Restore();
   instance.Listen([&program] { program.stage().Raise(); });
   return QApplication::exec();

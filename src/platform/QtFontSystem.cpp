@@ -1,5 +1,7 @@
 #include "platform/QtFontSystem.h"
 
+#include <fontconfig/fontconfig.h>
+
 #include <QFont>
 #include <QFontDatabase>
 #include <QStringList>
@@ -19,18 +21,22 @@ std::string FileName(const std::string& path) {
   return slash == std::string::npos ? path : path.substr(slash + 1);
 }
 
-std::string Key(const std::string& fileName) {
+std::string FileKey(const std::string& fileName) {
   return QString::fromStdString(fileName).toLower().toStdString();
 }
 
 }  // namespace
+
+void QtFontSystem::ReadSystemFonts() {
+  static_cast<void>(::FcInit());
+}
 
 std::optional<std::string> QtFontSystem::FontsFolder() {
   return kPrivateFolder;
 }
 
 bool QtFontSystem::IsInstalled(const std::string&, const std::string& fileName) {
-  return families_.contains(Key(fileName));
+  return families_.contains(FileKey(fileName));
 }
 
 void QtFontSystem::CopyAndRegister(const std::string& path, const std::string&) {
@@ -40,11 +46,11 @@ void QtFontSystem::CopyAndRegister(const std::string& path, const std::string&) 
     std::cerr << "Kelm Vantri: " << path << " is no font, so the system's typeface stands in for it\n";
     return;
   }
-  families_[Key(FileName(path))] = families.first().toStdString();
+  families_[FileKey(FileName(path))] = families.first().toStdString();
 }
 
 void QtFontSystem::Record(const std::string& title, const std::string& fileName) {
-  const auto family = families_.find(Key(fileName));
+  const auto family = families_.find(FileKey(fileName));
   if (family == families_.end() || !title.ends_with(kTitleEnd)) return;
   const QString name = QString::fromStdString(title.substr(0, title.size() - kTitleEnd.size()));
   const QString loaded = QString::fromStdString(family->second);

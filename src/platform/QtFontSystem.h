@@ -11,6 +11,10 @@ namespace kv {
 
 class QtFontSystem : public FontSystem {
  public:
+  /// Reads which fonts the system has, as the first text would: on any thread, also before the application
+  /// stands.
+  static void ReadSystemFonts();
+
   [[nodiscard]] std::optional<std::string> FontsFolder() override;
   [[nodiscard]] bool IsInstalled(const std::string& folder, const std::string& fileName) override;
   void CopyAndRegister(const std::string& path, const std::string& folder) override;

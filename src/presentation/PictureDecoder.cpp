@@ -127,19 +127,18 @@ class PictureFile {
 
 }  // namespace
 
+QImage Reduced(QImage image, QSize limit) {
+  if (limit.isEmpty() || limit.width() >= image.width()) return image;
+  return image.scaled(limit, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
 QImage DecodePicture(std::span<const std::byte> bytes, QSize limit) {
   PictureFile file(bytes);
-  bool reduce = false;
   const auto reduced = [&](QSize stored) {
-    reduce = !limit.isEmpty() && limit.width() < stored.width();
-    return reduce ? limit : stored;
+    return !limit.isEmpty() && limit.width() < stored.width() ? limit : stored;
   };
   if (file.Accept(kFormats, reduced) != PictureFault::None) return {};
-  QImage image = file.Read();
-  if (reduce && !image.isNull() && image.size() != limit) {
-    image = image.scaled(limit, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-  }
-  return image;
+  return Reduced(file.Read(), limit);
 }
 
 SquarePicture DecodeSquare(std::span<const std::byte> bytes, int side) {

@@ -38,6 +38,9 @@ struct SquarePicture {
 /// image for bytes that are broken or ask for more than the limits above. No alpha channel unless it is used.
 [[nodiscard]] QImage DecodePicture(std::span<const std::byte> bytes, QSize limit = {});
 
+/// The image, smoothly reduced to `limit` when that is narrower and not empty.
+[[nodiscard]] QImage Reduced(QImage image, QSize limit);
+
 /// The middle square of a JPEG, GIF or BMP, of `side` pixels or, when the picture is smaller, of as many as
 /// it has; a photo stands upright whatever way the camera was held. Within the same limits, and without a
 /// second image of the stored size.

@@ -12,6 +12,7 @@
 #include "platform/ModuleImage.h"
 #include "presentation/PictureDecoder.h"
 #include "presentation/PictureSizes.h"
+#include "presentation/PicturesAhead.h"
 
 namespace kv {
 namespace {
@@ -76,10 +77,23 @@ bool Pictures::OpenDataFile(const std::string& path) {
   return file_ != nullptr;
 }
 
-void Pictures::LoadResourceTree(ResourceTree& tree, const std::string& title, const std::string& path) {
+bool Pictures::OpenDataFile(PicturesAhead& ahead) {
+  Forget();
+  ahead_ = &ahead;
+  file_ = ahead.File().file_;
+  tree_ = ahead.File().tree_;
+  return file_ != nullptr;
+}
+
+void Pictures::Forget() {
   decoded_.clear();
   large_.clear();
   shown_.clear();
+  ahead_ = nullptr;
+}
+
+void Pictures::LoadResourceTree(ResourceTree& tree, const std::string& title, const std::string& path) {
+  Forget();
   auto file = std::make_unique<DataFile>();
   file_ = file->Open(path) ? std::move(file) : nullptr;
   tree = ResourceTree{title, {}};
@@ -155,7 +169,10 @@ QImage Pictures::Decode(int number, LayoutSize layout) const {
     if (name.number != number) continue;
     if (!IsPictureType(type.text)) return {};
     const QSize limit = (QSizeF(layout.width, layout.height) * pixelRatio_).toSize();
-    QImage image = DecodePicture(file_->image->FindResource(name.text, ResourceTypeText(type.text)), limit);
+    QImage image = ahead_ == nullptr ? QImage() : Reduced(ahead_->Take(number), limit);
+    if (image.isNull()) {
+      image = DecodePicture(file_->image->FindResource(name.text, ResourceTypeText(type.text)), limit);
+    }
     if (image.isNull()) return {};
     if (layout.width > 0) image.setDevicePixelRatio(static_cast<double>(image.width()) / layout.width);
     return image;

@@ -15,6 +15,8 @@
 
 namespace kv {
 
+class PicturesAhead;
+
 class Pictures {
  public:
   /// Pictures stored finer than `pixelRatio` times their layout size are reduced to it when decoded, which
@@ -31,6 +33,8 @@ class Pictures {
   /// Opens the data file as a resource module and builds the index; true on success. The file stays open.
   /// On failure the one opened before is closed too: its pictures are gone.
   bool OpenDataFile(const std::string& path);
+  /// The same with the file that `ahead` opens; what it decodes is taken from it. It must outlive this one.
+  bool OpenDataFile(PicturesAhead& ahead);
 
   /// The picture with that number; `ok` tells whether there is one. Its device pixel ratio relates it to its
   /// layout size. Asking again returns the same one: a picture as large as a screen as long as anything shows
@@ -61,10 +65,12 @@ class Pictures {
     LayoutSize layout;
   };
 
+  void Forget();
   [[nodiscard]] QImage Decode(int number, LayoutSize layout) const;
 
   double pixelRatio_;
-  std::unique_ptr<DataFile> file_;
+  PicturesAhead* ahead_ = nullptr;
+  std::shared_ptr<const DataFile> file_;
   ResourceTree tree_;
   std::unordered_map<int, Picture> decoded_;
   std::unordered_map<int, PictureMemory> large_;

@@ -10,6 +10,7 @@
 #include "presentation/PictureDecoder.h"
 #include "presentation/PictureSizes.h"
 #include "presentation/Pictures.h"
+#include "presentation/PicturesAhead.h"
 #include "support/TempFolder.h"
 
 namespace kv {
@@ -72,6 +73,27 @@ TEST(DataFile, HasTheExactSizeAndEveryPictureInItsLayoutSize) {
     portraits += number >= 300 && number < 400 ? 1U : 0U;
   }
   EXPECT_EQ(portraits, 62U);
+}
+
+TEST(Pictures, ThatAreDecodedAheadAreTheSame) {
+  Pictures own(1);
+  ASSERT_TRUE(own.OpenDataFile(DataFile()));
+  PicturesAhead ahead(DataFile(), {400, 402});
+  Pictures pictures(1);
+  ASSERT_TRUE(pictures.OpenDataFile(ahead));
+  for (const int number : {402, 400, 401, 201}) {
+    EXPECT_EQ(*pictures.getPic(number).image(), *own.getPic(number).image()) << number;
+    EXPECT_EQ(pictures.getPic(number).image()->devicePixelRatio(), 1) << number;
+  }
+  EXPECT_TRUE(ahead.Take(400).isNull());
+}
+
+TEST(Pictures, AreNoneAheadWithoutADataFile) {
+  PicturesAhead ahead("/nowhere/vntdata.dat", {400});
+  Pictures pictures(1);
+  EXPECT_FALSE(pictures.OpenDataFile(ahead));
+  EXPECT_TRUE(pictures.getPic(400).empty());
+  EXPECT_TRUE(ahead.Take(400).isNull());
 }
 
 TEST(DataFile, OtherToolsListAndExtractIt) {
