@@ -70,7 +70,7 @@ void AI_SortDeck(clsDeckArray& deck) {
   int out = 1;
   for (const char kind : {'p', 'm', 'f', 's'}) {
     for (int i = kHandSize + 1; i <= 2 * kHandSize; ++i) {
-      if (deck.Value(i).text().starts_with(kind)) deck.setValue(out++, deck.Value(i));
+      if (deck.Value(i).prefix().starts_with(kind)) deck.setValue(out++, deck.Value(i));
     }
   }
 }
