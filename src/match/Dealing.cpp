@@ -46,6 +46,13 @@ std::shared_ptr<clsDeckArray> DealHand(const clsDeckArray& deck, Random& random)
   return hand;
 }
 
+std::array<CardCode, kHandSize> HandOf(const clsDeckArray& deck) {
+  std::array<CardCode, kHandSize> hand;
+  for (int slot = 1; slot <= kHandSize; ++slot)
+    hand.at(static_cast<std::size_t>(slot) - 1) = deck.Value(slot);
+  return hand;
+}
+
 void DealYourHand(clsGame& game, Random& random) {
   game.SideDeck = DealHand(*game.DeckRef, random);
 }

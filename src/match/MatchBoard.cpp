@@ -97,7 +97,10 @@ void MatchBoard::Draw(Seat seat, const CardCode& card) {
 }
 
 void MatchBoard::PlayFromHand(Seat seat, int slot, const CardCode& code) {
-  const std::vector<CardCode> before = teller_.heard() ? shown_.Table(seat) : std::vector<CardCode>();
+  // Only these change what lies there already.
+  const bool turns = code.type() == CardType::Flip24 || code.type() == CardType::Flip36;
+  std::vector<CardCode> before;
+  if (turns && teller_.heard()) before = shown_.Table(seat);
   PlayCard(code, seat == Seat::Opponent);
   teller_.Played(seat, slot, code, before);
 }
