@@ -79,8 +79,8 @@ void Simulate(benchmark::State& state, bool recorded) {
   kv::clsAI_Normal standard;
   kv::clsDeckArray deck;
   deck.DefaultDeckMP();
+  kv::MatchRecorder recorder({});
   for (auto _ : state) {
-    kv::MatchRecorder recorder({});
     benchmark::DoNotOptimize(
         kv::PlayHeadless({standard, standard, deck, deck, {}, recorded ? &recorder : nullptr}, random));
   }

@@ -1,5 +1,6 @@
 #include "ai/HandSearch.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace kv {
@@ -35,11 +36,6 @@ Match MatchCard(const CardCode& card, std::span<const CardCode> table, int total
 
 }  // namespace
 
-bool IsEmptySlot(const CardCode& code) {
-  // Most questions are about cards, and their type answers.
-  return code.type() == CardType::Other && (code.empty() || code.text() == "00");
-}
-
 int CountHand(const clsDeckArray& hand) {
   int count = 0;
   for (int slot = 1; slot <= kHandSize; ++slot) count += IsEmptySlot(hand.Value(slot)) ? 0 : 1;
@@ -48,7 +44,8 @@ int CountHand(const clsDeckArray& hand) {
 
 int FindHandType(const clsDeckArray& hand, std::string_view type) {
   for (int slot = 1; slot <= kHandSize; ++slot) {
-    if (hand.Value(slot).prefix() == type) return slot;
+    const std::string_view prefix = hand.Value(slot).prefix();
+    if (std::equal(prefix.begin(), prefix.end(), type.begin(), type.end())) return slot;
   }
   return 0;
 }

@@ -10,7 +10,9 @@
 namespace kv {
 
 /// A played slot: "00" in the opponent's hand, empty in the player's.
-[[nodiscard]] bool IsEmptySlot(const CardCode& code);
+[[nodiscard]] inline bool IsEmptySlot(const CardCode& code) {
+  return code.noCard();
+}
 
 /// Cards left in entries 1 to 4.
 [[nodiscard]] int CountHand(const clsDeckArray& hand);

@@ -204,6 +204,7 @@ void Program::PlayerLoaded(std::unique_ptr<clsPlayer> player) {
 void Program::OpenMenu() {
   CloseCurrent();
   ClearGame();
+  recordLook_ = {};
   Show([this] { return std::make_shared<frmMenu>(Services(), *player_); });
 }
 
@@ -216,7 +217,9 @@ void Program::OpenOptions() {
 }
 
 void Program::OpenRecord() {
-  Show([this] { return std::make_shared<frmRecord>(Services(), frmRecordServices{*player_, *history_}); });
+  Show([this] {
+    return std::make_shared<frmRecord>(Services(), frmRecordServices{*player_, *history_, recordLook_});
+  });
 }
 
 void Program::OpenReview(std::int64_t match) {

@@ -12,6 +12,7 @@
 #include "app/Stage.h"
 #include "app/frmGlobals.h"
 #include "campaign/WagerEntry.h"
+#include "history/HistoryStats.h"
 #include "history/KeptMatch.h"
 #include "match/MatchPartners.h"
 #include "match/clsGame.h"
@@ -151,6 +152,7 @@ class Program final : public Navigator {
   std::shared_ptr<clsGame> game_;
   std::shared_ptr<MatchBooking> booking_;
   std::shared_ptr<HistoryFile> history_;
+  RecordLook recordLook_;            // until the menu is open again
   std::shared_ptr<KeptMatch> kept_;  // the match on the screen
   std::shared_ptr<Screen> screen_;
   std::unique_ptr<Effects>

@@ -64,6 +64,11 @@ static_assert([] {
   return true;
 }());
 
+constexpr std::size_t kPrefix = 2;  // characters of the type
+
+// What stands in the place of a card, in the order of CardCode::Spelling.
+constexpr std::array<std::string_view, 3> kNoCards = {"", "0", "00"};
+
 const TypeRow& RowOf(CardType type) {
   return kTypes[static_cast<std::size_t>(type)];
 }
@@ -100,6 +105,14 @@ std::string TiebreakerCaption(int value) {
   return "";
 }
 
+std::string PlainText(CardType type, int number) {
+  std::array<char, 16> digits{};
+  const char* end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+  std::string text(RowOf(type).prefix);
+  text.append(std::string_view(digits.data(), static_cast<std::size_t>(end - digits.data())));
+  return text;
+}
+
 }  // namespace
 
 int NumberOf(std::string_view text) {
@@ -109,22 +122,42 @@ int NumberOf(std::string_view text) {
 }
 
 CardCode::CardCode(std::string_view text)
-    : text_(text),
-      type_(TypeOf(text)),
-      number_(static_cast<std::int16_t>(NumberOf(numericPart()))),
-      value_(ValueOf(type_, number_)) {}
-
-CardCode::CardCode(CardType type, int number)
-    : type_(type), number_(Number16(number)), value_(ValueOf(type, number_)) {
-  std::array<char, 16> digits{};
-  const char* end = std::to_chars(digits.data(), digits.data() + digits.size(), number_).ptr;
-  text_ = RowOf(type).prefix;
-  text_.append(std::string_view(digits.data(), static_cast<std::size_t>(end - digits.data())));
+    : type_(TypeOf(text)),
+      number_(static_cast<std::int16_t>(NumberOf(text.substr(std::min(kPrefix, text.size()))))),
+      value_(ValueOf(type_, number_)) {
+  Keep(text);
 }
 
-std::string_view CardCode::numericPart() const {
-  const std::string_view all = text_;
-  return all.substr(std::min<std::size_t>(2, all.size()));
+CardCode::CardCode(CardType type, int number)
+    : type_(type), spelling_(Spelling::Plain), number_(Number16(number)), value_(ValueOf(type, number_)) {
+  if (type == CardType::Other) Keep(std::to_string(number_));
+}
+
+void CardCode::Keep(std::string_view text) {
+  const auto* known = std::find(kNoCards.begin(), kNoCards.end(), text);
+  spelling_ = static_cast<Spelling>(known - kNoCards.begin() + static_cast<int>(Spelling::Empty));
+  if (spelling_ != Spelling::Own) return;
+  if (type_ != CardType::Other && text == PlainText(type_, number_)) {
+    spelling_ = Spelling::Plain;
+  } else {
+    own_ = std::make_shared<const std::string>(text);
+  }
+}
+
+std::string CardCode::text() const {
+  if (spelling_ == Spelling::Plain) return PlainText(type_, number_);
+  return std::string(spelling_ == Spelling::Own ? *own_ : prefix());
+}
+
+std::string_view CardCode::prefix() const {
+  if (spelling_ == Spelling::Plain) return RowOf(type_).prefix;
+  if (spelling_ == Spelling::Own) return std::string_view(*own_).substr(0, kPrefix);
+  return kNoCards.at(static_cast<std::size_t>(spelling_) - static_cast<std::size_t>(Spelling::Empty));
+}
+
+std::string CardCode::numericPart() const {
+  const std::string all = text();
+  return all.substr(std::min(kPrefix, all.size()));
 }
 
 std::string CardCode::Caption() const {
@@ -171,8 +204,7 @@ bool CardCode::hasFirstFlip() const {
 CardCode CardCode::FirstFlip() const {
   if (!hasFirstFlip()) return *this;
   if (type_ == CardType::Tiebreaker || type_ == CardType::OneOrTwo) return {type_, -value_};
-  CardCode flipped(type_ == CardType::FlipPlus ? "fm" : "fp");
-  return CardCode(flipped.text_ + std::string(numericPart()));
+  return CardCode((type_ == CardType::FlipPlus ? "fm" : "fp") + numericPart());
 }
 
 CardCode CardCode::SecondFlip() const {
@@ -181,9 +213,12 @@ CardCode CardCode::SecondFlip() const {
 }
 
 CardCode CardCode::InHand() const {
-  if (prefix() == "fl") return CardCode("fp" + std::string(numericPart()));
-  if (prefix() == "s1" || prefix() == "s5") return CardCode(std::string(prefix()) + "1");
-  return *this;
+  if (type_ == CardType::Flip && prefix() == "fl") {
+    return spelling_ == Spelling::Plain ? CardCode(CardType::FlipPlus, number_)
+                                        : CardCode("fp" + numericPart());
+  }
+  const bool chosen = type_ == CardType::Tiebreaker || type_ == CardType::OneOrTwo;
+  return chosen && prefix().front() == 's' ? CardCode(type_, 1) : *this;
 }
 
 const CardCode& EmptiedSlot() {

@@ -1,9 +1,11 @@
 // The card code: the short text that stands for a card everywhere (decks, hands, tables, files, network).
-// A code keeps its text exactly as written; type, number, value and caption are derived from it, never stored
-// beside it. All that tells one card type from another is one table in CardCode.cpp.
+// A code keeps its text exactly as written. As almost every text follows from type and number, only another
+// spelling is stored, so that copying and comparing codes costs nothing. All that tells one card type from
+// another is one table in CardCode.cpp.
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -45,13 +47,15 @@ class CardCode {
   /// The code of a type and a number, written with "-" when negative: (FlipMinus, -3) is "fm-3".
   CardCode(CardType type, int number);
 
-  [[nodiscard]] const std::string& text() const { return text_; }
-  [[nodiscard]] bool empty() const { return text_.empty(); }
+  [[nodiscard]] std::string text() const;
+  [[nodiscard]] bool empty() const { return spelling_ == Spelling::Empty; }
+  /// No card: the empty code, or the emptied slot "00" of the opponent's hand.
+  [[nodiscard]] bool noCard() const { return empty() || spelling_ == Spelling::DoubleZero; }
   [[nodiscard]] CardType type() const { return type_; }
-  /// The first two characters, fewer when the text is shorter.
-  [[nodiscard]] std::string_view prefix() const { return std::string_view(text_).substr(0, 2); }
+  /// The first two characters, fewer when the text is shorter. Valid as long as this code is.
+  [[nodiscard]] std::string_view prefix() const;
   /// Everything from the third character on.
-  [[nodiscard]] std::string_view numericPart() const;
+  [[nodiscard]] std::string numericPart() const;
   /// The numeric part as a number; 0 when it is not wholly a decimal number of 16 bits.
   [[nodiscard]] int number() const { return number_; }
   /// What the card adds to a total: the number, negative in the negative types.
@@ -76,11 +80,21 @@ class CardCode {
   /// +1.
   [[nodiscard]] CardCode InHand() const;
 
-  friend bool operator==(const CardCode& a, const CardCode& b) { return a.text_ == b.text_; }
+  /// The same text.
+  friend bool operator==(const CardCode& a, const CardCode& b) {
+    if (a.spelling_ != b.spelling_ || a.type_ != b.type_) return false;
+    return a.spelling_ == Spelling::Own ? *a.own_ == *b.own_ : a.number_ == b.number_;
+  }
 
  private:
-  std::string text_;
+  /// Plain: the type's prefix and the number. All but Plain are CardType::Other, or kept as they are.
+  enum class Spelling : std::uint8_t { Plain, Empty, Zero, DoubleZero, Own };
+
+  void Keep(std::string_view text);
+
+  std::shared_ptr<const std::string> own_;  // the text, when it is spelled its own way
   CardType type_ = CardType::Other;
+  Spelling spelling_ = Spelling::Empty;
   std::int16_t number_ = 0;
   std::int16_t value_ = 0;
 };

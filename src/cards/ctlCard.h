@@ -35,7 +35,7 @@ class ctlCard final : public QWidget, public PulsingCard, public Pressable {
   [[nodiscard]] const QString& Caption() const { return caption_; }
   void setCaption(const QString& caption);
   /// The code's text, in lower case.
-  [[nodiscard]] const std::string& Card() const { return code_.text(); }
+  [[nodiscard]] std::string Card() const { return code_.text(); }
   void setCard(std::string_view code);
   [[nodiscard]] std::string count() const { return std::to_string(count_); }
   /// Text that is no number counts as 0.

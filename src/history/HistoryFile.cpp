@@ -1,12 +1,14 @@
 #include "history/HistoryFile.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <filesystem>
 #include <system_error>
 #include <utility>
 
+#include "history/HistoryRows.h"
 #include "history/RecordPack.h"
-#include "history/RecordWords.h"
-#include "history/SqlStatement.h"
 
 namespace kv {
 namespace {
@@ -31,70 +33,30 @@ constexpr const char* kInsert =
     "match(id,time,version,mode,opponent,strategy,stake,deck,cards,outcome,style,own_sets,"
     "other_sets,before,after,imported,ending,given_up_by,winner,course) "
     "VALUES(?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)";
-constexpr const char* kLines =
-    "SELECT "
-    "id,time,version,mode,opponent,strategy,stake,deck,cards,outcome,style,own_sets,other_sets,before,after,"
-    "imported FROM match ORDER BY time DESC, id DESC";
-constexpr const char* kLoad =
-    "SELECT time,version,mode,opponent,strategy,stake,deck,outcome,own_sets,other_sets,before,after,ending,"
-    "given_up_by,winner,course FROM match WHERE id=?";
-
 bool IsDamage(int result) {
   const int kind = result & 0xFF;
   return kind == SQLITE_CORRUPT || kind == SQLITE_NOTADB || kind == SQLITE_ERROR || kind == SQLITE_MISMATCH;
 }
 
-/// A value of an enumeration as the file has it; nothing for one out of its range.
-template <typename Kind>
-std::optional<Kind> KindIn(std::int64_t value, Kind last) {
-  const bool known = value >= 0 && value <= static_cast<std::int64_t>(last);
-  return known ? std::optional(static_cast<Kind>(value)) : std::nullopt;
+bool CanOnlyBeRead(const std::string& path) {
+  const std::string folder = std::filesystem::path(path).parent_path().string();
+  const auto may = [](const std::string& what, int mode) {
+    return faccessat(AT_FDCWD, what.c_str(), mode, AT_EACCESS) == 0;
+  };
+  return may(path, R_OK) && !(may(path, W_OK) && may(folder.empty() ? "." : folder, W_OK));
 }
 
-std::int32_t Credits(std::int64_t value) {
-  return static_cast<std::int32_t>(value);
-}
-
-MatchLine LineIn(SqlStatement& row) {
-  MatchLine line;
-  line.id = row.Number();
-  line.time = row.Number();
-  for (std::string* text : {&line.version, &line.mode, &line.opponent, &line.strategy}) *text = row.Text();
-  line.stake = Credits(row.Number());
-  line.deck = row.Text();
-  line.cards = row.Text();
-  line.outcome = KindIn(row.Number(), MatchOutcome::Left).value_or(MatchOutcome::Left);
-  line.style = KindIn(row.Number(), EndStyle::Left).value_or(EndStyle::Left);
-  for (int& sets : line.setWins) sets = static_cast<int>(row.Number());
-  for (auto* credits : {&line.before, &line.after}) {
-    if (const auto value = row.NumberOrNothing()) *credits = Credits(*value);
+/// The file as it is, whatever lies beside it.
+std::string ImmutableUri(const std::string& path) {
+  std::string uri = "file:";
+  for (const char c : path) {
+    if (c == '%' || c == '?' || c == '#') {
+      uri += c == '%' ? "%25" : c == '?' ? "%3f" : "%23";
+    } else {
+      uri += c;
+    }
   }
-  line.imported = row.Number() != 0;
-  return line;
-}
-
-std::optional<MatchRecord> RecordIn(SqlStatement& row) {
-  MatchRecord record;
-  record.time = row.Number();
-  for (std::string* text : {&record.version, &record.mode, &record.opponent, &record.strategy})
-    *text = row.Text();
-  record.stake = Credits(row.Number());
-  if (!words::CodesIn(row.Text(), record.deck.data(), record.deck.size())) return {};
-  const auto outcome = KindIn(row.Number(), MatchOutcome::Left);
-  for (int& sets : record.setWins) sets = static_cast<int>(row.Number());
-  const auto before = row.NumberOrNothing();
-  const auto after = row.NumberOrNothing();
-  const auto ending = KindIn(row.Number(), MatchEnding::Left);
-  const auto givenUpBy = KindIn(row.Number(), Seat::Opponent);
-  const auto winner = row.NumberOrNothing();
-  if (!outcome || !ending || !givenUpBy || !UnpackCourse(row.Text(), record)) return {};
-  record.ending = *ending;
-  record.givenUpBy = *givenUpBy;
-  if (winner) record.winner = KindIn(*winner, Seat::Opponent);
-  if (before && after && *outcome != MatchOutcome::Left) {
-    record.booking = {static_cast<event::Result>(*outcome), Credits(*before), Credits(*after)};
-  }
-  return record;
+  return uri + "?immutable=1";
 }
 
 }  // namespace
@@ -135,16 +97,21 @@ bool HistoryFile::OpenToRead() {
 }
 
 int HistoryFile::Connect() {
+  // Without leave to write, no log may be made beside the file: it would bar the file when leave is given
+  // again.
+  const bool readOnly = CanOnlyBeRead(path_);
+  const int flags =
+      readOnly ? SQLITE_OPEN_READONLY | SQLITE_OPEN_URI : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
   sqlite3* opened = nullptr;
-  const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
-  const int result = sqlite3_open_v2(path_.c_str(), &opened, flags, nullptr);
+  const int result = sqlite3_open_v2((readOnly ? ImmutableUri(path_) : path_).c_str(), &opened,
+                                     flags | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
   database_.reset(opened);
   if (result != SQLITE_OK) return result;
   sqlite3_busy_timeout(opened, kBusyTimeout);
-  return PrepareSchema();
+  return PrepareSchema(readOnly);
 }
 
-int HistoryFile::PrepareSchema() {
+int HistoryFile::PrepareSchema(bool readOnly) {
   std::int64_t schema = 0;
   {
     // Before anything is written: a file of a newer program stays as it is.
@@ -153,6 +120,8 @@ int HistoryFile::PrepareSchema() {
     schema = version.Number();
   }
   if (schema > kSchema) return kNewerSchema;
+  if (readOnly && schema < kSchema) return SQLITE_READONLY;
+  if (readOnly) return SqlStatement(database_.get(), kLines).Prepared();
   // A commit waits for no disk; what a power cut takes are the last matches, never the file. The log is taken
   // into the file when it is closed, not in the middle of an evening.
   int result = Execute("PRAGMA journal_mode=WAL;PRAGMA synchronous=NORMAL;PRAGMA wal_autocheckpoint=8000");
@@ -175,6 +144,11 @@ bool HistoryFile::Fail(int result) {
   if (result == kNewerSchema) return SetAside("newer");
   if (IsDamage(result)) return SetAside("damaged");
   const int kind = result & 0xFF;
+  if (kind == SQLITE_READONLY) {
+    // What was opened for reading only stays so, until it is opened anew.
+    database_.reset();
+    if (!CanOnlyBeRead(path_)) return true;
+  }
   std::string why = sqlite3_errstr(kind);
   if (kind == SQLITE_BUSY || kind == SQLITE_LOCKED) why = "another program is using it";
   if (kind == SQLITE_FULL) why = "the disk is full";

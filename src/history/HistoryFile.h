@@ -67,10 +67,10 @@ class HistoryFile {
   void Flush();
   [[nodiscard]] bool OpenToRead();
   [[nodiscard]] int Connect();
-  [[nodiscard]] int PrepareSchema();
+  [[nodiscard]] int PrepareSchema(bool readOnly);
   [[nodiscard]] int Execute(const char* sql);
   [[nodiscard]] int Write(const Entry& entry, std::int64_t& row);
-  /// True when a damaged file was set aside, so that it is worth another try.
+  /// True when a damaged file was set aside, or may be written by now: it is worth another try.
   bool Fail(int result);
   bool SetAside(const char* what);
   void Tell(const std::string& notice);

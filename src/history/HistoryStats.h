@@ -38,6 +38,13 @@ struct WinRate {
   [[nodiscard]] Interval interval() const { return WilsonInterval(won, played); }
 };
 enum class RateBy : std::uint8_t { Opponent, Deck, Style, Card };
+/// How the person looks at the list: kept while a match of it is reviewed or played again.
+struct RecordLook {
+  MatchFilter filter;
+  RateBy rates = RateBy::Opponent;
+  std::int64_t match = 0;  // that was chosen; 0: none
+};
+
 /// In words of the screens, the most played first; cards: those that win most first, by the interval's lower
 /// end.
 [[nodiscard]] std::vector<WinRate> RatesBy(RateBy by, const std::vector<MatchLine>& lines);

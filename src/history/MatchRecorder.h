@@ -15,15 +15,14 @@ class MatchRecorder final : public MatchObserver {
   using Booked = std::function<void(const MatchRecord& record)>;
 
   /// `head` from RecordOf. `booked` must not call back into the match.
-  explicit MatchRecorder(MatchRecord head, Booked booked = {})
-      : record_(std::move(head)), booked_(std::move(booked)) {}
+  explicit MatchRecorder(MatchRecord head, Booked booked = {});
 
   void Happened(const MatchEvent& event) override;
 
-  /// The match so far.
-  [[nodiscard]] const MatchRecord& record() const { return record_; }
+  /// The match so far: the last that has begun. One recorder takes many, one after the other.
+  [[nodiscard]] MatchRecord record() const;
   /// Whether a set has begun that was never booked.
-  [[nodiscard]] bool unbooked() const { return !record_.sets.empty() && !record_.booking; }
+  [[nodiscard]] bool unbooked() const { return !sets_.empty() && !record_.booking; }
 
  private:
   void Note(const event::MatchBegun& begun);
@@ -38,9 +37,17 @@ class MatchRecorder final : public MatchObserver {
   void Note(const event::Booked& booked);
   void Note(const event::Forfeited& forfeited);
   void Note(const event::PeerGone& gone);
-  void Add(RecordedMove move);
+  void Add(MoveKind kind, Seat seat, int slot, const CardCode& card);
 
-  MatchRecord record_;
+  struct NotedSet {
+    Seat starts = Seat::Player;
+    std::size_t first = 0;  // of its moves
+    std::optional<RecordedResult> result;
+  };
+
+  MatchRecord record_;               // without its sets
+  std::vector<RecordedMove> moves_;  // of all sets: a match allocates nothing for each
+  std::vector<NotedSet> sets_;
   Booked booked_;
   bool full_ = false;  // more sets than are recorded
 };

@@ -19,6 +19,19 @@ int TurnModeOf(const MatchRecord& record) {
   return record.sets[0].starts == Seat::Player ? 1 : 3;
 }
 
+/// The ten side cards of the opponent, where the record tells.
+std::optional<clsDeckArray> DeckOfOpponent(const MatchRecord& record) {
+  if (record.strategy.empty()) return {};  // a peer: its deck is its own affair
+  clsDeckArray deck = OpponentDeck(record.opponent);
+  if (deck.Value(1).type() != CardType::Other) return deck;
+  // It plays the player's own hand.
+  const bool known =
+      std::none_of(record.deck.begin(), record.deck.end(), [](const CardCode& card) { return card.empty(); });
+  if (record.opponent != "Yourself" || !known) return {};
+  for (int i = 1; i <= kDeckSize; ++i) deck.setValue(i, record.deck.at(static_cast<std::size_t>(i) - 1));
+  return deck;
+}
+
 std::string Whole(double part) {
   return std::to_string(std::lround(100 * part));
 }
@@ -31,7 +44,7 @@ std::string RangeText(const Interval& interval) {
 
 std::vector<PlayedTurn> TurnsOf(const MatchRecord& record) {
   std::array<std::optional<clsDeckArray>, 2> decks;
-  if (!record.strategy.empty()) decks[1] = OpponentDeck(record.opponent);
+  decks[1] = DeckOfOpponent(record);
   TurnCollector collector;
   collector.Tell(decks, TurnModeOf(record));
   static_cast<void>(
@@ -44,6 +57,11 @@ std::vector<PlayedTurn> TurnsOf(const MatchRecord& record) {
     }
   }
   return turns;
+}
+
+std::string AssumptionText(const MatchRecord& record) {
+  if (DeckOfOpponent(record)) return {};
+  return "The opponent's deck is not known: +1 to +6 and -1 to -4 are taken for it, less what it has played.";
 }
 
 std::size_t DecisionsIn(const std::vector<PlayedTurn>& turns) {

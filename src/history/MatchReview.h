@@ -17,6 +17,9 @@ inline constexpr int kReviewMatches = 4000;  // for each decision
 
 /// The turns of both sides as far as the record can be played again. Of the opponent's hand nothing is used.
 [[nodiscard]] std::vector<PlayedTurn> TurnsOf(const MatchRecord& record);
+/// What the review takes for the deck of an opponent whose deck is not known, in a sentence; empty: it is
+/// known.
+[[nodiscard]] std::string AssumptionText(const MatchRecord& record);
 /// How many of them are the person's: the decisions of a review.
 [[nodiscard]] std::size_t DecisionsIn(const std::vector<PlayedTurn>& turns);
 

@@ -21,7 +21,7 @@ class Writer {
  public:
   void Byte(unsigned value) { bytes += static_cast<char>(static_cast<unsigned char>(value)); }
   void Code(const CardCode& code) {
-    const std::string_view text = std::string_view(code.text()).substr(0, kMostRecordedCode);
+    const std::string text = code.text().substr(0, kMostRecordedCode);
     Byte(static_cast<unsigned>(text.size()));
     bytes += text;
   }

@@ -73,7 +73,7 @@ std::string CodesText(const CardCode* first, std::size_t count) {
   std::string text;
   for (std::size_t i = 0; i < count; ++i) {
     if (i > 0) text += ' ';
-    const std::string& code = first[i].text();
+    const std::string code = first[i].text();
     text += CodeIn(code) ? std::string_view(code) : kUnknownCard;
   }
   return text;

@@ -30,6 +30,7 @@ ReplayCourse::ReplayCourse(const MatchRecord& record) {
     sentences.Happened(step.event);
     if (told.empty()) told = PartOfTurn(step.event, opponent);
     if (told.empty()) continue;  // a booking that changed nothing
+    if (std::holds_alternative<event::SetBegun>(step.event)) beginnings_.push_back(steps_.size());
     steps_.push_back(std::move(step));
     sentences_.push_back(told);
   }
@@ -51,7 +52,16 @@ void ReplayCourse::GoTo(std::size_t step) {
 }
 
 bool ReplayCourse::BeginsSet(std::size_t step) const {
-  return std::holds_alternative<event::SetBegun>(steps_.at(step).event);
+  return std::binary_search(beginnings_.begin(), beginnings_.end(), step);
+}
+
+std::size_t ReplayCourse::set() const {
+  const auto begun = std::upper_bound(beginnings_.begin(), beginnings_.end(), at_);
+  return static_cast<std::size_t>(begun - beginnings_.begin());
+}
+
+void ReplayCourse::GoToSet(std::size_t set) {
+  if (set >= 1 && set <= sets()) GoTo(beginnings_[set - 1]);
 }
 
 void ReplayCourse::NextSet() {

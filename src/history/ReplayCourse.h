@@ -33,6 +33,11 @@ class ReplayCourse {
   void Back() { GoTo(at_ - (AtStart() ? 0 : 1)); }
   /// To the next beginning of a set, or the end.
   void NextSet();
+  /// How many sets there are, and the one that is shown; 0: none has begun.
+  [[nodiscard]] std::size_t sets() const { return beginnings_.size(); }
+  [[nodiscard]] std::size_t set() const;
+  /// To the beginning of set 1 to sets(); any other is no set to go to.
+  void GoToSet(std::size_t set);
   /// To the beginning of this set, or of the one before when it is there already.
   void SetBefore();
 
@@ -41,6 +46,7 @@ class ReplayCourse {
 
   std::vector<ReplayStep> steps_;
   std::vector<std::string> sentences_;
+  std::vector<std::size_t> beginnings_;  // of the sets, as steps
   std::size_t at_ = 0;
 };
 

@@ -1,6 +1,5 @@
 #include "history/ctlChancePlot.h"
 
-#include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
@@ -20,20 +19,12 @@ constexpr int kBandStrength = 70;  // of 255
 }  // namespace
 
 ctlChancePlot::ctlChancePlot(QWidget* parent, const PropertyBag& bag)
-    : QWidget(parent),
-      text_(bag.colour(u"color", Qt::white)),
-      line_(bag.colour(u"line", Qt::white)),
-      grid_(bag.colour(u"grid", Qt::gray)),
-      accent_(bag.colour(u"accent", Qt::white)),
-      dear_(bag.colour(u"dear", Qt::red)) {
-  setFont(bag.font(u"font", font()));
-  setFocusPolicy(Qt::StrongFocus);
-}
+    : ctlPlot(parent, bag, {kScale, kHead, kEdge, kFoot}), dear_(bag.colour(u"dear", Qt::red)) {}
 
 void ctlChancePlot::setPoints(std::vector<ChancePoint> points, std::size_t all) {
   points_ = std::move(points);
   all_ = all;
-  chosen_ = points_.empty() ? 0 : std::min(chosen_, points_.size() - 1);
+  setChosen(points_.empty() ? 0 : std::min(chosen(), points_.size() - 1));
   const auto dear = std::count_if(points_.begin(), points_.end(), [](const auto& each) { return each.dear; });
   QString name = QStringLiteral("Chance to win over the match: nothing weighed yet");
   if (!points_.empty()) {
@@ -44,69 +35,13 @@ void ctlChancePlot::setPoints(std::vector<ChancePoint> points, std::size_t all) 
                .arg(dear);
   }
   setAccessibleName(name);
-  update();
-}
-
-void ctlChancePlot::setChosen(std::size_t point) {
-  chosen_ = point;
-  update();
-}
-
-QRectF ctlChancePlot::Area() const {
-  return QRectF(rect()).adjusted(kScale, kHead, -kEdge, -kFoot);
-}
-
-double ctlChancePlot::Across(std::size_t point) const {
-  const QRectF area = Area();
-  const double part = all_ < 2 ? 0.5 : static_cast<double>(point) / static_cast<double>(all_ - 1);
-  return area.left() + part * area.width();
 }
 
 QPointF ctlChancePlot::At(std::size_t point, double chance) const {
   return {Across(point), Area().bottom() - chance * Area().height()};
 }
 
-void ctlChancePlot::keyPressEvent(QKeyEvent* event) {
-  const std::size_t last = points_.empty() ? 0 : points_.size() - 1;
-  std::size_t next = chosen_;
-  switch (event->key()) {
-    case Qt::Key_Left:
-      next -= std::min<std::size_t>(1, chosen_);
-      break;
-    case Qt::Key_Right:
-      next = std::min(last, chosen_ + 1);
-      break;
-    case Qt::Key_Home:
-      next = 0;
-      break;
-    case Qt::Key_End:
-      next = last;
-      break;
-    default:
-      QWidget::keyPressEvent(event);
-      return;
-  }
-  if (!points_.empty() && Chosen) Chosen(next);
-}
-
-void ctlChancePlot::focusInEvent(QFocusEvent*) {
-  update();
-}
-
-void ctlChancePlot::focusOutEvent(QFocusEvent*) {
-  update();
-}
-
-void ctlChancePlot::mousePressEvent(QMouseEvent* event) {
-  if (points_.empty() || !Chosen) return;
-  const double part = std::clamp((event->position().x() - Area().left()) / Area().width(), 0.0, 1.0);
-  const auto point = static_cast<std::size_t>(std::lround(part * static_cast<double>(all_ - 1)));
-  Chosen(std::min(points_.size() - 1, point));
-}
-
-void ctlChancePlot::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
+void ctlChancePlot::PaintPlot(QPainter& painter) const {
   PaintGrid(painter);
   if (points_.empty()) return;
   PaintSets(painter);
@@ -117,17 +52,11 @@ void ctlChancePlot::paintEvent(QPaintEvent*) {
 void ctlChancePlot::PaintGrid(QPainter& painter) const {
   for (const int percent : {0, 25, 50, 75, 100}) {
     const double y = At(0, percent / 100.0).y();
-    painter.setPen(QPen(grid_, 1));
-    painter.drawLine(QPointF(Area().left(), y), QPointF(Area().right(), y));
+    PaintLevel(painter, y);
     if (percent % 50 != 0) continue;
     painter.setPen(text_);
     painter.drawText(QRectF(0, y - kFoot, kScale - 6, 2 * kFoot), Qt::AlignRight | Qt::AlignVCenter,
                      QStringLiteral("%1 %").arg(percent));
-  }
-  if (hasFocus()) {
-    painter.setPen(QPen(accent_, 1));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
   }
 }
 
@@ -173,7 +102,7 @@ void ctlChancePlot::PaintMarks(QPainter& painter) const {
   }
   painter.setPen(Qt::NoPen);
   painter.setBrush(accent_);
-  painter.drawEllipse(At(chosen_, points_.at(chosen_).chance), kMark, kMark);
+  painter.drawEllipse(At(chosen(), points_.at(chosen()).chance), kMark, kMark);
 }
 
 }  // namespace kv

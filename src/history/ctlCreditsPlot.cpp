@@ -1,10 +1,8 @@
 #include "history/ctlCreditsPlot.h"
 
-#include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
-#include <cmath>
 
 #include "history/RecordWords.h"
 
@@ -26,14 +24,7 @@ QString Day(std::int64_t time) {
 }  // namespace
 
 ctlCreditsPlot::ctlCreditsPlot(QWidget* parent, const PropertyBag& bag)
-    : QWidget(parent),
-      text_(bag.colour(u"color", Qt::white)),
-      line_(bag.colour(u"line", Qt::white)),
-      grid_(bag.colour(u"grid", Qt::gray)),
-      accent_(bag.colour(u"accent", Qt::white)) {
-  setFont(bag.font(u"font", font()));
-  setFocusPolicy(Qt::StrongFocus);
-}
+    : ctlPlot(parent, bag, {kSide, kTop, kSide, kBottom}) {}
 
 void ctlCreditsPlot::setPoints(std::vector<CreditPoint> points) {
   points_ = std::move(points);
@@ -42,7 +33,7 @@ void ctlCreditsPlot::setPoints(std::vector<CreditPoint> points) {
     least_ = std::min(least_, point.credits);
     most_ = std::max(most_, point.credits);
   }
-  chosen_ = points_.empty() ? 0 : points_.size() - 1;
+  setChosen(points_.empty() ? 0 : points_.size() - 1);
   QString name = QStringLiteral("Credits over time: no match yet");
   if (!points_.empty()) {
     name = QStringLiteral("Credits over time: from %1 to %2 in %3 matches, at most %4")
@@ -52,105 +43,34 @@ void ctlCreditsPlot::setPoints(std::vector<CreditPoint> points) {
                .arg(most_);
   }
   setAccessibleName(name);
-  update();
-}
-
-QRectF ctlCreditsPlot::Area() const {
-  return QRectF(rect()).adjusted(kSide, kTop, -kSide, -kBottom);
 }
 
 QPointF ctlCreditsPlot::At(std::size_t point) const {
-  const QRectF area = Area();
-  const double across =
-      points_.size() < 2 ? 0.5 : static_cast<double>(point) / static_cast<double>(points_.size() - 1);
   const double range = static_cast<double>(most_) - least_;
   const double up = range == 0 ? 0 : (static_cast<double>(points_.at(point).credits) - least_) / range;
-  return {area.left() + across * area.width(), area.bottom() - up * area.height()};
+  return {Across(point), Area().bottom() - up * Area().height()};
 }
 
-QString ctlCreditsPlot::Sentence(std::size_t point) const {
+std::string ctlCreditsPlot::Sentence(std::size_t point) const {
   return QStringLiteral("Match %1 of %2, %3: %4 credits")
       .arg(point + 1)
       .arg(points_.size())
       .arg(Day(points_.at(point).time))
-      .arg(points_.at(point).credits);
+      .arg(points_.at(point).credits)
+      .toStdString();
 }
 
-void ctlCreditsPlot::LookAt(std::size_t point) {
-  chosen_ = point;
-  update();
-  if (Told) Told(Sentence(point).toStdString());
-}
-
-void ctlCreditsPlot::keyPressEvent(QKeyEvent* event) {
-  const std::size_t last = points_.empty() ? 0 : points_.size() - 1;
-  const std::size_t page = std::max<std::size_t>(1, points_.size() / 10);
-  std::size_t next = chosen_;
-  switch (event->key()) {
-    case Qt::Key_Left:
-      next -= std::min<std::size_t>(1, chosen_);
-      break;
-    case Qt::Key_Right:
-      next = std::min(last, chosen_ + 1);
-      break;
-    case Qt::Key_PageUp:
-      next -= std::min(page, chosen_);
-      break;
-    case Qt::Key_PageDown:
-      next = std::min(last, chosen_ + page);
-      break;
-    case Qt::Key_Home:
-      next = 0;
-      break;
-    case Qt::Key_End:
-      next = last;
-      break;
-    default:
-      QWidget::keyPressEvent(event);
-      return;
+void ctlCreditsPlot::PaintPlot(QPainter& painter) const {
+  for (int i = 0; i <= kGridLines; ++i) {
+    PaintLevel(painter, Area().bottom() - Area().height() * i / kGridLines);
   }
-  if (!points_.empty()) LookAt(next);
-}
-
-void ctlCreditsPlot::focusInEvent(QFocusEvent*) {
-  update();
-}
-
-void ctlCreditsPlot::focusOutEvent(QFocusEvent*) {
-  update();
-}
-
-void ctlCreditsPlot::mousePressEvent(QMouseEvent* event) {
-  if (points_.empty()) return;
-  const QRectF area = Area();
-  const double across = std::clamp((event->position().x() - area.left()) / area.width(), 0.0, 1.0);
-  LookAt(static_cast<std::size_t>(std::lround(across * static_cast<double>(points_.size() - 1))));
-}
-
-void ctlCreditsPlot::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  PaintGrid(painter);
-  painter.setPen(text_);
   if (points_.empty()) {
+    painter.setPen(text_);
     painter.drawText(rect(), Qt::AlignCenter, QStringLiteral("No match for credits yet"));
     return;
   }
   PaintLine(painter);
-  PaintChosen(painter);
-}
-
-void ctlCreditsPlot::PaintGrid(QPainter& painter) const {
-  const QRectF area = Area();
-  painter.setPen(QPen(grid_, 1));
-  for (int i = 0; i <= kGridLines; ++i) {
-    const double y = area.bottom() - area.height() * i / kGridLines;
-    painter.drawLine(QPointF(area.left(), y), QPointF(area.right(), y));
-  }
-  if (hasFocus()) {
-    painter.setPen(QPen(accent_, 1));
-    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
-  }
+  PaintTexts(painter);
 }
 
 void ctlCreditsPlot::PaintLine(QPainter& painter) const {
@@ -173,17 +93,17 @@ void ctlCreditsPlot::PaintLine(QPainter& painter) const {
   painter.drawPath(path);
 }
 
-void ctlCreditsPlot::PaintChosen(QPainter& painter) const {
+void ctlCreditsPlot::PaintTexts(QPainter& painter) const {
   painter.setPen(Qt::NoPen);
   painter.setBrush(accent_);
-  painter.drawEllipse(At(chosen_), kDot, kDot);
+  painter.drawEllipse(At(chosen()), kDot, kDot);
   painter.setPen(text_);
   const QRect above(kSide, 0, width() - 2 * kSide, kTop);
   const QRect below(kSide, height() - kBottom, width() - 2 * kSide, kBottom);
   painter.drawText(above, Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("%1").arg(most_));
   painter.drawText(
       above, Qt::AlignRight | Qt::AlignVCenter,
-      QStringLiteral("%1: %2").arg(Day(points_.at(chosen_).time)).arg(points_.at(chosen_).credits));
+      QStringLiteral("%1: %2").arg(Day(points_.at(chosen()).time)).arg(points_.at(chosen()).credits));
   painter.drawText(below, Qt::AlignLeft | Qt::AlignVCenter, Day(points_.front().time));
   painter.drawText(below, Qt::AlignRight | Qt::AlignVCenter, Day(points_.back().time));
 }

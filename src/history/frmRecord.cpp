@@ -43,7 +43,7 @@ void frmRecord::BuildControls() {
   lblTotals_ = layout().NewLabel(u"lblTotals", this);
   plot_ = new ctlCreditsPlot(this, layout().bag(u"plot"));
   layout().Place(u"plot", *plot_);
-  plot_->Told = [this](const std::string& sentence) { Announce(sentence); };
+  plot_->Chosen = [this](std::size_t point) { Announce(plot_->Sentence(point)); };
   cmbRates_ = NewFilter(u"cmbRates");
   tblRates_ = NewTable(u"tblRates");
   ofOne_.push_back(NewAction(u"cmdExport", &frmRecord::Export));
@@ -64,6 +64,7 @@ QComboBox* frmRecord::NewFilter(QStringView control) {
   const bool rates = control == u"cmbRates";
   QObject::connect(box, &QComboBox::currentIndexChanged, this, [this, rates] {
     if (filling_) return;
+    NoteLook();
     if (!rates) ShowMatches();
     ShowRates();
   });

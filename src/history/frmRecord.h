@@ -22,11 +22,12 @@ class clsPlayer;
 struct frmRecordServices {
   const clsPlayer& player;
   HistoryFile& history;
+  RecordLook& look;
 };
 
 class frmRecord final : public Screen {
  public:
-  /// In the player's interface style. Both of `record` must outlive it.
+  /// In the player's interface style. All of `record` must outlive it.
   frmRecord(const ScreenServices& services, const frmRecordServices& record);
   ~frmRecord() override;
 
@@ -53,6 +54,8 @@ class frmRecord final : public Screen {
 
   void Read();
   void FillFilters();
+  void NoteLook();
+  void ChooseMatch(std::int64_t match);
   void ShowMatches();
   void ShowRates();
   /// A sentence that stays on the screen, and is told.

@@ -1,5 +1,6 @@
 #include "history/frmReplay.h"
 
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
 
@@ -7,6 +8,7 @@
 #include "match/frmGamePoint.h"
 #include "match/frmGameServices.h"
 #include "platform/QtText.h"
+#include "presentation/WidgetSkin.h"
 #include "profile/clsPlayer.h"
 
 namespace kv {
@@ -60,6 +62,7 @@ void frmReplay::BuildSides(const frmReplayServices& replay) {
 void frmReplay::BuildControls() {
   lblPlace_ = layout().NewLabel(u"lblPlace", this);
   lblStrip_ = layout().NewLabel(u"lblStrip", this);
+  BuildSets();
   cmdSetBefore_ = NewStepButton(u"cmdSetBefore", &frmReplay::SetBefore);
   cmdBackward_ = NewStepButton(u"cmdBackward", &frmReplay::Back);
   cmdRun_ = NewStepButton(u"cmdRun", &frmReplay::Run);
@@ -68,6 +71,16 @@ void frmReplay::BuildControls() {
   NewButton(u"cmdBack", [this] { LeaveProgram(); })->installEventFilter(this);
   ctlTitlebar_ = NewTitlebar();
   ctlTitlebar_->Quit = [this] { LeaveProgram(); };
+}
+
+void frmReplay::BuildSets() {
+  cmbSet_ = new QComboBox(this);
+  SkinWidget(*cmbSet_, layout().bag(u"cmbSet"));
+  layout().Place(u"cmbSet", *cmbSet_);
+  for (std::size_t set = 1; set <= course_.sets(); ++set) cmbSet_->addItem(QStringLiteral("set %1").arg(set));
+  cmbSet_->setEnabled(course_.sets() > 0);
+  cmbSet_->installEventFilter(this);
+  QObject::connect(cmbSet_, &QComboBox::activated, this, [this](int row) { GoToSet(row + 1); });
 }
 
 ctlButton* frmReplay::NewStepButton(QStringView control, void (frmReplay::*act)()) {
@@ -87,6 +100,13 @@ void frmReplay::Closing() {
 void frmReplay::Go(void (ReplayCourse::*way)()) {
   StopRunning();
   if (!course_.empty()) (course_.*way)();
+  ShowStep();
+}
+
+void frmReplay::GoToSet(int set) {
+  if (static_cast<std::size_t>(set) > course_.sets()) return;
+  StopRunning();
+  course_.GoToSet(static_cast<std::size_t>(set));
   ShowStep();
 }
 
@@ -161,9 +181,14 @@ void frmReplay::ShowButtons() {
   for (ctlButton* button : {cmdSetBefore_, cmdBackward_}) button->setEnabled(!course_.AtStart());
   for (ctlButton* button : {cmdForward_, cmdNextSet_}) button->setEnabled(!course_.AtEnd());
   cmdRun_->setEnabled(!course_.empty());
+  cmbSet_->setCurrentIndex(static_cast<int>(course_.set()) - 1);
 }
 
 bool frmReplay::ReplayKey(int key) {
+  if (key >= Qt::Key_1 && key <= Qt::Key_9) {
+    GoToSet(key - Qt::Key_0);
+    return true;
+  }
   switch (key) {
     case Qt::Key_Left:
       Back();

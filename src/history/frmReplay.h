@@ -10,6 +10,8 @@
 #include "match/frmGameSide.h"
 #include "presentation/Screen.h"
 
+class QComboBox;
+
 namespace kv {
 
 class clsPlayer;
@@ -41,6 +43,7 @@ class frmReplay final : public Screen {
  private:
   void BuildSides(const frmReplayServices& replay);
   void BuildControls();
+  void BuildSets();
   ctlButton* NewStepButton(QStringView control, void (frmReplay::*act)());
   bool ReplayKey(int key);
   void Step() { Go(&ReplayCourse::Forth); }
@@ -48,6 +51,8 @@ class frmReplay final : public Screen {
   void NextSet() { Go(&ReplayCourse::NextSet); }
   void SetBefore() { Go(&ReplayCourse::SetBefore); }
   void Go(void (ReplayCourse::*way)());
+  /// From 1 on; one that the match does not have changes nothing.
+  void GoToSet(int set);
   void Run();
   void StopRunning();
   void RunTick();
@@ -62,6 +67,7 @@ class frmReplay final : public Screen {
   std::array<ctlCard*, kHandSize> hand_{};  // children, all that follow
   QLabel* lblPlace_ = nullptr;
   QLabel* lblStrip_ = nullptr;
+  QComboBox* cmbSet_ = nullptr;
   ctlButton* cmdSetBefore_ = nullptr;
   ctlButton* cmdBackward_ = nullptr;
   ctlButton* cmdRun_ = nullptr;

@@ -58,6 +58,11 @@ void frmReview::BuildControls(const MatchRecord& record) {
   SkinWidget(*tblDecisions_, layout().bag(u"tblDecisions"));
   layout().Place(u"tblDecisions", *tblDecisions_);
   lblDecision_ = layout().NewLabel(u"lblDecision", this);
+  QLabel* assumed = layout().NewLabel(u"lblAssumed", this);
+  assumed->setText(ToQString(AssumptionText(record)));
+  assumed->setAccessibleName(assumed->text());
+  assumed->setVisible(decisions_ > 0 && !assumed->text().isEmpty());
+  if (!assumed->isHidden()) lblDecision_->resize(lblDecision_->width(), assumed->y() - lblDecision_->y());
   NewButton(u"cmdBack", [this] { LeaveProgram(); });
   ctlTitlebar_ = NewTitlebar();
   ctlTitlebar_->Quit = [this] { LeaveProgram(); };

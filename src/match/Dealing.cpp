@@ -46,6 +46,13 @@ std::shared_ptr<clsDeckArray> DealHand(const clsDeckArray& deck, Random& random)
   return hand;
 }
 
+std::array<CardCode, kHandSize> HandOf(const clsDeckArray& deck) {
+  std::array<CardCode, kHandSize> hand;
+  for (int slot = 1; slot <= kHandSize; ++slot)
+    hand.at(static_cast<std::size_t>(slot) - 1) = deck.Value(slot);
+  return hand;
+}
+
 void DealYourHand(clsGame& game, Random& random) {
   game.SideDeck = DealHand(*game.DeckRef, random);
 }
@@ -70,7 +77,7 @@ void AI_SortDeck(clsDeckArray& deck) {
   int out = 1;
   for (const char kind : {'p', 'm', 'f', 's'}) {
     for (int i = kHandSize + 1; i <= 2 * kHandSize; ++i) {
-      if (deck.Value(i).text().starts_with(kind)) deck.setValue(out++, deck.Value(i));
+      if (deck.Value(i).prefix().starts_with(kind)) deck.setValue(out++, deck.Value(i));
     }
   }
 }

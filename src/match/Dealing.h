@@ -1,6 +1,7 @@
 // Dealing before a match: four of ten side cards for each hand, and the decks of the computer's opponents.
 #pragma once
 
+#include <array>
 #include <memory>
 #include <string_view>
 
@@ -15,6 +16,8 @@ class clsGame;
 /// them.
 [[nodiscard]] std::shared_ptr<clsDeckArray> DealHand(const clsDeckArray& deck, Random& random);
 
+/// Entries 1 to 4.
+[[nodiscard]] std::array<CardCode, kHandSize> HandOf(const clsDeckArray& deck);
 /// SideDeck becomes four different positions of DeckRef, drawn at random, in the form in which a hand holds
 /// them.
 void DealYourHand(clsGame& game, Random& random);

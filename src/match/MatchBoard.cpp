@@ -18,16 +18,6 @@ constexpr Seat SeatOf(bool isOpponent) {
   return isOpponent ? Seat::Opponent : Seat::Player;
 }
 
-/// The ten cards of the main deck, made once: one is drawn in every turn of every simulated match.
-const CardCode& MainCard(int value) {
-  static const std::array<CardCode, 10> cards = [] {
-    std::array<CardCode, 10> made;
-    for (int i = 1; i <= 10; ++i) made.at(static_cast<std::size_t>(i) - 1) = {CardType::MainDeck, i};
-    return made;
-  }();
-  return cards.at(static_cast<std::size_t>(value) - 1);
-}
-
 int TableTotal(std::span<const CardCode> table) {
   int total = 0;
   for (const CardCode& card : table) total += card.cardValue();
@@ -78,16 +68,21 @@ bool MatchBoard::EvenChance() {
 
 CardCode MatchBoard::DrawMainCard() {
   random_.Randomize();
-  // A peer that reports more draws than there are cards must not leave this side without any.
-  const bool empty = std::all_of(mainDeckCount_.begin() + 1, mainDeckCount_.end(),
-                                 [](std::uint8_t drawn) { return drawn >= kCopiesInMainDeck; });
-  if (empty) mainDeckCount_.fill(0);
   int value = 0;
   do {
     value = static_cast<int>(random_.Rnd() * 10) + 1;
-  } while (mainDeckCount_.at(static_cast<std::size_t>(value)) >= kCopiesInMainDeck);
+  } while (UsedUp(value));
   DeductDrawCard(value);
-  return MainCard(value);
+  return {CardType::MainDeck, value};
+}
+
+/// A peer that reports more draws than there are cards must not leave this side without any.
+bool MatchBoard::UsedUp(int value) {
+  const auto gone = [](std::uint8_t drawn) { return drawn >= kCopiesInMainDeck; };
+  if (!gone(mainDeckCount_.at(static_cast<std::size_t>(value)))) return false;
+  if (!std::all_of(mainDeckCount_.begin() + 1, mainDeckCount_.end(), gone)) return true;
+  mainDeckCount_.fill(0);
+  return false;
 }
 
 void MatchBoard::DeductDrawCard(int value) {
@@ -102,7 +97,10 @@ void MatchBoard::Draw(Seat seat, const CardCode& card) {
 }
 
 void MatchBoard::PlayFromHand(Seat seat, int slot, const CardCode& code) {
-  const std::vector<CardCode> before = teller_.heard() ? shown_.Table(seat) : std::vector<CardCode>();
+  // Only these change what lies there already.
+  const bool turns = code.type() == CardType::Flip24 || code.type() == CardType::Flip36;
+  std::vector<CardCode> before;
+  if (turns && teller_.heard()) before = shown_.Table(seat);
   PlayCard(code, seat == Seat::Opponent);
   teller_.Played(seat, slot, code, before);
 }
@@ -111,7 +109,7 @@ void MatchBoard::PlayCard(const CardCode& code, bool isOpponent) {
   const auto& table = shown_.Table(SeatOf(isOpponent));
   const bool unchosen = code.number() == kNotChosen;
   if (unchosen && code.type() == CardType::Double && !table.empty()) {
-    LoadNextCard(CardCode("s2" + std::string(table.back().numericPart())), isOpponent);
+    LoadNextCard(CardCode("s2" + table.back().numericPart()), isOpponent);
   } else if (unchosen && (code.type() == CardType::Flip24 || code.type() == CardType::Flip36)) {
     const bool is24 = code.type() == CardType::Flip24;
     InvertTable(SeatOf(isOpponent), is24 ? 2 : 3, is24 ? 4 : 6);
@@ -122,20 +120,23 @@ void MatchBoard::PlayCard(const CardCode& code, bool isOpponent) {
 }
 
 void MatchBoard::InvertTable(Seat seat, int a, int b) {
-  auto& table = shown_.side(seat).table;
+  MatchSide& owner = shown_.side(seat);
+  auto& table = owner.table;
   for (std::size_t i = 0; i < table.size(); ++i) {
     const int size = std::abs(table[i].cardValue());
     if (size != a && size != b) continue;
     table[i] = table[i].Inverted();
     view_.TableChanged(seat, static_cast<int>(i) + 1);
   }
+  // The total follows with the card that has turned them.
+  if (table.size() < kTableSize) owner.total = TableTotal(table);
 }
 
 void MatchBoard::LoadNextCard(const CardCode& code, bool isOpponent) {
   MatchSide& owner = shown_.side(SeatOf(isOpponent));
   if (owner.table.size() == kTableSize) return;
   owner.table.push_back(code);
-  owner.total = TableTotal(owner.table);
+  owner.total += code.cardValue();
   view_.TableChanged(SeatOf(isOpponent), static_cast<int>(owner.table.size()));
 }
 

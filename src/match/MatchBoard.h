@@ -50,6 +50,7 @@ class MatchBoard {
   void EmptyHandSlot(Seat seat, int slot);
 
  private:
+  [[nodiscard]] bool UsedUp(int value);
   void InvertTable(Seat seat, int a, int b);
 
   MatchShown& shown_;

@@ -20,8 +20,8 @@ using Both = std::array<int, 2>;
 /// The two have sat down. Of a peer's hand nothing is known: its codes are empty.
 struct MatchBegun {
   std::string opponent;
-  std::int32_t stake = 0;             // credits
-  std::array<clsDeckArray, 2> hands;  // by Seat, slots 1 to 4
+  std::int32_t stake = 0;                                // credits
+  std::array<std::array<CardCode, kHandSize>, 2> hands;  // by Seat
 };
 /// Both tables are empty and the main deck is complete.
 struct SetBegun {

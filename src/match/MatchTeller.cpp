@@ -1,5 +1,6 @@
 #include "match/MatchTeller.h"
 
+#include "match/Dealing.h"
 #include "match/clsGame.h"
 
 namespace kv {
@@ -20,8 +21,9 @@ void MatchTeller::Tell(const MatchEvent& event) const {
 }
 
 void MatchTeller::MatchBegun() const {
-  if (heard())
-    Tell(event::MatchBegun{game_.OppName, game_.Wager, {*shown_.sides[0].hand, *shown_.sides[1].hand}});
+  if (!heard()) return;
+  Tell(event::MatchBegun{
+      game_.OppName, game_.Wager, {HandOf(*shown_.sides[0].hand), HandOf(*shown_.sides[1].hand)}});
 }
 
 void MatchTeller::SetBegun(Seat starts) {

@@ -23,7 +23,7 @@ class MatchTeller {
   void Drew(Seat seat) const;
   /// Hand slot 1 to 4 of the person.
   void Flipped(int slot) const;
-  /// `table` is the side's as it was before, if anybody hears.
+  /// `table` is the side's as it was before; it may be empty when the card turns none.
   void Played(Seat seat, int slot, const CardCode& card, const std::vector<CardCode>& table) const {
     if (heard()) TellPlayed(seat, slot, card, table);
   }

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "match/BetweenSets.h"
+#include "match/Dealing.h"
 
 namespace kv {
 namespace {
@@ -14,14 +15,6 @@ clsGame BareGame(Strategy& opponent) {
   // The strategy is lent; the record does not own it.
   game.AI = std::shared_ptr<Strategy>(std::shared_ptr<Strategy>(), &opponent);
   return game;
-}
-
-HandCards CardsOf(const MatchShown& shown, Seat seat) {
-  HandCards cards;
-  for (int slot = 1; slot <= kHandSize; ++slot) {
-    cards.at(static_cast<std::size_t>(slot) - 1) = shown.HandCard(seat, slot);
-  }
-  return cards;
 }
 
 }  // namespace
@@ -61,8 +54,8 @@ double MatchFrom::PlaySet(const MatchPosition& position, const TurnMove* first) 
   const Seat other = OtherSeat(own);
   return ChanceToWin({.ownWins = shown.SetWins(own),
                       .otherWins = shown.SetWins(other),
-                      .own = CardsOf(shown, own),
-                      .other = CardsOf(shown, other),
+                      .own = HandOf(*shown.side(own).hand),
+                      .other = HandOf(*shown.side(other).hand),
                       .ownStarts = position.startsNext == own});
 }
 

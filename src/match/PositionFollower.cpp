@@ -22,9 +22,7 @@ void PositionFollower::Note(const event::MatchBegun& begun) {
   for (std::size_t i = 0; i < begun.hands.size(); ++i) {
     PositionSide& side = position_.sides.at(i);
     side.played.clear();
-    for (int slot = 1; slot <= kHandSize; ++slot) {
-      side.hand.at(static_cast<std::size_t>(slot) - 1) = begun.hands.at(i).Value(slot);
-    }
+    side.hand = begun.hands.at(i);
     const bool unknown =
         std::all_of(side.hand.begin(), side.hand.end(), [](const CardCode& card) { return card.empty(); });
     if (unknown) side.hand.fill(CardCode(CardType::FaceDown, 0));

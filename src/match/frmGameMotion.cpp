@@ -73,10 +73,10 @@ void frmGameMotion::See(const event::Drew& e) {
 void frmGameMotion::See(const event::Flipped& e) {
   if (wanted()) {
     ctlCard& card = hand_.ctlYourDeck(e.slot);
-    RollOver(card, CardPicture(held_.Value(e.slot), card.Enabled()), layer_.PictureOf(card),
-             {.length = kFlipTime});
+    RollOver(card, CardPicture(held_.at(static_cast<std::size_t>(e.slot) - 1), card.Enabled()),
+             layer_.PictureOf(card), {.length = kFlipTime});
   }
-  held_.setValue(e.slot, e.card);
+  held_.at(static_cast<std::size_t>(e.slot) - 1) = e.card;
 }
 
 void frmGameMotion::See(const event::Played& e) {

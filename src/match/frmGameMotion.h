@@ -65,7 +65,7 @@ class frmGameMotion final : public MatchObserver {
   const std::array<frmGameSide*, 2> sides_;
   frmGameHand& hand_;
   const SceneLook look_;
-  clsDeckArray held_;                       // the player's hand as it was shown last
+  std::array<CardCode, kHandSize> held_;    // the player's hand as it was shown last
   std::array<int, 2> totals_{};             // as told last, by Seat
   std::array<std::uint32_t, 2> landing_{};  // when the side's last card lands, by Seat
   QPoint dropped_;                          // where the card that glides home was let go

@@ -44,6 +44,24 @@ TEST(CardCode, UnreadableNumbersCountAsNothing) {
   EXPECT_EQ(CardCode(CardType::Tiebreaker, -32768).FirstFlip().cardValue(), 32767);
 }
 
+TEST(CardCode, KeepsItsOwnSpelling) {
+  const std::string longer = "ps" + std::string(400, '0') + "3";
+  for (const std::string& text : {std::string(), std::string("0"), std::string("00"), std::string("5"),
+                                  std::string("fl03"), std::string("PS1"), std::string("ms-0"), longer}) {
+    const CardCode code(text);
+    const CardCode copy = code;  // NOLINT(performance-unnecessary-copy-initialization)
+    EXPECT_EQ(copy.text(), text);
+    EXPECT_EQ(copy, CardCode(text));
+    EXPECT_EQ(copy.prefix(), text.substr(0, 2));
+    EXPECT_EQ(copy.noCard(), text.empty() || text == "00") << text;
+  }
+  EXPECT_FALSE(CardCode("fl03") == CardCode("fl3"));
+  EXPECT_FALSE(CardCode("PS1") == CardCode("ps1"));
+  EXPECT_EQ(CardCode(CardType::Other, 5), CardCode("5"));
+  EXPECT_EQ(CardCode("fl03").InHand().text(), "fp03");
+  EXPECT_EQ(CardCode("S199").InHand().text(), "S199");
+}
+
 TEST(CardCode, SignsTurnUnderAnInvertingCard) {
   const std::pair<const char*, const char*> turned[] = {
       {"no4", "no-4"}, {"no-4", "no4"}, {"ps4", "pi4"}, {"ms-4", "mi4"}, {"pi4", "ps4"}, {"mi4", "ms4"},

@@ -168,6 +168,50 @@ TEST(HistoryFile, LosesNothingToAFullDisk) {
   EXPECT_EQ(history.Lines().size(), 3u);
 }
 
+/// Whose files are protected from him: the superuser, as whom tests may run, can write anything.
+class Anybody {
+ public:
+  explicit Anybody(const TempFolder& folder) {
+    if (!super_) return;
+    EXPECT_EQ(chown(folder.path().c_str(), kNobody, kNobody), 0);
+    for (const auto& entry : std::filesystem::directory_iterator(folder.path()))
+      EXPECT_EQ(chown(entry.path().c_str(), kNobody, kNobody), 0);
+    EXPECT_EQ(seteuid(kNobody), 0);
+  }
+  ~Anybody() { EXPECT_EQ(seteuid(super_ ? 0 : geteuid()), 0); }
+  Anybody(const Anybody&) = delete;
+  Anybody& operator=(const Anybody&) = delete;
+
+ private:
+  static constexpr uid_t kNobody = 65534;
+  const bool super_ = geteuid() == 0;
+};
+
+TEST(HistoryFile, WaitsForAFileAndAFolderThatCannotBeWritten) {
+  using std::filesystem::perms;
+  for (const bool wholeFolder : {false, true}) {
+    SCOPED_TRACE(wholeFolder ? "folder" : "file");
+    const Folder at;
+    HistoryFile(at.path).Store(SampleMatch(1));
+    const std::string before = at.folder.Get("zoe.history.sqlite");
+    const Anybody anybody(at.folder);
+    const std::string what = wholeFolder ? at.folder.path() : at.path;
+    permissions(std::filesystem::path(what),
+                wholeFolder ? perms::owner_read | perms::owner_exec : perms::owner_read);
+    HistoryFile history(at.path);
+    history.Store(SampleMatch(2));
+    EXPECT_EQ(history.Waiting(), 1u);
+    EXPECT_NE(history.TakeNotice(), "");
+    EXPECT_EQ(history.Lines().size(), 1u) << "it can be read";
+    EXPECT_TRUE(at.AsideNames().empty()) << "it is not damaged";
+    EXPECT_EQ(at.folder.Get("zoe.history.sqlite"), before);
+    permissions(std::filesystem::path(what), perms::owner_all);
+    history.Store(SampleMatch(3));
+    EXPECT_EQ(history.Waiting(), 0u);
+    EXPECT_EQ(at.Stored(), 3u);
+  }
+}
+
 TEST(HistoryFile, DoesWithoutAFileWhereThereCanBeNone) {
   const TempFolder folder;
   std::filesystem::create_directory(folder / "zoe.history.sqlite");

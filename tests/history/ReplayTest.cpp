@@ -170,9 +170,14 @@ TEST(Recorder, KeepsWithinItsLimitsWhateverIsTold) {
       recorder.Happened(event::Drew{Seat::Player, CardCode("no1"), 1});
     }
   }
-  recorder.Happened(event::Played{Seat::Opponent, 1, CardCode(std::string(5000, 'p')), {}, {}, 0});
   EXPECT_EQ(recorder.record().sets.size(), kMostRecordedSets);
   EXPECT_EQ(recorder.record().sets.back().moves.size(), kMostRecordedMoves);
+  recorder.Happened(event::MatchBegun{});
+  recorder.Happened(event::SetBegun{});
+  recorder.Happened(event::Played{Seat::Opponent, 1, CardCode(std::string(5000, 'p')), {}, {}, 0});
+  recorder.Happened(event::Drew{Seat::Player, CardCode("no1"), 1});
+  ASSERT_EQ(recorder.record().sets.size(), 1u) << "nothing is left of the match before";
+  EXPECT_EQ(recorder.record().sets[0].moves.size(), 1u) << "no code of that length";
 }
 
 }  // namespace

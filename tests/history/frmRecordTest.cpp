@@ -28,7 +28,7 @@ class frmRecordTest : public testing::Test {
     history.Store(record);
   }
   frmRecord& Open() {
-    screen = std::make_unique<frmRecord>(stage.services(), frmRecordServices{stage.player, history});
+    screen = std::make_unique<frmRecord>(stage.services(), frmRecordServices{stage.player, history, look});
     screen->Open();
     stage.Settle();
     hand = std::make_unique<test::ScreenHand>(*screen);
@@ -51,6 +51,7 @@ class frmRecordTest : public testing::Test {
   test::TempFolder folder;
   test::ScreenStage stage;
   HistoryFile history;
+  RecordLook look;
   std::unique_ptr<frmRecord> screen;
   std::unique_ptr<test::ScreenHand> hand;
 };
@@ -134,6 +135,30 @@ TEST_F(frmRecordTest, LeadsToReviewAndReplayOfTheChosenMatch) {
   Control<QComboBox>("cmbMode").setCurrentIndex(1);
   Control<QComboBox>("cmbOutcome").setCurrentIndex(3);
   EXPECT_FALSE(Control<QWidget>("cmdReview").isEnabled()) << "nothing is chosen";
+}
+
+TEST_F(frmRecordTest, IsAsItWasAfterAReviewOrAReplay) {
+  Store(1, "Tamsen", false, 120);
+  Store(2, "Brummox", false, 80);
+  Store(3, "Tamsen", false, 70, "Arcade");
+  Open();
+  auto& opponents = Control<QComboBox>("cmbOpponent");
+  opponents.setCurrentIndex(opponents.findText(QStringLiteral("Tamsen")));
+  Control<QComboBox>("cmbOutcome").setCurrentIndex(2);
+  Control<QComboBox>("cmbRates").setCurrentIndex(2);
+  Control<QTableView>("tblMatches").selectRow(1);
+  Click("cmdReview");
+  history.Store(test::SampleMatch(4, "Tamsen"));  // of another program, won or lost
+  Open();
+  ASSERT_GE(screen->shown().size(), 2u);
+  EXPECT_EQ(Control<QComboBox>("cmbOpponent").currentText().toStdString(), "Tamsen");
+  EXPECT_EQ(Control<QComboBox>("cmbOutcome").currentIndex(), 2);
+  EXPECT_EQ(Control<QComboBox>("cmbRates").currentIndex(), 2);
+  const auto row = Control<QTableView>("tblMatches").currentIndex().row();
+  EXPECT_EQ(screen->shown().at(static_cast<std::size_t>(row)).after, 120);
+  look = {};  // the menu was open
+  Open();
+  EXPECT_EQ(screen->shown().size(), 4u);
 }
 
 TEST_F(frmRecordTest, SaysWhatBecameOfADamagedHistory) {

@@ -1,6 +1,7 @@
 // A match played again: forth and back give the same tables, and keys and the clock lead through it.
 #include <gtest/gtest.h>
 
+#include <QComboBox>
 #include <QLabel>
 
 #include "history/frmReplay.h"
@@ -105,6 +106,26 @@ TEST_P(frmReplayTest, GoesFromSetToSetAndRunsByItself) {
   EXPECT_EQ(stage.scheduler.RunningTimers(), 0);
   hand->Key(Qt::Key_Escape);
   EXPECT_EQ(stage.recorded.calls, std::vector<std::string>{"OpenRecord"});
+}
+
+TEST_P(frmReplayTest, GoesToASetByItsNumber) {
+  Open();
+  auto& sets = *screen->findChild<QComboBox*>(QStringLiteral("cmbSet"));
+  ASSERT_EQ(sets.count(), static_cast<int>(record.sets.size()));
+  hand->Key(Qt::Key_3);
+  EXPECT_EQ(Text("lblStrip").substr(0, 6), "Set 3.");
+  EXPECT_EQ(sets.currentIndex(), 2);
+  hand->Key(Qt::Key_Left);
+  EXPECT_EQ(sets.currentIndex(), 1) << "it says where the replay is";
+  const Told before = Seen();
+  hand->Key(static_cast<Qt::Key>(Qt::Key_0 + record.sets.size() + 1));
+  EXPECT_EQ(Seen(), before) << "there is no such set";
+  sets.setFocus();
+  hand->Key(Qt::Key_Down);
+  EXPECT_EQ(Text("lblStrip").substr(0, 6), "Set 3.");
+  EXPECT_EQ(stage.announcer.Last(), Text("lblStrip"));
+  hand->Key(Qt::Key_1);
+  EXPECT_EQ(Text("lblStrip").substr(0, 6), "Set 1.");
 }
 
 TEST_P(frmReplayTest, SaysThatThereIsNothingToPlay) {

@@ -66,6 +66,19 @@ TEST(MatchReview, HasTheTurnsAsTheyWerePlayedAndNothingOfTheOtherHand) {
   EXPECT_TRUE(TurnsOf(MatchRecord()).empty());
 }
 
+TEST_F(frmReviewTest, SaysWhatItTakesForADeckThatIsNotKnown) {
+  MatchRecord record = test::SampleMatch(3, "Tamsen");
+  EXPECT_EQ(AssumptionText(record), "");
+  record.opponent = "Yourself";
+  EXPECT_EQ(TurnsOf(record).front().position.side(Seat::Opponent).deck->getValue(), record.deck);
+  record.opponent = "Somebody";  // a text that was typed may name anybody
+  EXPECT_FALSE(TurnsOf(record).front().position.side(Seat::Opponent).deck) << "not a deck of empty cards";
+  record.strategy.clear();
+  Open(record, 1);
+  EXPECT_TRUE(screen->findChild<QLabel*>(QStringLiteral("lblAssumed"))->isVisible());
+  EXPECT_EQ(Text("lblAssumed"), AssumptionText(record));
+}
+
 TEST(MatchReview, SaysWhatADecisionWasWorthAndPutsTheDearestFirst) {
   const std::vector<const char*> theirs{"un0", "un0"};
   const MatchPosition lost =

@@ -8,6 +8,7 @@
 
 #include "history/MatchRecorder.h"
 #include "history/MatchReplay.h"
+#include "match/Dealing.h"
 #include "network/TwoPrograms.h"
 #include "support/EventLog.h"
 
@@ -42,7 +43,7 @@ struct Recorded {
     heard = player.match();
     // Who sat down was told before anybody could listen.
     const clsGame& game = *player.program->game();
-    const event::MatchBegun begun{game.OppName, game.Wager, {*game.SideDeck, *game.CompDeck}};
+    const event::MatchBegun begun{game.OppName, game.Wager, {HandOf(*game.SideDeck), HandOf(*game.CompDeck)}};
     for (MatchObserver* each : std::initializer_list<MatchObserver*>{&log, &recorder}) {
       each->Happened(begun);
       heard->observers().Add(*each);

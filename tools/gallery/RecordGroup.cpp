@@ -31,11 +31,15 @@ void Fill(HistoryFile& history) {
 }
 
 void RenderReview(Gallery& gallery, test::ScreenStage& stage) {
-  frmReview review(stage.services(), {stage.player, test::SampleMatch(12, "Tamsen"), 1000});
-  review.Open();
-  if (review.running() != nullptr) review.running()->Wait();
-  stage.Settle();
-  gallery.Save(review, "review");
+  MatchRecord played = test::SampleMatch(12, "Tamsen");
+  for (const char* name : {"review", "review-peer"}) {
+    frmReview review(stage.services(), {stage.player, played, 1000});
+    review.Open();
+    if (review.running() != nullptr) review.running()->Wait();
+    stage.Settle();
+    gallery.Save(review, name);
+    played.strategy.clear();
+  }
   MatchRecord left;
   left.mode = "Campaign";
   left.opponent = "Tamsen";
@@ -70,14 +74,15 @@ void RenderRecord(Gallery& gallery) {
   FillSamplePlayer(stage.player);
   stage.player.FileName = folder / "mara.vnt";
   HistoryFile history(folder / "mara.history.sqlite");
+  RecordLook look;
   for (const char* name : {"record-empty", "record"}) {
-    frmRecord record(stage.services(), {stage.player, history});
+    frmRecord record(stage.services(), {stage.player, history, look});
     record.Open();
     stage.Settle();
     gallery.Save(record, name);
     if (history.Lines().empty()) Fill(history);
   }
-  frmRecord record(stage.services(), {stage.player, history});
+  frmRecord record(stage.services(), {stage.player, history, look});
   record.Open();
   record.findChild<QComboBox*>(QStringLiteral("cmbRates"))->setCurrentIndex(3);
   stage.Settle();
