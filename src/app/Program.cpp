@@ -250,8 +250,8 @@ void Program::OpenLobby() {
 
 void Program::OpenMatch() {
   Show([this] {
-    auto match =
-        std::make_shared<frmGame>(frmGameServices{Services(), *player_, *game_, Network(), *booking_});
+    auto match = std::make_shared<frmGame>(
+        frmGameServices{Services(), *player_, *game_, Network(), *booking_, &settings_});
     if (game_->isNetwork()) network_->MatchOpened(match->engine());
     KeepMatch(*match);
     return match;

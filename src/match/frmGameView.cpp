@@ -59,6 +59,7 @@ void frmGame::ControlsChanged() {
   opponent_->setHandEnabled(controls.opponentHand);
   player_->setTableEnabled(controls.table[0]);
   opponent_->setTableEnabled(controls.table[1]);
+  guide_.Look();
 }
 
 void frmGame::LightsChanged() {
@@ -216,6 +217,7 @@ void frmGame::Hint() {
 }
 
 bool frmGame::FocusKey(const QKeyEvent& event) {
+  if (ctlGuide_ != nullptr && !event.isAutoRepeat() && ctlGuide_->Key(event.key())) return true;
   switch (event.key()) {
     case Qt::Key_Right:
     case Qt::Key_Down:
