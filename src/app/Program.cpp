@@ -17,6 +17,7 @@
 #include "network/frmNetwork.h"
 #include "platform/QtTcpSocket.h"
 #include "presentation/LayoutText.h"
+#include "presentation/Motion.h"
 #include "presentation/PictureSizes.h"
 #include "presentation/TipSkin.h"
 #include "screens/frmHelp.h"
@@ -296,7 +297,8 @@ void Program::OpenHelp() {
       ScreenServices{services.scheduler, services.dialogs, services.random, services.buttons, *helpEffects_,
                      services.look, services.getPic, services.portraits, services.navigator, services.window,
                      services.announcer},
-      style, HelpPages(LayoutText("README"), player_.get()));
+      style, HelpPages(LayoutText("README"), player_.get()),
+      player_ == nullptr ? DesktopMoves() : MotionWanted(*player_));
   help_->setParent(&stage_, Qt::Window | Qt::FramelessWindowHint);
   help_->move(stage_.geometry().center() - help_->rect().center());
   help_->Open();
