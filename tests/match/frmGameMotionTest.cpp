@@ -23,6 +23,8 @@ using frmGameMotionTest = test::MatchScreenTest;
 INSTANTIATE_TEST_SUITE_P(Styles, frmGameMotionTest, testing::Values("Slate", "Ember"),
                          [](const auto& style) { return std::string(style.param); });
 
+constexpr int kLongestScene = 1500;  // milliseconds
+
 /// A desktop on which nothing is to move, while it lives.
 class StillDesktop {
  public:
@@ -223,6 +225,23 @@ TEST_P(frmGameMotionTest, AKeyEndsTheSceneOfAWinAndGoesOn) {
     ScreenHand(*match.screen).Key(Qt::Key_Return);
     EXPECT_EQ(match.recorded.Count("LeaveMatch"), 1);
   }
+}
+
+TEST_P(frmGameMotionTest, AnOpenedPlaceOfTheCircuitIsMoreThanAWin) {
+  std::vector<QImage> scenes;
+  for (const bool opens : {false, true}) {
+    MatchScreenSetup setup = Setup({2});
+    setup.mode = std::string(kModeCampaign);
+    MatchScreen match(setup);
+    if (opens) match.game.CampaignWinRef = match.player.Tamsen_Wins;
+    match.Begin();
+    match.engine().peer().OppForfeit();
+    match.scheduler.Advance(900);
+    scenes.push_back(match.screen->grab().toImage());
+    match.scheduler.Advance(kLongestScene - 300);
+    EXPECT_FALSE(match.screen->motionLayer().moving());
+  }
+  EXPECT_NE(scenes[0], scenes[1]);
 }
 
 TEST_P(frmGameMotionTest, ALossIsQuiet) {
