@@ -54,24 +54,29 @@ QSize ExampleScene::Size(const CardLook& look) {
   return {2 * kPadding + cards + kSumWidth, 2 * kPadding + kCardHeight};
 }
 
-ExampleScene::ExampleScene(const HelpExample& example, const CardLook& look, const SceneStyle& style,
-                           double ratio, QPointF plate, QPointF card, double height)
+const QImage& SmallCards::Of(const CardCode& code) {
+  QImage& made = made_[code.text()];
+  if (made.isNull()) made = SmallCard(code, look_, kCardHeight, ratio_);
+  return made;
+}
+
+ExampleScene::ExampleScene(const HelpExample& example, SmallCards& cards, const SceneStyle& style,
+                           QPointF plate)
     : style_(style),
-      ratio_(ratio),
-      plate_(QRect(plate.toPoint(), Size(look))),
+      ratio_(cards.ratio()),
+      plate_(QRect(plate.toPoint(), Size(cards.look()))),
       sum_(plate_.right() - kPadding - kSumWidth, plate_.top(), kSumWidth, plate_.height()) {
-  const auto picture = [&](const CardCode& code) { return SmallCard(code, look, kCardHeight, ratio); };
   const std::vector<CardCode> before = TableBefore(example);
   const std::vector<CardCode> after = TableAfter(example);
   from_ = SumOf(before);
   to_ = SumOf(after);
   QPointF place = plate_.topLeft() + QPointF(kPadding, kPadding);
-  const QPointF step(SmallWidth(look) + kCardGap, 0);
+  const QPointF step(SmallWidth(cards.look()) + kCardGap, 0);
   for (std::size_t i = 0; i < before.size(); ++i, place += step) {
-    Lying lying{place, picture(after[i]), {}};
+    Lying lying{place, cards.Of(after[i]), {}};
     if (!(before[i] == after[i])) {
       lying.roll.emplace(Flight{.front = lying.picture,
-                                .back = picture(before[i]),
+                                .back = cards.Of(before[i]),
                                 .from = place,
                                 .to = place,
                                 .lift = kRollHeight});
@@ -79,22 +84,27 @@ ExampleScene::ExampleScene(const HelpExample& example, const CardLook& look, con
     table_.push_back(std::move(lying));
   }
   playedPlace_ = place;
-  played_ = picture(after.back());
-  const double scale = std::max(height, 1.0) / kCardHeight;
-  const QPointF corner(step.x() * (scale - 1) / 2,
-                       kCardHeight * (scale - 1) / 2);  // it grows from its middle
-  flight_.emplace(Flight{.front = SmallCard(after.back(), look, kCardHeight, 2 * ratio),  // it begins larger
+  played_ = cards.Of(after.back());
+  turns_ = CardCode(example.code).Caption() != after.back().Caption();
+}
 
-                         .back = {},
-                         .from = card + corner,
-                         .to = place,
+void ExampleScene::FlyFrom(const QImage& card, QPointF place) {
+  const QSizeF small = played_.deviceIndependentSize();
+  const double scale = card.deviceIndependentSize().height() / small.height();
+  QImage front = card;
+  front.setDevicePixelRatio(card.devicePixelRatio() * scale);  // as sharp as where it begins
+  const QPointF grown(small.width() * (scale - 1) / 2, small.height() * (scale - 1) / 2);
+  flight_.emplace(Flight{.front = turns_ ? played_ : front,
+                         .back = turns_ ? front : QImage(),
+                         .from = place + grown,
+                         .to = playedPlace_,
                          .fromScale = scale,
                          .lift = kSceneLift});
 }
 
 QRegion ExampleScene::Area(double way) const {
   const double flown = Part(way, kFlightBegins, kFlightLasts);
-  return flown > 0 && flown < 1 ? QRegion(plate_) + flight_->Area(flown) : QRegion(plate_);
+  return flight_ && flown > 0 && flown < 1 ? QRegion(plate_) + flight_->Area(flown) : QRegion(plate_);
 }
 
 void ExampleScene::Paint(QPainter& painter, double way) const {
@@ -120,7 +130,7 @@ void ExampleScene::Paint(QPainter& painter, double way) const {
   const double flown = Part(way, kFlightBegins, kFlightLasts);
   if (flown == 1) {
     painter.drawImage(playedPlace_, played_);
-  } else if (flown > 0) {
+  } else if (flight_ && flown > 0) {
     flight_->Paint(painter, flown);
   }
 }

@@ -4,7 +4,10 @@
 
 #include <QColor>
 #include <QFont>
+#include <functional>
+#include <map>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "cards/ctlCard.h"
@@ -20,12 +23,31 @@ struct SceneStyle {
   QFont font;
 };
 
+/// The face of a card, so high in layout pixels.
+[[nodiscard]] QImage SmallCard(const CardCode& code, const CardLook& look, double height, double ratio);
+
+/// The faces that lie on the tables of examples, each made once.
+class SmallCards {
+ public:
+  /// `look` must outlive it; `ratio` is that of device pixels.
+  SmallCards(const CardLook& look, double ratio) : look_(look), ratio_(ratio) {}
+  [[nodiscard]] const QImage& Of(const CardCode& code);
+  [[nodiscard]] const CardLook& look() const { return look_; }
+  [[nodiscard]] double ratio() const { return ratio_; }
+
+ private:
+  std::reference_wrapper<const CardLook> look_;
+  double ratio_;
+  std::map<std::string, QImage> made_;
+};
+
 class ExampleScene final : public Moving {
  public:
-  /// `plate` is its top left corner, `card` where the card begins, `height` that card's; layout pixels. Cards
-  /// are drawn in this ratio of device pixels.
-  ExampleScene(const HelpExample& example, const CardLook& look, const SceneStyle& style, double ratio,
-               QPointF plate = {}, QPointF card = {}, double height = 0);
+  /// `plate` is its top left corner, in layout pixels.
+  ExampleScene(const HelpExample& example, SmallCards& cards, const SceneStyle& style, QPointF plate = {});
+  /// The played card comes from this place, where it lies as in `card`; without it, it just lies there at the
+  /// end.
+  void FlyFrom(const QImage& card, QPointF place);
 
   [[nodiscard]] QRegion Area(double way) const override;
   void Paint(QPainter& painter, double way) const override;
@@ -43,6 +65,7 @@ class ExampleScene final : public Moving {
 
   std::vector<Lying> table_;
   QImage played_;
+  bool turns_ = false;  // it lies there with another face than on the page
   QPointF playedPlace_;
   std::optional<FlyingPicture> flight_;
   SceneStyle style_;
@@ -52,8 +75,5 @@ class ExampleScene final : public Moving {
   int from_;
   int to_;
 };
-
-/// The face of a card, so high in layout pixels.
-[[nodiscard]] QImage SmallCard(const CardCode& code, const CardLook& look, double height, double ratio);
 
 }  // namespace kv

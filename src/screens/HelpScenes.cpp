@@ -14,15 +14,15 @@ constexpr int kSceneDelay = 350;  // from one to the next
 
 HelpScenes::HelpScenes(QTextBrowser& page, MotionLayer& layer, const CardLook& look, SceneStyle style,
                        bool moves)
-    : page_(page), layer_(layer), look_(look), style_(std::move(style)), moves_(moves) {}
+    : page_(page), layer_(layer), cards_(look, 1), style_(std::move(style)), moves_(moves) {}
 
-void HelpScenes::PageChanged(double cardHeight) {
+void HelpScenes::PageChanged() {
   layer_.FinishAll();
-  cardHeight_ = cardHeight;
+  cards_ = SmallCards(cards_.look(), page_.devicePixelRatioF());
   Find();
   for (const Shown& each : shown_) {
     BreakBehind(each.scene);
-    const ExampleScene scene(*each.example, look_, style_, page_.devicePixelRatioF());
+    const ExampleScene scene(*each.example, cards_, style_);
     page_.document()->addResource(QTextDocument::ImageResource,
                                   QUrl(QStringLiteral("scene:") + QLatin1String(each.example->code)),
                                   scene.Picture());
@@ -57,7 +57,7 @@ void HelpScenes::Find() {
 QRect HelpScenes::PlateOf(const Shown& shown) const {
   QTextCursor cursor(page_.document());
   cursor.setPosition(shown.scene);
-  return {page_.cursorRect(cursor).topLeft(), ExampleScene::Size(look_)};
+  return {page_.cursorRect(cursor).topLeft(), ExampleScene::Size(cards_.look())};
 }
 
 template <typename Which>
@@ -70,11 +70,12 @@ bool HelpScenes::Play(const Which& which) {
     if (!moves_ || !page_.viewport()->rect().contains(plate) || !which(each, plate)) continue;
     QTextCursor cursor(page_.document());
     cursor.setPosition(each.card);
-    const QPoint card = page_.viewport()->mapTo(&window, page_.cursorRect(cursor).topLeft());
-    layer_.Begin(
-        std::make_unique<ExampleScene>(*each.example, look_, style_, page_.devicePixelRatioF(),
-                                       page_.viewport()->mapTo(&window, plate.topLeft()), card, cardHeight_),
-        {.delay = delay, .length = kSceneTime, .easing = Easing::Even});
+    const QUrl card(QStringLiteral("card:") + QLatin1String(each.example->code));
+    auto scene = std::make_unique<ExampleScene>(*each.example, cards_, style_,
+                                                page_.viewport()->mapTo(&window, plate.topLeft()));
+    scene->FlyFrom(page_.document()->resource(QTextDocument::ImageResource, card).value<QImage>(),
+                   page_.viewport()->mapTo(&window, page_.cursorRect(cursor).topLeft()));
+    layer_.Begin(std::move(scene), {.delay = delay, .length = kSceneTime, .easing = Easing::Even});
     each.played = any = true;
     delay += kSceneDelay;
   }

@@ -15,8 +15,8 @@ class HelpScenes {
   /// All must outlive it; `layer` covers the window of the page. Without `moves` they are pictures only.
   HelpScenes(QTextBrowser& page, MotionLayer& layer, const CardLook& look, SceneStyle style, bool moves);
 
-  /// The page shows another text, which has no pictures yet; a card is so high there.
-  void PageChanged(double cardHeight);
+  /// The page shows another text, which has the pictures of its cards already.
+  void PageChanged();
   /// Those that stand in view as a whole and did not play yet.
   void PlayNew();
   /// All that stand in view; false when there is none.
@@ -39,10 +39,9 @@ class HelpScenes {
 
   QTextBrowser& page_;
   MotionLayer& layer_;
-  const CardLook& look_;
+  SmallCards cards_;
   const SceneStyle style_;
   const bool moves_;
-  double cardHeight_ = 0;
   std::vector<Shown> shown_;
 };
 

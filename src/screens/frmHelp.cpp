@@ -83,7 +83,7 @@ void frmHelp::ShowPage(int index) {
   const bool plays = moves_ && page.text.find("(scene:") != std::string::npos;
   txtPage_->setMarkdown(ToQString("## " + page.title + "\n\n" + page.text + (plays ? kAgain : "")));
   AddCardPictures();
-  scenes_->PageChanged(CardHeight());
+  scenes_->PageChanged();
   SpaceParagraphs();
   DressTables();
   txtPage_->setAccessibleName(ToQString(page.title));
