@@ -18,6 +18,7 @@
 #include "platform/Memory.h"
 #include "platform/QtTcpSocket.h"
 #include "presentation/LayoutText.h"
+#include "presentation/Motion.h"
 #include "presentation/PictureSizes.h"
 #include "presentation/TipSkin.h"
 #include "screens/frmHelp.h"
@@ -260,8 +261,8 @@ void Program::OpenLobby() {
 
 void Program::OpenMatch() {
   Show([this] {
-    auto match =
-        std::make_shared<frmGame>(frmGameServices{Services(), *player_, *game_, Network(), *booking_});
+    auto match = std::make_shared<frmGame>(
+        frmGameServices{Services(), *player_, *game_, Network(), *booking_, &settings_});
     if (game_->isNetwork()) network_->MatchOpened(match->engine());
     KeepMatch(*match);
     return match;
@@ -306,7 +307,8 @@ void Program::OpenHelp() {
       ScreenServices{services.scheduler, services.dialogs, services.random, services.buttons, *helpEffects_,
                      services.look, services.getPic, services.portraits, services.navigator, services.window,
                      services.announcer},
-      style, HelpPages(LayoutText("README"), player_.get()));
+      style, HelpPages(LayoutText("README"), player_.get()),
+      player_ == nullptr ? DesktopMoves() : MotionWanted(*player_));
   help_->setParent(&stage_, Qt::Window | Qt::FramelessWindowHint);
   help_->move(stage_.geometry().center() - help_->rect().center());
   help_->Open();

@@ -149,6 +149,38 @@ bool WagerEntry::InfoStandsOut() const {
   return game_.Mode == kModeArcade && game_.CreditsRef->Value > player_.Arcade_Best;
 }
 
+std::string WagerEntry::ButtonTip() const {
+  if (!boxEnabled_) return "The other side has the word.";
+  if (text_.empty() || text_ == kUnknown) return "Say first what you play for.";
+  if (!buttonEnabled_) return WhyNotPermitted(AmountOf(text_));
+  switch (caption_) {
+    case WagerCaption::Propose:
+      return "Tells the other side what you would play for. (Enter)";
+    case WagerCaption::Accept:
+      return "Plays for what the other side proposes. (Enter)";
+    default:
+      return "The stake leaves your credits; the winner gets it back twice. (Enter)";
+  }
+}
+
+std::string WagerEntry::WhyNotPermitted(std::int64_t amount) const {
+  if (amount > game_.CreditsRef->Value) {
+    return "You have only " + std::to_string(game_.CreditsRef->Value) + " credits.";
+  }
+  if (amount > game_.MaxWager) return "The most in this match is " + std::to_string(game_.MaxWager) + ".";
+  return "The least in this match is " + std::to_string(std::max<int>(game_.MinWager, 1)) + ".";
+}
+
+std::string WagerEntry::InfoTip() const {
+  return game_.Mode == kModeArcade ? "A click fills in what would just reach the high score."
+                                   : "A click fills in the most that you can play for.";
+}
+
+std::string WagerEntry::EndTip() const {
+  return game_.Mode == kModeArcade ? "Ends the run: its credits become the high score if they beat it. (Esc)"
+                                   : "Back, without a match. (Esc)";
+}
+
 ProposalTexts TextsOfProposal(std::string_view playerName, std::int32_t amount) {
   const std::string number = std::to_string(amount);
   return {.wage = "[Wage]" + number,

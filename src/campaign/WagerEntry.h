@@ -69,6 +69,12 @@ class WagerEntry {
   [[nodiscard]] std::string CreditsText() const;
   /// The info label; empty where it is hidden.
   [[nodiscard]] std::string InfoText() const;
+  /// What the main button does, or why it cannot be pressed now.
+  [[nodiscard]] std::string ButtonTip() const;
+  /// What a click on the info label does.
+  [[nodiscard]] std::string InfoTip() const;
+  /// What the end button does.
+  [[nodiscard]] std::string EndTip() const;
   /// The run has passed the high score: the info label is red and bold.
   [[nodiscard]] bool InfoStandsOut() const;
 
@@ -76,6 +82,7 @@ class WagerEntry {
   [[nodiscard]] bool Valid(std::string_view text) const;
   [[nodiscard]] bool Permitted(std::int64_t amount) const;
   void Judge();
+  [[nodiscard]] std::string WhyNotPermitted(std::int64_t amount) const;
   void ProposeLast();
   BoxText Fill(std::int64_t amount);
 

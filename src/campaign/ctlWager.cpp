@@ -133,6 +133,10 @@ void ctlWager::Refresh() {
   const std::string_view caption = CaptionText(entry_.caption());
   cmdWager_->setCaption(ToQString(caption));
   cmdWager_->setEnabled(entry_.buttonEnabled());
+  cmdWager_->setToolTip(ToQString(entry_.ButtonTip()));
+  cmdEnd_->setToolTip(ToQString(entry_.EndTip()));
+  lblCredits_->setToolTip(QStringLiteral("A click fills in the most that you can play for."));
+  lblWagerInfo_->setToolTip(ToQString(entry_.InfoTip()));
 }
 
 void ctlWager::TextChanged() {

@@ -1,8 +1,11 @@
 #include "campaign/frmCampaign.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QToolTip>
 
+#include "campaign/DeskTips.h"
 #include "match/clsGame.h"
 #include "platform/QtText.h"
 #include "presentation/NameText.h"
@@ -42,6 +45,7 @@ frmCampaign::frmCampaign(const ScreenServices& services, clsPlayer& player, clsG
   for (int i = 0; i < kCircuitTiles; ++i) BuildTile(i);
   cmdDeck_ = NewButton(u"cmdDeck", [this] { ViewDeck(); });
   cmdDeck_->setGeometry(layout().rect(PlaceOf(u"cmdDeck")));
+  cmdDeck_->setToolTip(QStringLiteral("Your deck, your cards and the shop, without a match."));
   ctlTitlebar_ = NewTitlebar();
   ctlTitlebar_->Quit = [this] { Close(); };
 }
@@ -92,6 +96,7 @@ void frmCampaign::BuildTile(int index) {
   }
   shown->setVisible(tile.visible);
   shown->setAccessibleName(shown->Description());
+  shown->setToolTip(ToQString(OpponentTip(tile, player_.Credits->Value)));
   tiles_.at(static_cast<std::size_t>(index)) = shown;
   if (tile.enabled) BuildTarget(index);
 }
@@ -104,6 +109,7 @@ void frmCampaign::BuildTarget(int index) {
   target->setObjectName(QStringLiteral("cmdOpp%1").arg(index));
   target->setGeometry(tile.geometry());
   target->setAccessibleName(tile.Description());
+  target->setToolTip(tile.toolTip());
   target->Entered = [this, &tile] {
     PlainHighlights();
     tile.Color(layout().bag(u"ctlOpponent").colour(u"hover_color", Qt::white));
@@ -139,6 +145,19 @@ void frmCampaign::Shown() {
   if (closing()) return;
   busy_ = false;
   Close();
+}
+
+/// The places of the opponents who are still to come are painted, and no controls.
+bool frmCampaign::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return Screen::event(event);
+  const auto* help = static_cast<QHelpEvent*>(event);
+  for (int i = 1; i < kNarrowTiles; ++i) {
+    if (!ctlOpp(i).isHidden() || !ctlOpp(i).geometry().contains(help->pos())) continue;
+    QToolTip::showText(help->globalPos(), ToQString(ClosedTileTip(circuit_.Tile(i - 1))), this,
+                       ctlOpp(i).geometry());
+    return true;
+  }
+  return Screen::event(event);
 }
 
 bool frmCampaign::Begin() {

@@ -34,6 +34,7 @@ class frmCampaign final : public Screen {
  protected:
   void Activate() override;
   void Shown() override;
+  bool event(QEvent* event) override;
   void PlainHighlights() override;
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;

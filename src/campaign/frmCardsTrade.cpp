@@ -16,9 +16,14 @@ QString SpokenAmount(const std::string& shown) {
 void frmCardsTrade::Build(QWidget* parent, Layout& layout) {
   lblBuyorSell_ = layout.NewLabel(u"lblBuyorSell", parent);
   lblCost_ = layout.NewLabel(u"lblCost", parent);
+  lblCost_->setAttribute(Qt::WA_TransparentForMouseEvents, false);  // it has a tip
   lblAmountHeader_ = layout.NewLabel(u"lblAmountHeader", parent);
   lblAmount_ = layout.NewLabel(u"lblAmount", parent);
   lblRefusal_ = layout.NewLabel(u"lblRefusal", parent);
+}
+
+void frmCardsTrade::setPriceTip(const QString& tip) {
+  lblCost_->setToolTip(tip);
 }
 
 void frmCardsTrade::Show(const TradeArea& shop) {

@@ -17,6 +17,7 @@ class frmCardsTrade {
   /// The control that shows the picked card; a child of the screen's.
   void setCard(ctlCard* card) { ctlTrade_ = card; }
   void Show(const TradeArea& shop);
+  void setPriceTip(const QString& tip);
 
  private:
   ctlCard* ctlTrade_ = nullptr;

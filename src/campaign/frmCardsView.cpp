@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <utility>
 
+#include "campaign/DeskTips.h"
 #include "campaign/frmCards.h"
 #include "match/clsGame.h"
 #include "platform/QtText.h"
@@ -133,11 +134,13 @@ void frmCards::RefreshBanks() {
     for (std::size_t value = 0; value < banks_.at(kind).size(); ++value) {
       ctlCard* card = banks_.at(kind).at(value);
       if (card == nullptr) continue;
-      const BankCard shown = round_.desk().Bank({static_cast<int>(kind) + 1, static_cast<int>(value) + 1});
+      const CardPlace place{static_cast<int>(kind) + 1, static_cast<int>(value) + 1};
+      const BankCard shown = round_.desk().Bank(place);
       card->setCount(std::to_string(shown.count));
       card->setPlace(QStringLiteral("%1 in the collection").arg(shown.count));
       card->setVisible(shown.visible);
       card->setEnabled(shown.enabled);
+      card->setToolTip(ToQString(BankTip(round_.desk(), place)));
     }
   }
 }
@@ -147,6 +150,7 @@ void frmCards::RefreshDeck() {
     const CardCode& code = round_.desk().Slot(slot);
     ctlDeck(slot).setCard(code.text());
     ctlDeck(slot).setVisible(!code.empty());
+    ctlDeck(slot).setToolTip(ToQString(DeckTip(round_.desk(), slot)));
   }
   const int count = round_.desk().DeckCount();
   ShowValue(*lblDeckCount_, u"Cards in the deck", QStringLiteral("Deck %1/%2").arg(count).arg(kDeckSize),
@@ -159,6 +163,8 @@ void frmCards::RefreshShop() {
   cmdTrade_->setVisible(shop.shown);
   cmdTrade_->setCaption(ToQString(shop.caption));
   cmdTrade_->setEnabled(!shop.card.empty() && shop.refusal.empty());
+  cmdTrade_->setToolTip(ToQString(TradeTip(round_.desk())));
+  trade_.setPriceTip(ToQString(PriceTip(round_.desk())));
 }
 
 void frmCards::RefreshButtons() {
@@ -168,6 +174,10 @@ void frmCards::RefreshButtons() {
   cmdBuy_->setEnabled(buttons.buy);
   cmdSell_->setEnabled(buttons.sell);
   cmdContinue_->setEnabled(buttons.next);
+  cmdDeck_->setToolTip(ToQString(ViewTip(round_.desk(), CardView::Deck)));
+  cmdBuy_->setToolTip(ToQString(ViewTip(round_.desk(), CardView::Buy)));
+  cmdSell_->setToolTip(ToQString(ViewTip(round_.desk(), CardView::Sell)));
+  cmdContinue_->setToolTip(ToQString(ContinueTip(round_.desk())));
   const bool settled = round_.desk().view() != CardView::Null;
   const bool stake = settled && cards_.game.Mode != kModeDeckConfig && cards_.game.Mode != kModeNetworkArcade;
   lblWagerHeader_->setVisible(stake);

@@ -22,10 +22,12 @@ frmGame::frmGame(const frmGameServices& services)
       reasons_(services.booking),
       hint_(services.game, services.player.TurnMode_Opt),
       engine_(services.game, MatchOptionsOf(services.player), *this, services.network, services.booking,
-              services.dialogs, services.random) {
+              services.dialogs, services.random),
+      guide_(services.game, services.player, services.settings, engine_.shown()) {
   observers_.Add(sentences_);
   observers_.Add(reasons_);
   observers_.Add(hint_);
+  observers_.Add(guide_);
   engine_.setObserver(&observers_);
   BuildTimers();
   BuildPanel();
@@ -73,6 +75,8 @@ void frmGame::BuildControls() {
   }
   ctlTitlebar_ = NewTitlebar();
   ctlTitlebar_->Quit = [this] { engine_.person().Forfeit(); };
+  if (guide_.active())
+    ctlGuide_ = new ctlGuide(this, layout(), services_.buttons, guide_, services_.announcer);
   ctlBust_ = new ctlBust(this, layout(), services_.buttons);
   ctlBust_->Click = [this] { engine_.Continue(); };
   ctlBust_->hide();

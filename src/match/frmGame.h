@@ -10,6 +10,7 @@
 #include "match/MatchSentences.h"
 #include "match/ctlBust.h"
 #include "match/ctlChat.h"
+#include "match/ctlGuide.h"
 #include "match/frmGameHand.h"
 #include "match/frmGameMotion.h"
 #include "match/frmGameServices.h"
@@ -46,6 +47,8 @@ class frmGame final : public Screen, private MatchView {
   [[nodiscard]] ctlTitlebar& titlebar() { return *ctlTitlebar_; }
   [[nodiscard]] MotionLayer& motionLayer() { return *motionLayer_; }
   [[nodiscard]] QLabel& lblWager() { return *lblWager_; }
+  /// Null where nothing can be said.
+  [[nodiscard]] ctlGuide* guide() { return ctlGuide_; }
 
  protected:
   bool event(QEvent* event) override;
@@ -91,6 +94,7 @@ class frmGame final : public Screen, private MatchView {
   MatchHint hint_;
   MatchObservers observers_;
   MatchEngine engine_;
+  MatchGuide guide_;
   clsCardArray keys_;                             // the player's, as they were when the screen was activated
   std::array<std::unique_ptr<Timer>, 4> timers_;  // by MatchTimer
   std::unique_ptr<frmGameHand> hand_;
@@ -106,7 +110,8 @@ class frmGame final : public Screen, private MatchView {
   ctlBust* ctlBust_ = nullptr;
   QLabel* lblWager_ = nullptr;
   std::unique_ptr<frmGameStrip> strip_;
-  ctlChat* chat_ = nullptr;  // in a network match only
+  ctlGuide* ctlGuide_ = nullptr;  // in a newcomer's match only
+  ctlChat* chat_ = nullptr;       // in a network match only
 };
 
 }  // namespace kv

@@ -130,7 +130,10 @@ void frmGameMotion::See(const event::MatchDecided& e) {
 
 void frmGameMotion::See(const event::Booked& e) {
   const bool best = services_.game.Mode == kModeArcade && e.after > services_.player.Arcade_Best;
-  if (e.result == event::Result::Won && best) scene_ = Scene::HighScore;
+  if (e.result != event::Result::Won) return;
+  if (best) scene_ = Scene::HighScore;
+  // The booking has left the counter there only if it has reached a mark.
+  if (services_.game.Mode == kModeCampaign && services_.game.CampaignWinRef) scene_ = Scene::Unlocked;
 }
 
 void frmGameMotion::CardPutHome(int slot, QPoint from) {

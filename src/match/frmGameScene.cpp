@@ -20,14 +20,17 @@ struct SceneStep {
 };
 using From = SceneStep::From;
 
-// A set sparkles once; a match bursts from the banner; a step of the campaign rises like a column; a high
-// score rains gold in three volleys.
+// A set sparkles once; a match bursts from the banner; a step of the campaign rises like a column, and bursts
+// into light when it opens a place of the circuit; a high score rains gold in three volleys.
 constexpr SceneStep kSceneSteps[] = {
     {Scene::Set, From::Portrait, false, 0, 800, 16, 1, 46, 0},
     {Scene::Match, From::BannerTop, false, 120, 1300, 26, 2, 110, 40},
     {Scene::Match, From::Portrait, true, 0, 1100, 20, 1, 62, 20},
     {Scene::CampaignStep, From::BannerTop, true, 100, 1300, 24, 3, 34, -130},
     {Scene::CampaignStep, From::Portrait, false, 0, 1200, 20, 2, 40, -70},
+    {Scene::Unlocked, From::BannerTop, true, 0, 1400, 34, 3, 40, -170},
+    {Scene::Unlocked, From::BannerTop, false, 500, 980, 30, 1, 150, -20},
+    {Scene::Unlocked, From::Portrait, true, 0, 1400, 26, 3, 56, -80},
     {Scene::HighScore, From::BannerTop, true, 0, 1480, 30, 3, 90, 120},
     {Scene::HighScore, From::BannerBottom, true, 200, 1280, 16, 3, 70, 90},
     {Scene::HighScore, From::Portrait, true, 0, 1300, 20, 3, 66, 30},
@@ -86,7 +89,7 @@ void PlayScene(MotionLayer& layer, Scene scene, const SceneLook& look, const Sce
   }
   const int haloes = scene == Scene::Set ? 1 : kHaloes;
   for (int i = 0; i < haloes; ++i) {
-    layer.Begin(std::make_unique<Glow>(places.portrait, scene == Scene::HighScore ? look.gold : look.light,
+    layer.Begin(std::make_unique<Glow>(places.portrait, scene >= Scene::Unlocked ? look.gold : look.light,
                                        kHaloReach, 2),
                 {.delay = i * kHaloTime / 2, .length = kHaloTime, .skippable = true});
   }

@@ -9,7 +9,7 @@
 
 namespace kv {
 
-enum class Scene : std::uint8_t { None, Set, Match, CampaignStep, HighScore };
+enum class Scene : std::uint8_t { None, Set, Match, CampaignStep, Unlocked, HighScore };
 
 /// Of the style.
 struct SceneLook {

@@ -4,6 +4,7 @@
 #include "match/MatchPartners.h"
 #include "match/clsGame.h"
 #include "presentation/ScreenServices.h"
+#include "profile/Settings.h"
 #include "profile/clsPlayer.h"
 
 namespace kv {
@@ -13,6 +14,7 @@ struct frmGameServices : ScreenServices {
   clsGame& game;
   MatchNetwork& network;
   MatchBooking& booking;
+  Settings* settings = nullptr;  // what is remembered for all players; null: nothing
 };
 
 }  // namespace kv

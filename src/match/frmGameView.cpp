@@ -59,6 +59,7 @@ void frmGame::ControlsChanged() {
   opponent_->setHandEnabled(controls.opponentHand);
   player_->setTableEnabled(controls.table[0]);
   opponent_->setTableEnabled(controls.table[1]);
+  guide_.Look();
 }
 
 void frmGame::LightsChanged() {
@@ -83,8 +84,11 @@ void frmGame::LightsChanged() {
 void frmGame::BannerChanged() {
   const MatchBanner& banner = engine_.shown().banner;
   ctlBust_->lblBust().setText(QString::fromStdString(banner.text));
-  ctlBust_->lblReason().setText(QString::fromStdString(reasons_.text()));
-  ctlBust_->lblReason().setAccessibleName(ctlBust_->lblReason().text());
+  // The next set has begun before the banner goes: until then it keeps its reason.
+  if (const QString reason = ToQString(reasons_.text()); !reason.isEmpty() || ctlBust_->isHidden()) {
+    ctlBust_->lblReason().setText(reason);
+    ctlBust_->lblReason().setAccessibleName(reason);
+  }
   ctlButton& button = ctlBust_->cmdBust();
   button.setCaption(QString::fromStdString(banner.caption));
   button.setEnabled(banner.buttonEnabled);
@@ -216,6 +220,7 @@ void frmGame::Hint() {
 }
 
 bool frmGame::FocusKey(const QKeyEvent& event) {
+  if (ctlGuide_ != nullptr && !event.isAutoRepeat() && ctlGuide_->Key(event.key())) return true;
   switch (event.key()) {
     case Qt::Key_Right:
     case Qt::Key_Down:

@@ -27,8 +27,12 @@ double Eased(Easing easing, double time) {
   return t;
 }
 
+bool DesktopMoves() {
+  return QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
+}
+
 bool MotionWanted(const clsPlayer& player) {
-  return player.LightPulse_Opt && QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
+  return player.LightPulse_Opt && DesktopMoves();
 }
 
 }  // namespace kv

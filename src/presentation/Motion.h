@@ -37,6 +37,8 @@ struct Timing {
   bool skippable = false;  // any key or click ends it, and still does what it does
 };
 
+/// Whether the desktop lets anything move.
+[[nodiscard]] bool DesktopMoves();
 /// Whether anything is to move for this player: neither the option for effects nor the desktop is against it.
 [[nodiscard]] bool MotionWanted(const clsPlayer& player);
 

@@ -7,6 +7,7 @@
 #include "cards/CardMeaning.h"
 #include "platform/QtText.h"
 #include "profile/clsPlayer.h"
+#include "screens/HelpExamples.h"
 #include "screens/modgetKeyName.h"
 
 namespace kv {
@@ -25,28 +26,19 @@ constexpr std::array kSources = {
 };
 constexpr std::size_t kCardsBehind = 1;  // the page of the cards comes after the rules
 
-struct Example {
-  const char* code;
-  const char* text;
-};
-constexpr std::array kExamples = {
-    Example{"ps3", "14 on the table: 17."},
-    Example{"ms4", "23 after the draw: 19, and the set goes on."},
-    Example{"fp2", "18 becomes 20, or 22 becomes 20 after a press of the button below it."},
-    Example{"s1-1", "19 to 20 is a loss; as the last card 19 and 1 is a tie, and yours."},
-    Example{"s299", "A drawn 7 lies there: it counts 7 once more."},
-    Example{"s399", "4, 2 and 10 are 16; turned they are -4, -2 and 10: 4."},
-    Example{"s499", "6 and 10 are 16; turned they are -6 and 10: 4."},
-    Example{"s599", "18 becomes 19 or 20; 21 becomes 20 or 19."},
-};
+/// What the picture of it shows.
+std::string SceneWords(const HelpExample& example) {
+  return std::to_string(SumOf(TableBefore(example))) + " becomes " +
+         std::to_string(SumOf(TableAfter(example)));
+}
 
 HelpPage CardsPage() {
   std::string text = "| card | what it does | for example |\n|---|---|---|\n";
-  for (const Example& each : kExamples) {
+  for (const HelpExample& each : HelpExamples()) {
     const CardCode code(each.code);
     // The toolkit leaves out a picture without a name.
-    text += "| ![" + SpokenCard(code) + "](card:" + each.code + ") | " + CardMeaning(code) + " | " +
-            each.text + " |\n";
+    text += "| ![" + SpokenCard(code) + "](card:" + each.code + ") | " + CardMeaning(code) + " | ![" +
+            SceneWords(each) + "](scene:" + each.code + ") " + each.text + " |\n";
   }
   return {"The cards", text};
 }

@@ -12,7 +12,8 @@ class clsPlayer;
 
 struct HelpPage {
   std::string title;
-  std::string text;  // Markdown in UTF-8; a card's picture is the image "card:CODE"
+  std::string text;  // Markdown in UTF-8; the images "card:CODE" and
+                     // "scene:CODE" are a card's picture and the table of its example
 };
 
 /// The chapter under the heading of this title, up to the next heading, without pictures and links; empty if

@@ -3,10 +3,12 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextTable>
 
 #include "cards/ctlCard.h"
+#include "platform/QtKeys.h"
 #include "platform/QtText.h"
 #include "presentation/ChoiceList.h"
 #include "presentation/PanelPainter.h"
@@ -21,13 +23,18 @@ constexpr int kParagraphGap = 4;
 
 constexpr double kCardScale = 0.9;
 
+constexpr const char* kAgain = "\nA click on an example plays it again; Enter plays all of them.\n";
+
 }  // namespace
 
-frmHelp::frmHelp(const ScreenServices& services, std::string_view style, std::vector<HelpPage> pages)
+frmHelp::frmHelp(const ScreenServices& services, std::string_view style, std::vector<HelpPage> pages,
+                 bool moves)
     : Screen(services, "frmHelp", style),
       pages_(std::move(pages)),
+      moves_(moves),
       lstPages_(new QListWidget(this)),
-      txtPage_(new QTextBrowser(this)) {
+      txtPage_(new QTextBrowser(this)),
+      motionLayer_(new MotionLayer(*this, services.scheduler)) {
   NewTitlebar()->Quit = [this] { this->services().navigator.CloseHelp(); };
   SkinWidget(*lstPages_, layout().bag(u"lstPages"));
   layout().Place(u"lstPages", *lstPages_);
@@ -36,11 +43,21 @@ frmHelp::frmHelp(const ScreenServices& services, std::string_view style, std::ve
   txtPage_->setOpenLinks(false);
   txtPage_->document()->setDocumentMargin(layout().bag(u"txtPage").number(u"margin"));
   layout().Place(u"txtPage", *txtPage_);
-  for (const HelpPage& page : pages_) lstPages_->addItem(ToQString(page.title));
+  const PropertyBag page = layout().bag(u"txtPage");
+  scenes_ = std::make_unique<HelpScenes>(
+      *txtPage_, *motionLayer_, services.look,
+      SceneStyle{page.colour(u"fill"), page.colour(u"border"), page.colour(u"color"), txtPage_->font()},
+      moves);
+  for (const HelpPage& each : pages_) lstPages_->addItem(ToQString(each.title));
   connect(lstPages_, &QListWidget::currentRowChanged, this, [this](int row) { ShowPage(row); });
-  for (QWidget* each : {static_cast<QWidget*>(lstPages_), static_cast<QWidget*>(txtPage_)}) {
+  for (QWidget* each :
+       {static_cast<QWidget*>(lstPages_), static_cast<QWidget*>(txtPage_), txtPage_->viewport()}) {
     each->installEventFilter(this);
   }
+  connect(txtPage_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+    motionLayer_->FinishAll();
+    if (isVisible()) scenes_->PlayNew();
+  });
   lstPages_->setCurrentRow(0);
 }
 
@@ -56,15 +73,26 @@ void frmHelp::Shown() {
   lstPages_->setFocus();
 }
 
+void frmHelp::Closing() {
+  motionLayer_->Close();
+}
+
 void frmHelp::ShowPage(int index) {
   if (index < 0) return;
   const HelpPage& page = pages_.at(static_cast<std::size_t>(index));
-  txtPage_->setMarkdown(ToQString("## " + page.title + "\n\n" + page.text));
+  const bool plays = moves_ && page.text.find("(scene:") != std::string::npos;
+  txtPage_->setMarkdown(ToQString("## " + page.title + "\n\n" + page.text + (plays ? kAgain : "")));
   AddCardPictures();
+  scenes_->PageChanged();
   SpaceParagraphs();
   DressTables();
   txtPage_->setAccessibleName(ToQString(page.title));
   txtPage_->moveCursor(QTextCursor::Start);
+  if (isVisible()) scenes_->PlayNew();
+}
+
+double frmHelp::CardHeight() const {
+  return kCardScale * ctlCard(nullptr, services().look).height();
 }
 
 /// The cards that the page shows, as they look on the table.
@@ -72,13 +100,8 @@ void frmHelp::AddCardPictures() {
   static const QRegularExpression pictures(QStringLiteral("card:([^)]+)"));
   const QString text = ToQString(pages_.at(static_cast<std::size_t>(lstPages_->currentRow())).text);
   for (const QRegularExpressionMatch& each : pictures.globalMatch(text)) {
-    ctlCard card(this, services().look);
-    card.setCard(each.captured(1).toStdString());
-    const QImage picture = card.grab().toImage();
-    const QSizeF size = QSizeF(card.size()) * kCardScale;
-    QImage small =
-        picture.scaled((size * devicePixelRatioF()).toSize(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    small.setDevicePixelRatio(devicePixelRatioF());
+    const QImage small = SmallCard(CardCode(each.captured(1).toStdString()), services().look, CardHeight(),
+                                   devicePixelRatioF());
     txtPage_->document()->addResource(QTextDocument::ImageResource, QUrl(each.captured(0)), small);
   }
 }
@@ -126,8 +149,12 @@ void frmHelp::keyPressEvent(QKeyEvent* event) {
 }
 
 bool frmHelp::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonRelease && watched == txtPage_->viewport()) {
+    scenes_->PlayAt(static_cast<QMouseEvent*>(event)->position().toPoint());
+  }
   if (event->type() != QEvent::KeyPress) return Screen::eventFilter(watched, event);
   const int key = static_cast<QKeyEvent*>(event)->key();
+  if (IsEnter(key) && scenes_->PlayAgain()) return true;
   if (key != Qt::Key_Escape && key != Qt::Key_F1) return false;
   services().navigator.CloseHelp();
   return true;

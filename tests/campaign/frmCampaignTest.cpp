@@ -207,5 +207,11 @@ TEST_F(frmCampaignTest, NothingFollowsWhenTheScreenClosesWhileTheBoxIsOpen) {
   EXPECT_THAT(stage.recorded.calls, IsEmpty());
 }
 
+TEST_F(frmCampaignTest, ATileSaysWhyItIsGrey) {
+  Open(60, {10, 10});
+  EXPECT_EQ(screen->ctlOpp(2).toolTip(), QStringLiteral("Plays for at least 100 credits; you have 60."));
+  EXPECT_EQ(screen->cmdOpp(1)->toolTip(), QStringLiteral("Plays for 0 to 50 credits."));
+}
+
 }  // namespace
 }  // namespace kv

@@ -83,5 +83,27 @@ TEST_P(frmGameKeysTest, AKeyThatThePlayerHasBoundIsNoKeyToHear) {
   EXPECT_NE(match.announcer.Last().substr(0, 10), "Your table");
 }
 
+/// The panel of a first match: two buttons and two keys, and everything else goes where it went.
+TEST_P(frmGameKeysTest, ANewcomerIsShownHowByAKeyOrNeverAgain) {
+  MatchScreenSetup setup = Setup({5, 3, 4, 3});
+  setup.newcomer = true;
+  MatchScreen match(setup);
+  match.Begin();
+  ctlGuide& guide = *match.screen->guide();
+  EXPECT_TRUE(guide.isVisible());
+  EXPECT_FALSE(guide.isAncestorOf(match.screen->focusWidget()));
+  EXPECT_THAT(match.announcer.told, testing::Contains(testing::HasSubstr("F5: show me")));
+  ScreenHand(*match.screen).Click(guide.cmdGuideYes());
+  EXPECT_FALSE(guide.cmdGuideYes().isVisible());
+  EXPECT_NE(guide.lblGuide().text().indexOf(QStringLiteral("End Turn")), -1);
+  EXPECT_EQ(match.announcer.told.back(), guide.lblGuide().text().toStdString());
+  ScreenHand(*match.screen).Key(Qt::Key_F6);
+  EXPECT_FALSE(guide.isVisible());
+  EXPECT_TRUE(match.settings.hintSeen("first_special_"));
+  ScreenHand(*match.screen).Key(Qt::Key_F5);
+  EXPECT_FALSE(guide.isVisible());
+  EXPECT_EQ(match.engine().shown().Table(Seat::Player).size(), 1u);
+}
+
 }  // namespace
 }  // namespace kv

@@ -23,6 +23,8 @@ using frmGameMotionTest = test::MatchScreenTest;
 INSTANTIATE_TEST_SUITE_P(Styles, frmGameMotionTest, testing::Values("Slate", "Ember"),
                          [](const auto& style) { return std::string(style.param); });
 
+constexpr int kLongestScene = 1500;  // milliseconds
+
 /// A desktop on which nothing is to move, while it lives.
 class StillDesktop {
  public:
@@ -46,7 +48,9 @@ class ScreenLog final : public MatchObserver {
   void Note(const std::string& what) {
     std::string line = std::to_string(match_.scheduler.timeGetTime()) + " " + what + " |";
     for (const QWidget* each : match_.screen->findChildren<QWidget*>()) {
+      const ctlGuide* guide = match_.screen->guide();
       if (each == &match_.screen->motionLayer()) continue;
+      if (guide != nullptr && (each == guide || guide->isAncestorOf(each))) continue;
       line += each->isHidden() ? '-' : each->isEnabled() ? '+' : '.';
       line +=
           std::to_string(each->x()) + "," + std::to_string(each->y()) + each->accessibleName().toStdString();
@@ -60,11 +64,21 @@ class ScreenLog final : public MatchObserver {
   test::EventLog events_;
 };
 
+/// The click that accepts them is the person's own.
+void AcceptHints(MatchScreen& match) {
+  ASSERT_TRUE(match.screen->guide()->isVisible());
+  ScreenHand(*match.screen).Key(Qt::Key_F5);
+  ASSERT_EQ(match.sound.played.back(), "click");
+  match.sound.played.pop_back();
+}
+
 /// All that can be noticed of a match between two strategies, from its chance alone.
-std::vector<std::string> Trace(const std::string& style, std::uint64_t seed, bool pulsing) {
+std::vector<std::string> Trace(const std::string& style, std::uint64_t seed, bool pulsing,
+                               bool newcomer = false) {
   static constexpr std::array kCards = {"ps3", "ms-4", "fp2", "s11", "s299", "s399", "s499", "s51", "fp6"};
   SeededRandom chance(seed);
   MatchScreenSetup setup{.style = style};
+  setup.newcomer = newcomer;
   for (auto* hand : {&setup.hand, &setup.opponentHand}) {
     for (const char*& card : *hand) card = kCards.at(static_cast<std::size_t>(chance.Rnd() * kCards.size()));
   }
@@ -83,6 +97,7 @@ std::vector<std::string> Trace(const std::string& style, std::uint64_t seed, boo
   match.screen->Open();
   for (int i = 0; i < 60000 && match.recorded.Count("LeaveMatch") == 0; ++i) {
     match.scheduler.Advance(7);
+    if (newcomer && i == 0) AcceptHints(match);
     if (i % 13 == 0) log.Note("at rest");
     if (match.engine().shown().banner.visible) match.engine().Continue();
   }
@@ -99,6 +114,7 @@ TEST_P(frmGameMotionTest, AMatchTakesTheSameCourseToTheMillisecondWhetherThingsM
     const std::vector<std::string> moving = Trace(GetParam(), seed, true);
     EXPECT_GT(moving.size(), 100u);
     EXPECT_EQ(moving, Trace(GetParam(), seed, false)) << seed;
+    EXPECT_EQ(moving, Trace(GetParam(), seed, true, true)) << "with the hints of a first match, " << seed;
     const StillDesktop still;
     EXPECT_EQ(moving, Trace(GetParam(), seed, true)) << seed;
   }
@@ -209,6 +225,23 @@ TEST_P(frmGameMotionTest, AKeyEndsTheSceneOfAWinAndGoesOn) {
     ScreenHand(*match.screen).Key(Qt::Key_Return);
     EXPECT_EQ(match.recorded.Count("LeaveMatch"), 1);
   }
+}
+
+TEST_P(frmGameMotionTest, AnOpenedPlaceOfTheCircuitIsMoreThanAWin) {
+  std::vector<QImage> scenes;
+  for (const bool opens : {false, true}) {
+    MatchScreenSetup setup = Setup({2});
+    setup.mode = std::string(kModeCampaign);
+    MatchScreen match(setup);
+    if (opens) match.game.CampaignWinRef = match.player.Tamsen_Wins;
+    match.Begin();
+    match.engine().peer().OppForfeit();
+    match.scheduler.Advance(900);
+    scenes.push_back(match.screen->grab().toImage());
+    match.scheduler.Advance(kLongestScene - 300);
+    EXPECT_FALSE(match.screen->motionLayer().moving());
+  }
+  EXPECT_NE(scenes[0], scenes[1]);
 }
 
 TEST_P(frmGameMotionTest, ALossIsQuiet) {

@@ -1,12 +1,15 @@
 // The rules inside the program.
 #include <gtest/gtest.h>
 
+#include <QScrollBar>
 #include <QTextDocument>
 
 #include "presentation/LayoutText.h"
 #include "profile/clsPlayer.h"
 #include "screens/frmHelp.h"
+#include "support/MatchTable.h"
 #include "support/ProgramStage.h"
+#include "support/ScreenStage.h"
 
 namespace kv {
 namespace {
@@ -25,6 +28,73 @@ TEST(HelpPages, HoldTheReadMesChaptersWithoutItsPicturesAndLinks) {
   EXPECT_EQ(pages[2].text.find("main menu]"), std::string::npos);
   EXPECT_EQ(Chapter("# A\ntext\n## B\nmore [there](b.md)\n", "B"), "more there\n");
   EXPECT_EQ(Chapter("# A\ntext\n", "B"), "");
+}
+
+TEST(HelpExamples, ComeOutAsInAMatch) {
+  for (const HelpExample& example : HelpExamples()) {
+    test::MatchTable table({});
+    table.engine->Activate();
+    table.LoadTable(Seat::Player, example.table);
+    table.engine->board().PlayFromHand(Seat::Player, 1, CardCode(example.played));
+    EXPECT_EQ(table.engine->shown().Table(Seat::Player), TableAfter(example)) << example.code;
+    const std::string sum = std::to_string(table.engine->shown().Total(Seat::Player));
+    if (CardCode(example.played).type() == CardType::Double) continue;  // its text tells no sum
+    EXPECT_NE(std::string(example.text).find(sum), std::string::npos) << sum << ": " << example.text;
+  }
+}
+
+class HelpScenesTest : public testing::TestWithParam<const char*> {
+ protected:
+  frmHelp& OpenCards(bool moves) {
+    help_ = std::make_unique<frmHelp>(stage.services(), GetParam(), HelpPages(LayoutText("README"), nullptr),
+                                      moves);
+    help_->Open();
+    stage.Settle(50);
+    help_->lstPages().setCurrentRow(1);
+    return *help_;
+  }
+  [[nodiscard]] QImage Now() { return help_->grab().toImage(); }
+
+  test::ScreenStage stage{GetParam()};
+
+ private:
+  std::unique_ptr<frmHelp> help_;
+};
+INSTANTIATE_TEST_SUITE_P(Styles, HelpScenesTest, testing::Values("Slate", "Ember"),
+                         [](const auto& style) { return std::string(style.param); });
+
+TEST_P(HelpScenesTest, AnExamplePlaysOnceAndEndsAsThePictureOnThePage) {
+  frmHelp& help = OpenCards(true);
+  EXPECT_TRUE(help.motionLayer().moving());
+  const QImage begun = Now();
+  QImage before;
+  QImage last;
+  while (help.motionLayer().moving()) {
+    before = std::exchange(last, Now());
+    stage.Settle(16);
+  }
+  EXPECT_NE(begun, last);
+  EXPECT_EQ(last, Now()) << "nothing jumps at the end";
+  EXPECT_EQ(before, Now());
+  stage.globals.effects.StopEffects();
+  EXPECT_EQ(stage.scheduler.RunningTimers(), 0);
+  test::ScreenHand(help.lstPages()).Key(Qt::Key_Return);
+  EXPECT_TRUE(help.motionLayer().moving()) << "again";
+  help.txtPage().verticalScrollBar()->setValue(help.txtPage().verticalScrollBar()->maximum());
+  EXPECT_TRUE(help.motionLayer().moving()) << "what comes into view for the first time";
+  stage.Settle(8000);
+  help.txtPage().verticalScrollBar()->setValue(0);
+  EXPECT_FALSE(help.motionLayer().moving()) << "all were seen";
+  help.lstPages().setCurrentRow(0);
+  test::ScreenHand(help.lstPages()).Key(Qt::Key_Return);
+  EXPECT_FALSE(help.motionLayer().moving()) << "no example on this page";
+}
+
+TEST_P(HelpScenesTest, NothingPlaysWithoutEffects) {
+  frmHelp& help = OpenCards(false);
+  test::ScreenHand(help.lstPages()).Key(Qt::Key_Return);
+  EXPECT_FALSE(help.motionLayer().moving());
+  EXPECT_FALSE(help.txtPage().toPlainText().contains(QStringLiteral("plays it again")));
 }
 
 class HelpTest : public testing::Test, protected test::ProgramStage {
@@ -56,6 +126,7 @@ TEST_F(HelpTest, OpensInFrontOfAMatchThatGoesOnBehindIt) {
       Help()->txtPage().document()->resource(QTextDocument::ImageResource, QUrl(QStringLiteral("card:ps3")));
   EXPECT_FALSE(picture.value<QImage>().isNull());
   EXPECT_EQ(Help()->txtPage().toHtml().count(QStringLiteral("<img src=\"card:")), 8);
+  EXPECT_EQ(Help()->txtPage().toHtml().count(QStringLiteral("<img src=\"scene:")), 8);
   const bool mine = match.engine().shown().Light(Seat::Player);
   match.engine().person().Stand();
   Settle(6000);

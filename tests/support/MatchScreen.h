@@ -12,6 +12,7 @@
 
 #include "match/frmGame.h"
 #include "support/MatchTable.h"
+#include "support/MemorySettings.h"
 #include "support/ScreenStage.h"
 
 namespace kv::test {
@@ -25,6 +26,7 @@ struct MatchScreenSetup {
   std::function<void(clsPlayer&)> options{};
   const char* opponent = "Orrin Vaal";
   double pixelRatio = 1;
+  bool newcomer = false;  // who is offered hints
 };
 
 class MatchScreen final : public ScreenStage, public MatchBooking, public RecordingNetwork {
@@ -35,7 +37,8 @@ class MatchScreen final : public ScreenStage, public MatchBooking, public Record
     if (setup.options) setup.options(player);
     for (const int draw : setup.draws) random.Add((draw - 0.5) / 10);
     DealGame(setup);
-    screen = std::make_unique<frmGame>(frmGameServices{services(), player, game, *this, *this});
+    screen = std::make_unique<frmGame>(
+        frmGameServices{services(), player, game, *this, *this, setup.newcomer ? &settings : nullptr});
   }
 
   /// Shows the screen and lets the match run until nothing moves: the player is to act.
@@ -48,6 +51,8 @@ class MatchScreen final : public ScreenStage, public MatchBooking, public Record
   void SaveWin() override { Book(); }
   void SaveLoss() override { Book(); }
 
+  MemorySettings store;
+  Settings settings{store};
   clsGame game;
   ScriptedStrategy strategy;
   std::unique_ptr<frmGame> screen;

@@ -126,11 +126,16 @@ void RenderPortraits(Gallery& gallery) {
 void RenderHelp(Gallery& gallery) {
   test::ScreenStage stage(gallery.style(), gallery.scale());
   FillSamplePlayer(stage.player);
-  frmHelp help(stage.services(), gallery.style(), HelpPages(LayoutText("README"), &stage.player));
+  frmHelp help(stage.services(), gallery.style(), HelpPages(LayoutText("README"), &stage.player), true);
   help.Open();
   stage.Settle();
   for (int page = 0; page < help.lstPages().count(); ++page) {
     help.lstPages().setCurrentRow(page);
+    for (int moment = 0; page == 1 && moment < 4; ++moment) {
+      stage.Settle(moment == 0 ? 1 : 350);
+      gallery.Save(help, "motion-help-" + std::to_string(moment + 1));
+    }
+    stage.Settle();
     gallery.Save(help, ("help-" + std::to_string(page + 1)).c_str());
   }
 }

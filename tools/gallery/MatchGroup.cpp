@@ -78,6 +78,23 @@ void Plain(Gallery& gallery) {
   gallery.Save(*match.screen, "match-plain");
 }
 
+/// A newcomer's first match: the offer, and the two longest hints.
+void Newcomer(Gallery& gallery) {
+  test::MatchScreenSetup setup = Setup(gallery, {9, 8, 7, 5, 8});
+  setup.newcomer = true;
+  test::MatchScreen match(setup);
+  match.Begin();
+  gallery.Save(*match.screen, "match-offer");
+  match.screen->guide()->Key(Qt::Key_F5);
+  gallery.Save(*match.screen, "match-hint-turn");
+  match.engine().person().EndTurn();
+  match.Settle();
+  gallery.Save(*match.screen, "match-hint-card");
+  match.engine().person().EndTurn();
+  match.Settle();
+  gallery.Save(*match.screen, "match-hint-sign");
+}
+
 void Network(Gallery& gallery) {
   test::MatchScreenSetup setup = Setup(gallery, {});
   setup.mode = std::string(kModeNetwork);
@@ -96,7 +113,7 @@ void Cards(Gallery& gallery) {
 }  // namespace
 
 void RenderMatch(Gallery& gallery) {
-  for (const auto& picture : {Start, Turn, OpponentsTurn, SetWon, Won, Plain, Network, Cards})
+  for (const auto& picture : {Start, Turn, OpponentsTurn, SetWon, Won, Plain, Newcomer, Network, Cards})
     picture(gallery);
 }
 

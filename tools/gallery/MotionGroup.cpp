@@ -136,7 +136,8 @@ void Returns(Gallery& gallery) {
 }
 
 /// A set is won, as so many were before it.
-void Wins(Gallery& gallery, const std::string& name, int setsBefore, const std::string& mode, int best) {
+void Wins(Gallery& gallery, const std::string& name, int setsBefore, const std::string& mode, int best,
+          bool unlocks = false) {
   test::MatchScreenSetup setup = MovingSetup(gallery, {});
   setup.mode = mode;
   setup.options = [best](clsPlayer& player) { player.Arcade_Best = best; };
@@ -145,6 +146,7 @@ void Wins(Gallery& gallery, const std::string& name, int setsBefore, const std::
   }
   test::MatchScreen match(setup);
   match.strategy.turns.assign(3, test::StandOpponent);
+  if (unlocks) match.game.CampaignWinRef = match.player.Tamsen_Wins;
   match.screen->Open();
   for (int set = 0; set <= setsBefore; ++set) {
     match.Settle();
@@ -169,6 +171,7 @@ void RenderMotion(Gallery& gallery) {
   Wins(gallery, "motion-set-won", 0, std::string(kModeArcade), 5000);
   Wins(gallery, "motion-match-won", 2, std::string(kModeArcade), 5000);
   Wins(gallery, "motion-campaign-won", 2, std::string(kModeCampaign), 5000);
+  Wins(gallery, "motion-unlocked", 2, std::string(kModeCampaign), 5000, true);
   Wins(gallery, "motion-high-score", 2, std::string(kModeArcade), -1);
 }
 
