@@ -3,12 +3,12 @@
 #include <QDesktopServices>
 #include <QFile>
 #include <QIcon>
-#include <QTimer>
 #include <QUrl>
 #include <algorithm>
 #include <array>
 #include <filesystem>
 #include <iostream>
+#include <memory>
 #include <span>
 #include <string_view>
 #include <thread>
@@ -161,7 +161,11 @@ int main(int argc, char** argv) {
   ends.Ended = [&program] { program.EndAtOnce(); };
   program.Start();
   // Window managers take it as well when the window stands, and its files would hold that up.
-  QTimer::singleShot(kIconDelay, [&] { QApplication::setWindowIcon(ProgramIcon(dataFolder)); });
+  std::unique_ptr<kv::Timer> tmrIcon = scheduler.NewTimer(kIconDelay, [&] {
+    tmrIcon->setEnabled(false);
+    QApplication::setWindowIcon(ProgramIcon(dataFolder));
+  });
+  tmrIcon->setEnabled(true);
   fonts.join();  // it reads the environment
   thrift.Restore();
   instance.Listen([&program] { program.stage().Raise(); });
