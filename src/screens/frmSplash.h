@@ -1,6 +1,5 @@
-// The start screen: the person picks a player file and types its PIN, or creates a new player. It loads and
-// creates player files, renames them and moves them to the trash; it never changes what is in one, and no
-// player is current until a load succeeds.
+// The start screen: the person picks a player file and types its PIN, renames it, moves it to the trash, or
+// creates one. What is in a file never changes here, and no player is current until a load succeeds.
 #pragma once
 
 #include <memory>
@@ -31,7 +30,6 @@ class frmSplash final : public Screen {
             std::string_view style = "Slate");
   ~frmSplash() override;
 
-  /// Ends the program at once.
   void LeaveProgram() override;
 
  protected:
@@ -63,7 +61,6 @@ class frmSplash final : public Screen {
   void Continue();
   void LoadFailed();
   void LoadWatchTick();
-
   void Create();
   void BackToList();
   void BuildCare();

@@ -204,15 +204,16 @@ class Walk:
         self.reader.get('Your turn light: on')
         self.reader.get("Opponent's turn light: off")
 
-    def play_until(self, end):
-        """By the buttons and by what is told of the table."""
+    def play_until(self, end, banners=True):
+        """By the buttons and by what is told of the table. The banner of a set is left open without `banners`."""
         for _ in range(MOST_MOVES):
             settle(0.15)
             if end():
                 return
             shown = {node.name: node for node in self.reader.everything()}
             total = next((int(name.split(': ')[1]) for name in shown if name.startswith('Your total: ')), 0)
-            for name in ('continue', 'Stand' if total >= ENOUGH else 'End Turn'):
+            move = 'Stand' if total >= ENOUGH else 'End Turn'
+            for name in ('continue', move) if banners else (move,):
                 if name in shown and shown[name].enabled and shown[name].actions():
                     shown[name].press()
                     break
@@ -297,7 +298,7 @@ class Walk:
         self.reader.heard('^Stake 10\\.')
         self.fill_deck()
         self.press('continue')
-        self.play_until(lambda: self.reader.look('continue', 'push button'))
+        self.play_until(lambda: self.reader.look('continue', 'push button'), banners=False)
         self.press('continue')
         self.reader.usable('End Turn')
         self.forfeit('Kelm Vantri Network')
