@@ -1,11 +1,10 @@
 // How long the rules take to open, and what they and their moving examples hold, at twice the size.
 #include <benchmark/benchmark.h>
-#include <malloc.h>
 
 #include <QApplication>
 #include <algorithm>
 
-#include "platform/Folders.h"
+#include "DenseDisplay.h"
 #include "presentation/LayoutText.h"
 #include "screens/frmHelp.h"
 #include "support/ScreenStage.h"
@@ -14,23 +13,6 @@ namespace {
 
 constexpr int kCardsPage = 1;
 constexpr int kFrame = 16;  // milliseconds
-
-/// Of the heap, in KB.
-double HeldKb() {
-  const struct mallinfo2 heap = ::mallinfo2();
-  return static_cast<double>(heap.uordblks + heap.hblkhd) / 1024;
-}
-
-struct HelpDisplay {
-  HelpDisplay() : application((Prepare(), argc), nullptr) {}
-  static void Prepare() {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_SCALE_FACTOR", "2");
-    qputenv("KV_ASSETS", QByteArray::fromStdString(kv::ProgramFolder()));
-  }
-  int argc = 0;
-  QApplication application;
-};
 
 struct Rules {
   explicit Rules(const char* style) : stage(style, 2) {}
@@ -50,33 +32,33 @@ struct Rules {
 };
 
 void OpenRules(benchmark::State& state, const char* style) {
-  const HelpDisplay display;
+  const kv::bench::DenseDisplay display;
   Rules rules(style);
   double held = 0;
   for (auto _ : state) {
     state.PauseTiming();
     rules.help.reset();
-    const double before = HeldKb();
+    const double before = kv::bench::HeapKb();
     state.ResumeTiming();
     rules.Open(style);
-    held = std::max(held, HeldKb() - before);
+    held = std::max(held, kv::bench::HeapKb() - before);
   }
   state.counters["memory_kb"] = held;
 }
 
 /// A frame while the examples of the cards play.
 void PlayExamples(benchmark::State& state, const char* style) {
-  const HelpDisplay display;
+  const kv::bench::DenseDisplay display;
   Rules rules(style);
   rules.Open(style);
-  const double before = HeldKb();
+  const double before = kv::bench::HeapKb();
   double held = 0;
   for (auto _ : state) {
     if (!rules.help->motionLayer().moving()) {
       state.PauseTiming();
       rules.help->lstPages().setCurrentRow(0);
       rules.help->lstPages().setCurrentRow(kCardsPage);
-      held = std::max(held, HeldKb() - before);
+      held = std::max(held, kv::bench::HeapKb() - before);
       rules.stage.scheduler.Advance(kFrame);
       rules.Paint();
       state.ResumeTiming();

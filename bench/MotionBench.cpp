@@ -1,12 +1,11 @@
 // What one frame of the match screen costs while something moves, at twice the size, without a graphics card.
 #include <benchmark/benchmark.h>
-#include <malloc.h>
 
 #include <QApplication>
 #include <algorithm>
 #include <ctime>
 
-#include "platform/Folders.h"
+#include "DenseDisplay.h"
 #include "support/MatchScreen.h"
 
 namespace {
@@ -37,26 +36,9 @@ struct MovingMatch {
   kv::test::MatchScreen match;
 };
 
-/// Of the heap, in KB.
-double HeapKb() {
-  const struct mallinfo2 heap = ::mallinfo2();
-  return static_cast<double>(heap.uordblks + heap.hblkhd) / 1024;
-}
-
-struct DenseDisplay {
-  DenseDisplay() : application((Prepare(), argc), nullptr) {}
-  static void Prepare() {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_SCALE_FACTOR", "2");
-    qputenv("KV_ASSETS", QByteArray::fromStdString(kv::ProgramFolder()));
-  }
-  int argc = 0;
-  QApplication application;
-};
-
 template <typename Start>
 void Frames(benchmark::State& state, const char* style, const Start& start) {
-  const DenseDisplay display;
+  const kv::bench::DenseDisplay display;
   auto moving = std::make_unique<MovingMatch>(style);
   double longest = 0;  // of processor time
   double memory = 0;
@@ -64,9 +46,9 @@ void Frames(benchmark::State& state, const char* style, const Start& start) {
     if (!moving->match.screen->motionLayer().moving()) {
       state.PauseTiming();
       moving = std::make_unique<MovingMatch>(style);
-      const double before = HeapKb();
+      const double before = kv::bench::HeapKb();
       start(moving->match);
-      memory = std::max(memory, HeapKb() - before);
+      memory = std::max(memory, kv::bench::HeapKb() - before);
       moving->Frame();  // the first shows what the move itself has changed
       state.ResumeTiming();
     }
@@ -89,7 +71,7 @@ void Win(benchmark::State& state, const char* style) {
   Frames(state, style, [](kv::test::MatchScreen& match) { match.engine().peer().OppForfeit(); });
 }
 void Rest(benchmark::State& state, const char* style) {
-  const DenseDisplay display;
+  const kv::bench::DenseDisplay display;
   MovingMatch moving(style);
   moving.match.globals.effects.StopEffects();
   for (auto _ : state) moving.match.scheduler.Advance(kFrame);
