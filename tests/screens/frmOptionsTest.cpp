@@ -188,6 +188,9 @@ TEST(frmOptionsTest, TheNameLosesLeadingBlanksAndMustNotBeEmpty) {
   QTest::keyClicks(&name, QStringLiteral("Ann of the green gables "));
   EXPECT_EQ(name.text().size(), 20);
   name.setText(QStringLiteral("Ann  "));
+  name.insert(QString::fromUtf8("Ł"));
+  EXPECT_EQ(name.text(), QStringLiteral("Ann  "));
+  EXPECT_EQ(stage.announcer.Last(), "Cannot be stored: Ł");
   stage.Click("cmdOK");
   EXPECT_EQ(stage.player.Name, "Ann");
 }
