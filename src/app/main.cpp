@@ -25,6 +25,7 @@
 #include "platform/QtCaretRest.h"
 #include "platform/QtDialogs.h"
 #include "platform/QtFontSystem.h"
+#include "platform/QtOneThread.h"
 #include "platform/QtPropertyBag.h"
 #include "platform/QtScheduler.h"
 #include "platform/QtSignals.h"
@@ -114,6 +115,7 @@ int main(int argc, char** argv) {
   }
 
   kv::QtThrift thrift;
+  kv::PaintOnOneThread();
   // On the other cores, while the toolkit starts.
   std::jthread fonts(kv::QtFontSystem::ReadSystemFonts);
   kv::PicturesAhead ahead(dataFolder + "/" + kv::kDataFileName, kStartPictures);
