@@ -233,6 +233,7 @@ TEST_P(CardsScreenTest, TheTitleBarAsksOnlyWhenAMatchIsAtStake) {
 
 TEST_P(CardsScreenTest, WhatTheDeskDoesIsTold) {
   Open(kModeCampaign);
+  EXPECT_EQ(stage.announcer.Last(), "How much do you wager? Credits: 700. Min Wager: 0, Max Wager: 50.");
   SetStake("20");
   EXPECT_EQ(stage.announcer.Last(), "Stake 20.");
   Click(screen->ctlDeck(1));
