@@ -18,9 +18,8 @@ inline double HeapKb() {
 
 /// An application on a display that is not there, on which everything is drawn at twice its size.
 struct DenseDisplay {
-  DenseDisplay() : application((Prepare(), argc), nullptr) {}
+  DenseDisplay() : application((Prepare(), argc), nullptr) { PaintOnOneThread(); }
   static void Prepare() {
-    PaintOnOneThread();  // as the game does
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_SCALE_FACTOR", "2");
     qputenv("KV_ASSETS", QByteArray::fromStdString(ProgramFolder()));

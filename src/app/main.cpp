@@ -115,11 +115,11 @@ int main(int argc, char** argv) {
   }
 
   kv::QtThrift thrift;
-  kv::PaintOnOneThread();
   // On the other cores, while the toolkit starts.
   std::jthread fonts(kv::QtFontSystem::ReadSystemFonts);
   kv::PicturesAhead ahead(dataFolder + "/" + kv::kDataFileName, kStartPictures);
   QApplication application(argc, argv);
+  kv::PaintOnOneThread();
   // No display name: the toolkit would add it to every title.
   QApplication::setApplicationName(QStringLiteral("kelm-vantri"));
   // Flatpak lists the game under a name of its own.

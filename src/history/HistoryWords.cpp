@@ -84,8 +84,8 @@ std::string ResultText(const MatchLine& line) {
 }
 
 std::string TotalsText(const MatchTotals& totals) {
-  std::string text = std::to_string(totals.matches) + " matches: " + std::to_string(totals.won) + " won, " +
-                     std::to_string(totals.lost) + " lost.\n";
+  std::string text = std::to_string(totals.matches) + (totals.matches == 1 ? " match: " : " matches: ") +
+                     std::to_string(totals.won) + " won, " + std::to_string(totals.lost) + " lost.\n";
   const int decided = totals.won + totals.lost;
   if (decided > 0) {
     text += "Win rate " + PercentText(static_cast<double>(totals.won) / decided, totals.interval()) + ".\n";
