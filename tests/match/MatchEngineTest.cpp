@@ -1,25 +1,10 @@
 // The rules of a set, each by a named deal.
 #include <gtest/gtest.h>
 
-#include "support/MatchTable.h"
+#include "match/MatchCourse.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
-
-using test::Deal;
-using test::MatchTable;
-
-TEST(Turn, BeginsWithADrawAndWaitsForThePlayer) {
-  MatchTable table({.hand = {"ps3"}, .draws = {7}});
-  table.Start();
-  EXPECT_EQ(table.Cards(Seat::Player), "no7");
-  EXPECT_EQ(table.engine->shown().Total(Seat::Player), 7);
-  EXPECT_TRUE(table.engine->shown().Light(Seat::Player));
-  EXPECT_TRUE(table.engine->shown().controls.endTurn && table.engine->shown().controls.hand &&
-              table.engine->shown().controls.forfeit);
-  EXPECT_EQ(table.sounds, (std::vector<std::string>{"turn", "draw"}));
-  EXPECT_EQ(table.pauses, (std::vector<int>{350, 380}));
-}
 
 TEST(Turn, OneSideCardOnly) {
   MatchTable table({.hand = {"ps3", "ps2"}, .draws = {7, 5, 2}});
@@ -37,24 +22,6 @@ TEST(Turn, OneSideCardOnly) {
   EXPECT_EQ(table.Cards(Seat::Player), "no7 ps3 no2") << "an empty slot plays nothing";
   table.Play(2);
   EXPECT_EQ(table.engine->shown().Total(Seat::Player), 14);
-}
-
-TEST(Turn, TwentyStandsByItself) {
-  MatchTable drawn({.draws = {10, 3, 10, 4, 4, 6, 5}});
-  drawn.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); }, test::StandOpponent};
-  drawn.Start();
-  drawn.EndTurn();
-  EXPECT_TRUE(drawn.engine->shown().Stood(Seat::Player));
-  EXPECT_EQ(drawn.engine->shown().banner.text, "you win the set.");
-
-  MatchTable played({.hand = {"fp4"}, .draws = {6, 1, 10, 2}});
-  played.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); }, test::StandOpponent};
-  played.Start();
-  played.EndTurn();
-  played.Play(1);
-  EXPECT_EQ(played.engine->shown().Total(Seat::Player), 20);
-  EXPECT_TRUE(played.engine->shown().Stood(Seat::Player));
-  EXPECT_EQ(played.engine->shown().SetWins(Seat::Player), 1);
 }
 
 TEST(Turn, NothingCanBePressedWhileACardThatReachesTwentyIsLookedAt) {
@@ -75,17 +42,6 @@ TEST(Turn, NothingCanBePressedWhileACardThatReachesTwentyIsLookedAt) {
   EXPECT_EQ(table.sent, (std::vector<std::string>{"[Hand]1ps10", "[Stnd]", "[Turn]", "(repeat)"}));
   EXPECT_EQ(table.pauses, (std::vector<int>{125, 210, 210})) << "the card, the hand-over, the peer's turn";
   EXPECT_EQ(table.Cards(Seat::Player), "no10 ps10");
-}
-
-TEST(Turn, WhoStoodTakesNoMoreTurns) {
-  MatchTable table({.draws = {10, 5, 6, 7}});
-  table.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); },
-                          [](AiOperations& side) { side.AI_EndTurn(); }, test::StandOpponent};
-  table.Start();
-  table.Stand();
-  EXPECT_EQ(table.Cards(Seat::Player), "no10");
-  EXPECT_EQ(table.Cards(Seat::Opponent), "no5 no6 no7");
-  EXPECT_EQ(table.engine->shown().banner.text, "The opponent wins the set.");
 }
 
 TEST(Turn, FlipsStayUsableUntilAForfeit) {
@@ -119,17 +75,13 @@ TEST(SpecialCards, DoubleAndInvertersLand) {
 }
 
 TEST(MatchEnd, ThreeSetsAreBookedOnce) {
-  MatchTable table({.draws = {9, 5, 9, 5, 9, 5}});
-  for (int set = 0; set < 3; ++set) table.strategy.turns.emplace_back(test::StandOpponent);
-  table.Start();
-  for (int set = 1; set <= 3; ++set) {
-    table.Stand();
-    EXPECT_EQ(table.engine->shown().SetWins(Seat::Player), set);
-    EXPECT_EQ(table.bookings, set == 3 ? 1 : 0);
-    if (set < 3) table.Continue();
-  }
+  MatchTable table(ThreeSets(9, 5));
+  PlaySets(table, 2);
+  EXPECT_EQ(table.bookings, 0);
+  table.Continue();
+  table.strategy.turns = {StandOpponent};
+  table.Stand();
   EXPECT_EQ(table.booked, 1);
-  EXPECT_EQ(table.engine->shown().banner.text, "You have defeated your opponent!");
   EXPECT_TRUE(table.Heard("winmatch"));
   table.engine->person().Forfeit();  // the title bar's close now acts as the banner's button
   EXPECT_TRUE(table.left);
@@ -140,7 +92,7 @@ TEST(MatchEnd, ThreeSetsAreBookedOnce) {
 
 TEST(MatchEnd, ATieCountsForNobodyAndIsReplayed) {
   MatchTable table({.draws = {5, 5, 8}});
-  table.strategy.turns = {test::StandOpponent};
+  table.strategy.turns = {StandOpponent};
   table.Start();
   table.Stand();
   EXPECT_EQ(table.engine->shown().banner.text, "The set is tied.");
@@ -152,12 +104,8 @@ TEST(MatchEnd, ATieCountsForNobodyAndIsReplayed) {
 }
 
 TEST(Forfeit, AsksThenLosesWhateverTheScore) {
-  MatchTable table({.draws = {9, 5, 9, 5, 9, 5}});
-  table.strategy.turns = {test::StandOpponent, test::StandOpponent};
-  table.Start();
-  table.Stand();
-  table.Continue();
-  table.Stand();
+  MatchTable table(ThreeSets(9, 5));
+  PlaySets(table, 2);
   table.Continue();
   table.answer = false;
   table.engine->person().Forfeit();
@@ -229,4 +177,4 @@ TEST(Network, ThePeerGivesUp) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -8,28 +8,20 @@
 #include "match/HeadlessMatch.h"
 #include "match/MatchCourse.h"
 #include "support/EventLog.h"
-#include "support/MatchTable.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
-using test::EventLog;
-using test::MatchTable;
 using Lines = std::vector<std::string>;
 
 struct Told {
-  explicit Told(const test::Deal& deal) : table(deal) {
+  explicit Told(const Deal& deal) : table(deal) {
     table.engine->setObserver(&log);
     table.Start();
   }
   EventLog log;
   MatchTable table;
 };
-
-void PlayFirst(AiOperations& side) {
-  side.AI_PlayCard(1);
-  side.AI_EndTurn();
-}
 
 TEST(Events, AMatchFromItsFirstCardToAForfeit) {
   Told told({.hand = {"fp2", "s299", "s399", "ps4"},
@@ -38,7 +30,7 @@ TEST(Events, AMatchFromItsFirstCardToAForfeit) {
   MatchTable& table = told.table;
   table.engine->person().FirstFlip(1);
   table.Play(1);
-  table.strategy.turns = {PlayFirst, test::StandOpponent};
+  table.strategy.turns = {PlayFirst, StandOpponent};
   table.EndTurn();
   table.Play(3);
   table.Stand();
@@ -68,7 +60,7 @@ TEST(Events, AMatchFromItsFirstCardToAForfeit) {
 TEST(Events, ATurnThatEndsByItselfIsToldAndOneThatOnlyPassesIsNot) {
   for (const std::string_view mode : {kModeArcade, kModeNetwork}) {
     EventLog log;
-    test::MatchCourse course{std::string(mode)};
+    MatchCourse course{std::string(mode)};
     course.table.engine->setObserver(&log);
     course.Play();
     const auto times = [&](const char* line) { return std::count(log.lines.begin(), log.lines.end(), line); };
@@ -80,9 +72,9 @@ TEST(Events, ATurnThatEndsByItselfIsToldAndOneThatOnlyPassesIsNot) {
 }
 
 TEST(Events, AMatchThatIsWonIsDecidedAndBookedOnce) {
-  Told told(test::ThreeSets(10, 9));
+  Told told(ThreeSets(10, 9));
   for (int set = 1; set <= kSetsToWin; ++set) {
-    told.table.strategy.turns = {test::StandOpponent};
+    told.table.strategy.turns = {StandOpponent};
     told.table.game.CreditsRef = std::make_shared<clsLong>();
     told.table.game.CreditsRef->Value = 90;
     told.table.Stand();
@@ -165,4 +157,4 @@ TEST(Events, PlayedAgainTheyGiveTheEnginesTablesAtEveryStep) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

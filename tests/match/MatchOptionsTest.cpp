@@ -3,49 +3,8 @@
 
 #include "match/MatchCourse.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
-
-using test::MatchCourse;
-using test::MatchTable;
-
-TEST(Turn, LowTotalsEndByThemselvesUnlessTheOpponentStandsBehind) {
-  MatchTable table({.draws = {4, 3, 5, 2, 7}, .options = {.turnMode = 1, .autoTurn = true}});
-  table.Start();
-  EXPECT_EQ(table.Cards(Seat::Player), "no4 no5 no7");
-  EXPECT_TRUE(table.engine->shown().controls.endTurn);
-
-  MatchTable behind({.draws = {3, 3, 1}, .options = {.turnMode = 1, .autoTurn = true}});
-  behind.strategy.turns = {test::StandOpponent};
-  behind.Start();
-  EXPECT_EQ(behind.Cards(Seat::Player), "no3 no1") << "4 against a standing 3 is the player's to decide";
-  EXPECT_TRUE(behind.engine->shown().controls.stand);
-}
-
-TEST(AutoDialogs, ConfirmAfterTheirTick) {
-  MatchTable table({.draws = {9, 5, 7}, .options = {.turnMode = 1, .autoDialogs = true}});
-  table.strategy.turns = {test::StandOpponent};
-  table.Start();
-  table.Stand();
-  EXPECT_TRUE(table.autoTimer);
-  EXPECT_FALSE(table.engine->shown().banner.buttonEnabled);
-  table.engine->Continue();
-  EXPECT_TRUE(table.engine->shown().banner.visible) << "the disabled button does nothing";
-  table.engine->AutoDialogsTick();
-  table.Run();
-  EXPECT_FALSE(table.engine->shown().banner.visible);
-  EXPECT_EQ(table.Cards(Seat::Player), "no7");
-}
-
-TEST(MainDeck, HoldsFourOfEachValue) {
-  MatchTable table({.draws = {3, 3, 3, 3, 3, 3, 8, 1}});
-  table.engine->Activate();
-  for (int i = 0; i < 4; ++i) table.engine->board().DeductDrawCard(3);
-  table.Run();
-  EXPECT_EQ(table.Cards(Seat::Player), "no8");
-  EXPECT_THROW(table.engine->board().DeductDrawCard(0), std::out_of_range);
-  EXPECT_THROW(table.engine->board().DeductDrawCard(11), std::out_of_range);
-}
 
 TEST(MainDeck, ReportedDrawsWithoutEndDoNotStopTheNext) {
   MatchTable table({.draws = {8}});
@@ -55,16 +14,18 @@ TEST(MainDeck, ReportedDrawsWithoutEndDoNotStopTheNext) {
   }
   table.Run();
   EXPECT_EQ(table.Cards(Seat::Player), "no8");
+  EXPECT_THROW(table.engine->board().DeductDrawCard(0), std::out_of_range);
+  EXPECT_THROW(table.engine->board().DeductDrawCard(11), std::out_of_range);
 }
 
 /// Who begins each of three sets: "p" the player, "o" the opponent. Every set is tied on 5.
 std::string Starters(MatchOptions options, int firstDraw, const std::string& mode = std::string(kModeArcade),
                      bool hosting = true) {
-  test::Deal deal{.draws = {}, .options = options, .mode = mode, .hosting = hosting};
+  Deal deal{.draws = {}, .options = options, .mode = mode, .hosting = hosting};
   if (firstDraw > 0) deal.draws = {firstDraw};
   deal.draws.insert(deal.draws.end(), 6, 5);
   MatchTable table(deal);
-  table.strategy.turns.assign(3, test::StandOpponent);
+  table.strategy.turns.assign(3, StandOpponent);
   if (!hosting) table.engine->peer().setPlayerStarts(true);
   const bool network = mode != kModeArcade;
   table.Start();
@@ -140,7 +101,7 @@ TEST(Pace, OfTheTurnsIsTheSameForBothSidesOfANetworkMatch) {
 
 TEST(Pace, AnAutomaticStandIsWaitedForOnce) {
   MatchTable table({.hand = {"ps10"}, .draws = {10, 3, 4}});
-  table.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); }, test::StandOpponent};
+  table.strategy.turns = {EndOpponent, StandOpponent};
   table.Start();
   table.pauses.clear();
   table.Play(1);
@@ -166,7 +127,7 @@ TEST(AutoTurn, EndsATurnBelowTen) {
 TEST(AutoTurn, LeavesTheTurnToAPlayerWhoIsNotBehindAStandingOpponent) {
   for (const int drawn : {4, 5, 6}) {
     MatchTable table({.draws = {5, drawn, 9}, .playerStarts = false, .options = {.autoTurn = true}});
-    table.strategy.turns = {test::StandOpponent};
+    table.strategy.turns = {StandOpponent};
     table.Start();
     EXPECT_EQ(table.engine->shown().Table(Seat::Player).size(), drawn < 5 ? 2U : 1U) << drawn << " against 5";
   }
@@ -199,8 +160,7 @@ TEST(AutoDialogs, ConfirmTheEndOfTheMatchToo) {
 
 TEST(MainDeck, AFifthCopyIsDrawnAgainAndEverySetHasAWholeDeck) {
   MatchTable table({.draws = {3, 3, 3, 3, 3, 8, 5, 3}});
-  table.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); },
-                          [](AiOperations& side) { side.AI_EndTurn(); }, test::StandOpponent};
+  table.strategy.turns = {EndOpponent, EndOpponent, StandOpponent};
   table.Start();
   table.EndTurn();
   table.EndTurn();
@@ -230,4 +190,4 @@ TEST(MainDeck, IsOneForBothSidesOfANetworkMatch) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -3,13 +3,8 @@
 
 #include "match/MatchCourse.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
-
-using test::MatchCourse;
-using test::MatchTable;
-using test::PlaySets;
-using test::ThreeSets;
 
 const std::string kModes[] = {std::string(kModeArcade), std::string(kModeNetwork)};
 
@@ -157,7 +152,7 @@ TEST(Forfeit, TheAnswerIsWeighedAgainstWhatHappenedBehindTheQuestion) {
     } else {
       table.Start();
     }
-    table.strategy.turns = {test::StandOpponent};
+    table.strategy.turns = {StandOpponent};
     table.inQuestion = [&] {
       table.engine->person().Stand();
       table.engine->GameTick();
@@ -216,20 +211,5 @@ TEST(Forfeit, AsABannerWaitsForThePeerGivesItsButtonBack) {
   }
 }
 
-TEST(Forfeit, AQuestionThatOutlivesTheMatchIsDropped) {
-  MatchTable table({.draws = {9, 5, 9, 5, 9, 5}});
-  for (int set = 0; set < 3; ++set) table.strategy.turns.emplace_back(test::StandOpponent);
-  table.Start();
-  table.inQuestion = [&] {
-    for (int set = 1; set <= 3; ++set) {
-      table.Stand();
-      if (set < 3) table.Continue();
-    }
-  };
-  table.engine->person().Forfeit();
-  EXPECT_EQ(table.booked, 1);
-  EXPECT_EQ(table.bookings, 1);
-}
-
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -3,12 +3,8 @@
 
 #include "match/MatchCourse.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
-
-using test::MatchTable;
-using test::PlaySets;
-using test::ThreeSets;
 
 TEST(SetEnd, BustIsDecidedBeforeAllElse) {
   for (const bool opponentOver : {false, true}) {
@@ -20,7 +16,6 @@ TEST(SetEnd, BustIsDecidedBeforeAllElse) {
     EXPECT_EQ(table.engine->shown().banner.text, "The opponent wins the set.");
   }
   MatchTable table({.draws = {5, 10}});
-  table.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); }};
   table.Start();
   table.LoadTable(Seat::Opponent, {"no10", "no1"});
   table.EndTurn();
@@ -37,88 +32,46 @@ TEST(SetEnd, ExactlyTwentyIsNoBust) {
   EXPECT_EQ(table.Cards(Seat::Player), "no5 no1");
 }
 
-TEST(SetEnd, NineCardsWin) {
-  const std::vector<const char*> eight(8, "no1");
-  MatchTable drawn({.draws = {1}});
-  drawn.engine->Activate();
-  drawn.LoadTable(Seat::Opponent, {"no10", "no9"});
-  drawn.LoadTable(Seat::Player, eight);
-  drawn.Run();
-  EXPECT_EQ(drawn.engine->shown().banner.text, "you win the set.") << "a lower total, but nine cards";
-
-  MatchTable opponent({.opponentHand = {"ps1"}, .draws = {1, 1}, .playerStarts = false});
-  opponent.strategy.turns = {[](AiOperations& side) {
+TEST(SetEnd, NineCardsWinUnlessTheyAreTooMuch) {
+  const std::vector<const char*> ones(8, "no1");
+  const std::vector<const char*> twos(8, "no2");
+  const std::vector<const char*> ninth{"no1", "no1", "no1", "no1", "no1", "no1", "no1", "no1", "no2"};
+  const struct {
+    const char* what;
+    std::vector<const char*> player, opponent;
+    bool playerDraws;  // the ninth card
+    int draw;
+    bool playerWins;
+  } rows[] = {
+      {"a lower total", ones, {"no10", "no9"}, true, 1, true},
+      {"over twenty", twos, {}, true, 5, false},
+      {"the opponent over twenty", {}, twos, false, 5, true},
+      {"nine against nine", ones, ninth, true, 1, true},
+      {"nine against nine, the opponent's last", ninth, ones, false, 1, true},
+  };
+  for (const auto& row : rows) {
+    MatchTable table({.draws = {row.draw}, .playerStarts = row.playerDraws});
+    table.engine->Activate();
+    table.LoadTable(Seat::Player, row.player);
+    table.LoadTable(Seat::Opponent, row.opponent);
+    table.Run();
+    const Seat drew = row.playerDraws ? Seat::Player : Seat::Opponent;
+    EXPECT_EQ(table.engine->shown().Table(drew).size(), 9U) << row.what;
+    EXPECT_EQ(table.screen.banner.text, row.playerWins ? "you win the set." : "The opponent wins the set.")
+        << row.what;
+  }
+  MatchTable table({.opponentHand = {"ps1"}, .draws = {1, 1}, .playerStarts = false});
+  table.strategy.turns = {[](AiOperations& side) {
     side.AI_PlayCard(1);
     side.AI_PlayCard(1);
     side.AI_EndTurn();
   }};
-  opponent.engine->Activate();
-  opponent.LoadTable(Seat::Player, {"no10", "no9"});
-  opponent.LoadTable(Seat::Opponent, {"no1", "no1", "no1", "no1", "no1", "no1", "no1"});
-  opponent.Run();
-  EXPECT_EQ(opponent.engine->shown().Table(Seat::Opponent).size(), 9U);
-  EXPECT_EQ(opponent.engine->shown().banner.text, "The opponent wins the set.");
-}
-
-TEST(SetEnd, OnlyTheClosingSidesLastCardBreaksATie) {
-  struct Case {
-    const char* playerLast;
-    const char* opponentLast;
-    const char* text;
-  };
-  // The player stands first; the opponent closes the set.
-  for (const Case& c :
-       {Case{"no1", "no1", "The set is tied."}, Case{"s11", "no1", "The set is tied."},
-        Case{"no1", "s11", "The opponent wins the set."}, Case{"s11", "s11", "The opponent wins the set."}}) {
-    MatchTable table({.draws = {5, 5}});
-    table.strategy.turns = {[&](AiOperations& side) {
-      table.LoadTable(Seat::Opponent, {c.opponentLast});
-      side.AI_Stand();
-    }};
-    table.Start();
-    table.LoadTable(Seat::Player, {c.playerLast});
-    table.Stand();
-    EXPECT_EQ(table.engine->shown().banner.text, c.text);
-  }
-  MatchTable table({.hand = {"s11"}, .draws = {5, 6}, .playerStarts = false});
-  table.strategy.turns = {test::StandOpponent};
-  table.Start();
-  table.LoadTable(Seat::Opponent, {"no2"});
-  table.Play(1);
-  table.Stand();
-  EXPECT_EQ(table.engine->shown().banner.text, "you win the set.");
-}
-
-TEST(SetEnd, NineCardsOverTwentyLose) {
-  MatchTable table({.draws = {5}});
   table.engine->Activate();
-  table.LoadTable(Seat::Player, {"no2", "no2", "no2", "no2", "no2", "no2", "no2", "no2"});
+  table.LoadTable(Seat::Player, {"no10", "no9"});
+  table.LoadTable(Seat::Opponent, std::vector<const char*>(7, "no1"));
   table.Run();
-  EXPECT_EQ(table.engine->shown().Table(Seat::Player).size(), 9U);
-  EXPECT_EQ(table.engine->shown().Total(Seat::Player), 21);
-  EXPECT_EQ(table.screen.banner.text, "The opponent wins the set.");
-
-  MatchTable opponent({.draws = {5}, .playerStarts = false});
-  opponent.engine->Activate();
-  opponent.LoadTable(Seat::Opponent, {"no2", "no2", "no2", "no2", "no2", "no2", "no2", "no2"});
-  opponent.Run();
-  EXPECT_EQ(opponent.engine->shown().Table(Seat::Opponent).size(), 9U);
-  EXPECT_EQ(opponent.screen.banner.text, "you win the set.");
-}
-
-TEST(SetEnd, NineAgainstNineIsThePlayers) {
-  const std::vector<const char*> eight(8, "no1");
-  for (const bool playerStarts : {true, false}) {
-    MatchTable table({.draws = {1, 1}, .playerStarts = playerStarts});
-    table.engine->Activate();
-    table.LoadTable(Seat::Player, eight);
-    table.LoadTable(Seat::Opponent, eight);
-    table.LoadTable(playerStarts ? Seat::Opponent : Seat::Player, {"no2"});
-    table.Run();
-    EXPECT_EQ(table.engine->shown().Table(Seat::Player).size(), 9U);
-    EXPECT_EQ(table.engine->shown().Table(Seat::Opponent).size(), 9U);
-    EXPECT_EQ(table.screen.banner.text, "you win the set.") << "whoever lays the last one";
-  }
+  EXPECT_EQ(table.engine->shown().Table(Seat::Opponent).size(), 9U);
+  EXPECT_EQ(table.engine->shown().banner.text, "The opponent wins the set.");
 }
 
 TEST(SetEnd, ANinthCardFromTheHandStandsByItself) {
@@ -132,20 +85,26 @@ TEST(SetEnd, ANinthCardFromTheHandStandsByItself) {
   EXPECT_EQ(table.strategy.asked, 0);
 }
 
-TEST(SetEnd, ATiebreakerCountsAsTheLastCardOfThePlayerWhoCloses) {
+TEST(SetEnd, OnlyTheClosingSidesLastCardBreaksATie) {
   struct Case {
-    std::vector<const char*> player;  // both on 8 in the end
+    bool playerStarts;  // whoever starts stands first, and the other closes the set
+    std::vector<const char*> player;
     std::vector<const char*> opponent;
     const char* text;
   };
-  // The opponent begins and stands first; the player closes the set.
-  for (const Case& c :
-       {Case{{"no2", "s11"}, {"no3"}, "you win the set."}, Case{{"s11", "no2"}, {"no3"}, "The set is tied."},
-        Case{{"no3"}, {"no2", "s11"}, "The set is tied."},
-        Case{{"no2", "s11"}, {"no2", "s11"}, "you win the set."},
-        Case{{"no4", "s1-1"}, {"no3"}, "you win the set."},
-        Case{{"no2", "s51"}, {"no3"}, "The set is tied."}}) {
-    MatchTable table({.draws = {5, 5}, .playerStarts = false});
+  for (const Case& c : {
+           Case{true, {"no1"}, {"no1"}, "The set is tied."},
+           Case{true, {"s11"}, {"no1"}, "The set is tied."},
+           Case{true, {"no1"}, {"s11"}, "The opponent wins the set."},
+           Case{true, {"s11"}, {"s11"}, "The opponent wins the set."},
+           Case{false, {"no2", "s11"}, {"no3"}, "you win the set."},
+           Case{false, {"s11", "no2"}, {"no3"}, "The set is tied."},
+           Case{false, {"no3"}, {"no2", "s11"}, "The set is tied."},
+           Case{false, {"no2", "s11"}, {"no2", "s11"}, "you win the set."},
+           Case{false, {"no4", "s1-1"}, {"no3"}, "you win the set."},
+           Case{false, {"no2", "s51"}, {"no3"}, "The set is tied."},
+       }) {
+    MatchTable table({.draws = {5, 5}, .playerStarts = c.playerStarts});
     table.strategy.turns = {[&](AiOperations& side) {
       table.LoadTable(Seat::Opponent, c.opponent);
       side.AI_Stand();
@@ -187,7 +146,7 @@ TEST(Booking, OnlyAMatchLostAtTheTableIsWonAfterAll) {
   lost.engine->peer().WinAfterAll();
   EXPECT_EQ(lost.turned, 0);
   lost.Continue();
-  lost.strategy.turns = {test::StandOpponent};
+  lost.strategy.turns = {StandOpponent};
   lost.Stand();
   EXPECT_TRUE(lost.engine->peer().LostByPlay());
   lost.engine->peer().WinAfterAll();
@@ -210,4 +169,4 @@ TEST(Booking, OnlyAMatchLostAtTheTableIsWonAfterAll) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

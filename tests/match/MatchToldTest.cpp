@@ -4,10 +4,9 @@
 
 #include "support/MatchTable.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
-using test::MatchTable;
 using Lines = std::vector<std::string>;
 
 TEST(Told, ATurnFromItsLightToItsEnd) {
@@ -28,7 +27,7 @@ TEST(Told, ATurnFromItsLightToItsEnd) {
 
 TEST(Told, ATableIsDimmedWhenItsSideStandsAndLitWithTheNextSet) {
   MatchTable table({.draws = {7, 5, 9, 4, 6, 8}});
-  table.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); }, test::StandOpponent};
+  table.strategy.turns = {EndOpponent, StandOpponent};
   table.Start();
   table.screen.story.clear();
   table.Stand();
@@ -41,7 +40,7 @@ TEST(Told, ATableIsDimmedWhenItsSideStandsAndLitWithTheNextSet) {
       table.screen.Lines({"table", "banner", "pause", "your light"}),
       (Lines{"your table on", "their table on", "pause 350", "banner off", "your light on", "pause 380"}));
   table.screen.story.clear();
-  table.strategy.turns = {test::StandOpponent};
+  table.strategy.turns = {StandOpponent};
   table.EndTurn();
   EXPECT_TRUE(table.screen.controls.table[0]);
   EXPECT_FALSE(table.screen.controls.table[1]) << "the opponent has stood, the player has not";
@@ -111,10 +110,7 @@ TEST(Sounds, BustIsHeardAtTwentyOneAndAfterTheDraw) {
 
 TEST(Sounds, APlayedCardIsHeardOnEitherSide) {
   MatchTable table({.hand = {"ps3"}, .opponentHand = {"ps9"}, .draws = {10, 8, 2}});
-  table.strategy.turns = {[](AiOperations& side) {
-    side.AI_PlayCard(1);
-    side.AI_EndTurn();
-  }};
+  table.strategy.turns = {PlayFirst};
   table.Start();
   table.Play(1);
   table.sounds.clear();
@@ -123,4 +119,4 @@ TEST(Sounds, APlayedCardIsHeardOnEitherSide) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -7,7 +7,7 @@
 #include "support/Position.h"
 #include "vantri-strength/Tournament.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 TEST(Oracle, BeatsTheStandardStrategyAndDependsOnItsSeedAlone) {
@@ -42,7 +42,7 @@ TEST(BetweenSets, TheTwoSidesShareOneWin) {
 }
 
 /// The share of 2,000 matches of the standard strategy, from the start of a set, that the player wins.
-double Played(const test::SideCards& player, const test::SideCards& opponent) {
+double Played(const SideCards& player, const SideCards& opponent) {
   clsAI_Normal first;
   clsAI_Normal second;
   SeededRandom random(9);
@@ -50,7 +50,7 @@ double Played(const test::SideCards& player, const test::SideCards& opponent) {
   constexpr int kMatches = 2000;
   int wins = 0;
   for (int i = 0; i < kMatches; ++i) {
-    MatchPosition position = test::PositionOf(player, opponent);
+    MatchPosition position = PositionOf(player, opponent);
     const int drawn = static_cast<int>(random.Rnd() * 10) + 1;
     position.side(Seat::Player).table = {CardCode(CardType::MainDeck, drawn)};
     ++position.drawn.at(static_cast<std::size_t>(drawn));
@@ -77,4 +77,4 @@ TEST(BetweenSets, TheEstimateIsWhatMatchesGive) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -6,10 +6,8 @@
 #include "match/Review.h"
 #include "support/Position.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
-
-using test::PositionOf;
 
 /// The player ends on 17 against a standing 18 with the card that wins in hand, after two turns that were
 /// fine.
@@ -74,4 +72,4 @@ TEST(Review, EndsAtOnceWhenItIsStopped) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

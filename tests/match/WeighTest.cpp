@@ -6,10 +6,8 @@
 #include "match/Weigh.h"
 #include "support/Position.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
-
-using test::PositionOf;
 
 std::vector<WeighedMove> Weighed(const MatchPosition& position, int matches = 2000, std::uint64_t seed = 1) {
   SeededRandom random(seed);
@@ -26,8 +24,8 @@ const WeighedMove& Find(const std::vector<WeighedMove>& all, const char* card, b
 TEST(Weigh, TheCardThatBeatsAStandingOpponentIsBest) {
   for (const int sets : {0, 1, 2}) {
     for (const Seat seat : {Seat::Player, Seat::Opponent}) {
-      const test::SideCards own{{"no9", "no8"}, {"fp3", "ps1"}, sets};
-      const test::SideCards other{{"no10", "no8"}, {}, sets, true};
+      const SideCards own{{"no9", "no8"}, {"fp3", "ps1"}, sets};
+      const SideCards other{{"no10", "no8"}, {}, sets, true};
       const bool player = seat == Seat::Player;
       const auto moves = Weighed(PositionOf(player ? own : other, player ? other : own, seat));
       EXPECT_EQ(moves.front().move.card.text(), "fp3") << sets;
@@ -120,4 +118,4 @@ TEST(Weigh, TheMoveThatWasMadeIsWeighedToTheEndAndAStopIsAStop) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -1,21 +1,15 @@
-// Keys that are held too long on the match screen: only their first press counts.
+// The match screen's keys, of which only the first press counts, and the ways to leave it.
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QCoreApplication>
 #include <QKeyEvent>
 
 #include "match/MatchScreenTest.h"
-#include "match/frmGame.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
-using test::MatchScreen;
-using test::MatchScreenSetup;
-using test::ScreenHand;
-
-using frmGameKeysTest = test::MatchScreenTest;
+using frmGameKeysTest = MatchScreenTest;
 
 INSTANTIATE_TEST_SUITE_P(Styles, frmGameKeysTest, testing::Values("Slate", "Ember"),
                          [](const auto& style) { return std::string(style.param); });
@@ -42,10 +36,7 @@ TEST_P(frmGameKeysTest, ARepeatedGameKeyDoesNothing) {
 }
 
 TEST_P(frmGameKeysTest, ARepeatedEnterOrEscapeNeitherPlaysNorConfirmsNorAsks) {
-  MatchScreenSetup setup = Setup({4});
-  setup.options = [](clsPlayer& player) { player.KeysEn = false; };
-  MatchScreen match(setup);
-  match.Begin();
+  MatchScreen& match = BeginWith([](clsPlayer& player) { player.KeysEn = false; });
   Repeat(match.screen->hand().ctlYourDeck(1), Qt::Key_Return, QStringLiteral("\r"));
   Repeat(match.screen->hand().ctlYourDeck(1), Qt::Key_Space, QStringLiteral(" "));
   EXPECT_EQ(match.engine().shown().Total(Seat::Player), 4);
@@ -73,10 +64,7 @@ TEST_P(frmGameKeysTest, TableAndHandAreToldAgainByAKeyEach) {
 
 TEST_P(frmGameKeysTest, AKeyThatThePlayerHasBoundIsNoKeyToHear) {
   constexpr std::int16_t kF2 = 113;
-  MatchScreenSetup setup = Setup({4});
-  setup.options = [](clsPlayer& player) { player.Keys->setValue(1, 2, kF2); };
-  MatchScreen match(setup);
-  match.Begin();
+  MatchScreen& match = BeginWith([](clsPlayer& player) { player.Keys->setValue(1, 2, kF2); });
   match.announcer.told.clear();
   ScreenHand(*match.screen).Key(Qt::Key_F2);
   EXPECT_TRUE(match.engine().shown().Stood(Seat::Player));
@@ -87,8 +75,7 @@ TEST_P(frmGameKeysTest, AKeyThatThePlayerHasBoundIsNoKeyToHear) {
 TEST_P(frmGameKeysTest, ANewcomerIsShownHowByAKeyOrNeverAgain) {
   MatchScreenSetup setup = Setup({5, 3, 4, 3});
   setup.newcomer = true;
-  MatchScreen match(setup);
-  match.Begin();
+  MatchScreen& match = Begin(setup);
   ctlGuide& guide = *match.screen->guide();
   EXPECT_TRUE(guide.isVisible());
   EXPECT_FALSE(guide.isAncestorOf(match.screen->focusWidget()));
@@ -105,5 +92,78 @@ TEST_P(frmGameKeysTest, ANewcomerIsShownHowByAKeyOrNeverAgain) {
   EXPECT_EQ(match.engine().shown().Table(Seat::Player).size(), 1u);
 }
 
+// Leaving: forfeit, the banner by itself, the program's end, and closing at any moment.
+
+TEST_P(frmGameKeysTest, ForfeitAsksFirst) {
+  MatchScreen& match = Begin({4});
+  ScreenHand hand(*match.screen);
+  match.dialogs.answers = {false, true};
+  hand.Click(match.screen->cmdForfeit());
+  ASSERT_EQ(match.dialogs.boxes.size(), 1u);
+  EXPECT_EQ(match.dialogs.boxes[0].text, "Are you sure you wish to forfeit this match?");
+  EXPECT_EQ(match.dialogs.boxes[0].title, "Kelm Vantri: Forfeit Match");
+  EXPECT_TRUE(match.screen->cmdForfeit().Enabled()) << "No gives the button back";
+  EXPECT_TRUE(match.screen->cmdTurn().Enabled());
+
+  hand.Click(match.screen->titlebar().cmdQuit());
+  EXPECT_EQ(match.dialogs.boxes.size(), 2u);
+  EXPECT_EQ(match.screen->banner().lblBust().text(), QStringLiteral("You have been defeated."));
+  EXPECT_EQ(match.screen->side(Seat::Opponent).SetWinsShown(), 3);
+  EXPECT_FALSE(match.screen->cmdTurn().Enabled());
+  EXPECT_FALSE(match.screen->hand().imgFlip(2).isEnabled());
+  EXPECT_EQ(match.bookings, 1);
+  match.Settle();
+  // After the match the title bar's close is the banner's button.
+  hand.Click(match.screen->titlebar().cmdQuit());
+  EXPECT_EQ(match.recorded.Count("LeaveMatch"), 1);
+  EXPECT_FALSE(match.screen->isVisible());
+  EXPECT_EQ(match.bookings, 1);
+}
+
+TEST_P(frmGameKeysTest, LeavingTheProgramGivesUpTheMatchOnce) {
+  MatchScreen& match = Begin({4});
+  match.dialogs.answers = {false, true};
+  ScreenHand(*match.screen).Key(Qt::Key_Escape);  // asks like the title bar, and is answered no
+  EXPECT_EQ(match.dialogs.boxes.size(), 1u);
+  EXPECT_TRUE(match.screen->isVisible());
+  match.screen->close();
+  EXPECT_EQ(match.recorded.Count("EndProgram"), 1);
+  EXPECT_EQ(match.bookings, 1);
+}
+
+TEST_P(frmGameKeysTest, AutoConfirm) {
+  MatchScreen& match = BeginWith([](clsPlayer& player) { player.AutoDialogs_Opt = true; }, {4, 10, 5, 9});
+  match.strategy.turns = {StandOpponent};
+  ScreenHand hand(*match.screen);
+  hand.Click(match.screen->cmdStand());
+  while (!match.screen->banner().isVisible()) match.scheduler.Advance(10);
+  EXPECT_FALSE(match.screen->banner().cmdBust().Enabled());
+  const int clicks = match.sound.Count("click");
+  match.scheduler.Advance(780);
+  EXPECT_EQ(match.engine().shown().Table(Seat::Player).size(), 1u);
+  match.scheduler.Advance(400);
+  EXPECT_EQ(match.sound.Count("click"), clicks + 1);
+  match.Settle();
+  EXPECT_FALSE(match.screen->banner().isVisible());
+  EXPECT_EQ(match.engine().shown().SetWins(Seat::Opponent), 1);
+}
+
+/// Closes the screen at every few milliseconds of a match: in pauses, between turns, under the banner.
+TEST_P(frmGameKeysTest, ClosesAtAnyMoment) {
+  for (int moment = 0; moment < 2600; moment += 37) {
+    MatchScreen match(Setup({4, 10, 5, 9}));
+    match.strategy.turns = {PlayFirstAndStand};
+    match.scheduler.At(moment, [&] { match.screen->CloseScreen(); });
+    match.scheduler.At(1100, [&] { match.engine().person().Stand(); });
+    match.Begin();
+    EXPECT_FALSE(match.screen->isVisible());
+    const std::size_t pauses = match.scheduler.pauses.size();
+    match.Settle();
+    EXPECT_EQ(match.scheduler.RunningTimers(), 0) << "closed at " << moment;
+    EXPECT_EQ(match.scheduler.pauses.size(), pauses);
+    match.screen.reset();
+  }
+}
+
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

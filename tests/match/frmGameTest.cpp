@@ -1,21 +1,13 @@
 // The match screen under a real pointer and real keys, on the test's own clock.
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QMouseEvent>
-#include <QPainter>
 
 #include "match/MatchScreenTest.h"
-#include "match/frmGame.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
-using test::MatchScreen;
-using test::MatchScreenSetup;
-using test::ScreenHand;
-
-using frmGameTest = test::MatchScreenTest;
+using frmGameTest = MatchScreenTest;
 
 INSTANTIATE_TEST_SUITE_P(Styles, frmGameTest, testing::Values("Slate", "Ember"),
                          [](const auto& style) { return std::string(style.param); });
@@ -56,10 +48,7 @@ TEST_P(frmGameTest, ALongNameIsSetSmallerOrCutAtItsEndWithTheWholeToBeAskedFor) 
                {QStringLiteral("Alexandra Hohenstein"), false},
                {QStringLiteral("WWWWWWWWWWWWWWWWWWW<"), true}};
   for (const auto& [name, cut] : cases) {
-    MatchScreenSetup setup = Setup({4});
-    setup.options = [&name = name](clsPlayer& player) { player.Name = name.toStdString(); };
-    MatchScreen match(setup);
-    match.Begin();
+    MatchScreen& match = BeginWith([&name = name](clsPlayer& player) { player.Name = name.toStdString(); });
     const auto& label = *match.screen->findChild<QLabel*>(QStringLiteral("lblYourName"));
     EXPECT_LE(label.fontMetrics().horizontalAdvance(label.text()), label.width()) << name.toStdString();
     EXPECT_EQ(label.text() != name, cut) << name.toStdString();
@@ -92,8 +81,7 @@ TEST_P(frmGameTest, CardsNamesAndPortraitsLieOnThePanelOfTheStyle) {
 
 TEST_P(frmGameTest, AWholeSetWithTheMouse) {
   MatchScreen match(Setup({9, 5, 8, 6, 7}));
-  match.strategy.turns.assign(3, [](AiOperations& side) { side.AI_EndTurn(); });
-  match.strategy.turns.back() = [](AiOperations& side) { side.AI_Stand(); };
+  match.strategy.turns = {EndOpponent, EndOpponent, StandOpponent};
   match.Begin();
   ScreenHand hand(*match.screen);
 
@@ -146,39 +134,30 @@ TEST_P(frmGameTest, DragAndDrop) {
   EXPECT_EQ(card.pos(), home);
 }
 
-TEST_P(frmGameTest, EndingTheTurnInTheMiddleOfADrag) {
-  MatchScreen& match = Begin({4, 5, 6});
-  ScreenHand hand(*match.screen);
-  ctlCard& card = match.screen->hand().ctlYourDeck(1);
-  const QPoint home = card.pos();
-  hand.Press(hand.CentreOf(card) - QPoint(0, card.height() / 2 - 2));
-  hand.MoveTo({300, 200});
-  EXPECT_NE(card.pos(), home);
-  hand.Key(Qt::Key_Space);
-  EXPECT_EQ(card.pos(), home);
-  hand.Release({300, 200});
-  EXPECT_EQ(match.engine().shown().Table(Seat::Player).size(), 1u);
-  match.Settle();
-  EXPECT_TRUE(card.isVisible());
-  EXPECT_TRUE(card.Enabled());
-}
-
-TEST_P(frmGameTest, ABoxInTheMiddleOfADragSendsTheCardHome) {
-  MatchScreen& match = Begin({4});
-  ScreenHand hand(*match.screen);
-  ctlCard& card = match.screen->hand().ctlYourDeck(1);
-  const QPoint home = card.pos();
-  hand.Press(hand.CentreOf(card) - QPoint(0, card.height() / 2 - 2));
-  hand.MoveTo({300, 200});
-  // A modal box blocks the window and swallows the release of the button.
-  QEvent blocked(QEvent::WindowBlocked);
-  QCoreApplication::sendEvent(match.screen.get(), &blocked);
-  EXPECT_EQ(card.pos(), home);
-  QMouseEvent hover(QEvent::MouseMove, QPointF(10, 10), QPointF(10, 10), Qt::NoButton, Qt::NoButton, {});
-  QCoreApplication::sendEvent(&card, &hover);
-  EXPECT_EQ(card.pos(), home) << "the card does not stick to the pointer";
-  hand.Release({300, 200});
-  EXPECT_EQ(match.engine().shown().Table(Seat::Player).size(), 1u);
+TEST_P(frmGameTest, TheEndOfTheTurnOrABoxInTheMiddleOfADragSendsTheCardHome) {
+  for (const bool box : {false, true}) {
+    MatchScreen& match = Begin({4, 5, 6});
+    ScreenHand hand(*match.screen);
+    ctlCard& card = match.screen->hand().ctlYourDeck(1);
+    const QPoint home = card.pos();
+    hand.Press(hand.CentreOf(card) - QPoint(0, card.height() / 2 - 2));
+    hand.MoveTo({300, 200});
+    EXPECT_NE(card.pos(), home);
+    if (box) {  // a modal one blocks the window and swallows the release of the button
+      QEvent blocked(QEvent::WindowBlocked);
+      QCoreApplication::sendEvent(match.screen.get(), &blocked);
+    } else {
+      hand.Key(Qt::Key_Space);
+    }
+    EXPECT_EQ(card.pos(), home);
+    QMouseEvent hover(QEvent::MouseMove, QPointF(10, 10), QPointF(10, 10), Qt::NoButton, Qt::NoButton, {});
+    QCoreApplication::sendEvent(&card, &hover);
+    EXPECT_EQ(card.pos(), home) << "the card does not stick to the pointer";
+    hand.Release({300, 200});
+    EXPECT_EQ(match.engine().shown().Table(Seat::Player).size(), 1u);
+    match.Settle();
+    EXPECT_TRUE(card.isVisible() && card.Enabled());
+  }
 }
 
 TEST_P(frmGameTest, FlipButtons) {
@@ -236,10 +215,7 @@ TEST_P(frmGameTest, KeysEndAndStandAndNothingElse) {
 }
 
 TEST_P(frmGameTest, EverythingByFocusWhenTheGameKeysAreOff) {
-  MatchScreenSetup setup = Setup({4});
-  setup.options = [](clsPlayer& player) { player.KeysEn = false; };
-  MatchScreen match(setup);
-  match.Begin();
+  MatchScreen& match = BeginWith([](clsPlayer& player) { player.KeysEn = false; });
   ScreenHand hand(*match.screen);
   std::vector<const QWidget*> reached;
   for (int i = 0; i < 14; ++i) {
@@ -312,4 +288,4 @@ TEST_P(frmGameTest, CardsPulseInOneStyleOnly) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

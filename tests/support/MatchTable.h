@@ -22,8 +22,19 @@
 
 namespace kv::test {
 
-/// What a scripted opponent does in a turn: it stands.
+/// What a scripted opponent does in a turn.
 inline void StandOpponent(AiOperations& side) {
+  side.AI_Stand();
+}
+inline void EndOpponent(AiOperations& side) {
+  side.AI_EndTurn();
+}
+inline void PlayFirst(AiOperations& side) {
+  side.AI_PlayCard(1);
+  side.AI_EndTurn();
+}
+inline void PlayFirstAndStand(AiOperations& side) {
+  side.AI_PlayCard(1);
   side.AI_Stand();
 }
 
