@@ -13,10 +13,10 @@
 #include "platform/Files.h"
 #include "support/ProgramStage.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
-class ProgramTest : public testing::Test, protected test::ProgramStage {
+class ProgramTest : public testing::Test, protected ProgramStage {
  protected:
   [[nodiscard]] frmGame& Match() { return *program->screenAs<frmGame>(); }
   void EnterArcade(int stake) {
@@ -290,7 +290,7 @@ TEST_F(ProgramTest, SurvivesAMonkey) {
     seen.insert(ScreenName());
     if (ScreenName() == "frmSplash" && upTo(3) != 0) EnterMenu("ann");
     if (program->screen() != &screen) continue;
-    test::ScreenHand hand(screen);
+    ScreenHand hand(screen);
     dialogs.answers.assign(4, upTo(3) != 0);
     dialogs.texts.assign(4, upTo(2) == 0 ? std::optional<std::string>("7000") : std::nullopt);
     const QList<QWidget*> widgets = screen.findChildren<QWidget*>();
@@ -420,7 +420,7 @@ TEST_F(ProgramTest, ADoubleClickEndsWithTheScreenThatItOpens) {
   EnterMenu("ann");
   Presses presses;
   QCoreApplication::instance()->installEventFilter(&presses);
-  test::ScreenHand(*program->screen()).DoubleClick(Control<QWidget>("cmdOptions"));
+  ScreenHand(*program->screen()).DoubleClick(Control<QWidget>("cmdOptions"));
   ASSERT_EQ(ScreenName(), "frmOptions");
   EXPECT_EQ(presses.count, 0);
   const QPoint empty(3, 300);
@@ -444,4 +444,4 @@ TEST_F(ProgramTest, EndsInTheMiddleOfAPause) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -7,10 +7,8 @@
 #include "support/ProgramStage.h"
 #include "support/SampleMatch.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
-
-using test::ProgramStage;
 
 struct Walk {
   const char* screen;
@@ -31,7 +29,7 @@ void OpenCards(ProgramStage& stage) {
 }
 /// The screen that this button of the record screen opens for a match of the past.
 void OpenPast(ProgramStage& stage, const char* button) {
-  HistoryFile(HistoryFile::PathOf(stage.folder / "ann.vnt")).Store(test::SampleMatch(3));
+  HistoryFile(HistoryFile::PathOf(stage.folder / "ann.vnt")).Store(SampleMatch(3));
   stage.Click("cmdRecord");
   stage.Click(button);
 }
@@ -151,4 +149,4 @@ INSTANTIATE_TEST_SUITE_P(Styles, ScreensWalkTest, testing::Values("Slate", "Embe
                          [](const auto& style) { return std::string(style.param); });
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -6,10 +6,10 @@
 
 #include "support/ProgramStage.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
-class StageTest : public testing::Test, protected test::ProgramStage {
+class StageTest : public testing::Test, protected ProgramStage {
  protected:
   StageTest() { sizes = &factor_; }
   ~StageTest() override {
@@ -22,7 +22,7 @@ class StageTest : public testing::Test, protected test::ProgramStage {
     EnterMenu("ann");
   }
   void Press(Qt::Key key, Qt::KeyboardModifiers held) {
-    test::ScreenHand(*program->screen()).Key(key, held);
+    ScreenHand(*program->screen()).Key(key, held);
     Settle(200);
   }
   [[nodiscard]] Stage& stage() { return program->stage(); }
@@ -123,4 +123,4 @@ TEST_F(StageTest, PicturesBecomeFinerInTheirPlaces) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -8,7 +8,7 @@
 #include "support/ScriptedDialogs.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -33,9 +33,9 @@ struct StartCheck : ::testing::Test {
   }
   bool Check() { return CheckProgramFiles(program.path(), working.path(), dialogs); }
 
-  test::TempFolder program;
-  test::TempFolder working;
-  test::ScriptedDialogs dialogs;
+  TempFolder program;
+  TempFolder working;
+  ScriptedDialogs dialogs;
 };
 
 TEST_F(StartCheck, TheFirstMissingFileIsNamedAndNothingElseIsDone) {
@@ -87,8 +87,8 @@ TEST_F(StartCheck, OwnPortraitsLieBesideTheProgramOrElseBesideThePlayers) {
 }
 
 TEST(SingleInstance, OneCopyForEachFolderAndAKilledOneKeepsNobodyOut) {
-  const test::TempFolder folder;
-  const test::TempFolder another;
+  const TempFolder folder;
+  const TempFolder another;
   const pid_t killed = ::fork();
   if (killed == 0) {
     const SingleInstance never(folder.path());
@@ -107,4 +107,4 @@ TEST(SingleInstance, OneCopyForEachFolderAndAKilledOneKeepsNobodyOut) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

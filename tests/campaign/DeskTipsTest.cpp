@@ -2,10 +2,10 @@
 #include "CampaignFixture.h"
 #include "campaign/DeskTips.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
-class DeskTips : public test::CampaignFixture {
+class DeskTips : public CampaignFixture {
  protected:
   /// What the stake's button says to this amount.
   std::string Stake(const char* amount) {
@@ -76,4 +76,4 @@ TEST_F(DeskTips, SayWhatOpensAnOpponent) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

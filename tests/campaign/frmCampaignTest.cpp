@@ -8,11 +8,9 @@
 #include "support/ScreenHand.h"
 #include "support/ScreenStage.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
-using test::ScreenHand;
-using test::ScreenStage;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -214,4 +212,4 @@ TEST_F(frmCampaignTest, ATileSaysWhyItIsGrey) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

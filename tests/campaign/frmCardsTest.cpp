@@ -15,7 +15,7 @@
 #include "support/ScreenStage.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 class CardsScreenTest : public testing::TestWithParam<const char*> {
@@ -52,11 +52,11 @@ class CardsScreenTest : public testing::TestWithParam<const char*> {
     stage.Settle(50);
   }
   void Key(Qt::Key key) {
-    test::ScreenHand(*screen).Key(key);
+    ScreenHand(*screen).Key(key);
     stage.Settle(50);
   }
   void Click(QWidget& widget) {
-    test::ScreenHand(*screen).Click(widget);
+    ScreenHand(*screen).Click(widget);
     stage.Settle(50);
   }
   void SetStake(const char* text) {
@@ -71,9 +71,9 @@ class CardsScreenTest : public testing::TestWithParam<const char*> {
   }
   [[nodiscard]] const std::vector<std::string>& asked() const { return stage.recorded.calls; }
 
-  test::TempFolder folder;
-  test::ScreenStage stage;
-  test::RecordingNetwork peer;
+  TempFolder folder;
+  ScreenStage stage;
+  RecordingNetwork peer;
   NetworkStake networkStake;
   clsGame game;
   std::unique_ptr<frmCards> screen;
@@ -132,7 +132,7 @@ TEST_P(CardsScreenTest, CardsGoIntoTheDeckAndBackAndOnlyAFullOneContinues) {
   Click(*screen->Bank({1, 1}));  // no stake yet: nothing happens, and the amount is still what is typed
   Key(Qt::Key_7);
   EXPECT_EQ(screen->wager().gettxtWager().text(), QStringLiteral("7"));
-  test::ScreenHand(*screen).Drag(screen->wager(), {40, 12}, {-50, -50});
+  ScreenHand(*screen).Drag(screen->wager(), {40, 12}, {-50, -50});
   EXPECT_EQ(screen->wager().pos(), QPoint(0, screen->titlebar().height())) << "the title bar stays free";
   SetStake("10");
   EXPECT_EQ(stage.sound.Count("draw"), 0);
@@ -464,4 +464,4 @@ INSTANTIATE_TEST_SUITE_P(Styles, CardsScreenTest, testing::Values("Slate", "Embe
                          [](const auto& style) { return std::string(style.param); });
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

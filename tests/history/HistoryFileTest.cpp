@@ -14,11 +14,8 @@
 #include "support/SampleMatch.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
-
-using test::SampleMatch;
-using test::TempFolder;
 
 /// Another program with the same file open.
 struct Database {
@@ -277,4 +274,4 @@ TEST(HistoryFile, LosesNothingWhenTheProgramIsKilled) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

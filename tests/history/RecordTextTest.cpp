@@ -5,10 +5,8 @@
 #include "history/RecordText.h"
 #include "support/SampleMatch.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
-
-using test::SampleMatch;
 
 constexpr const char* kByHand =
     "Kelm Vantri match, form 1\r\n"
@@ -132,4 +130,4 @@ TEST(RecordPack, RefusesBytesThatAreNoCourse) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -11,11 +11,8 @@
 #include "support/MatchTable.h"
 #include "support/SampleMatch.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
-
-using test::EventLog;
-using test::MatchTable;
 
 /// KV_HISTORY_MATCHES: how many.
 int Matches() {
@@ -79,7 +76,7 @@ TEST(Replay, KnowsThePersonsFlipsAndAMatchThatIsGivenUp) {
   table.engine->person().FirstFlip(1);
   table.Play(1);
   table.engine->person().SecondFlip(4);
-  table.strategy.turns = {PlayFirst, test::StandOpponent};
+  table.strategy.turns = {PlayFirst, StandOpponent};
   table.EndTurn();
   table.engine->person().FirstFlip(4);
   table.Play(3);
@@ -96,7 +93,7 @@ TEST(Replay, KnowsThePersonsFlipsAndAMatchThatIsGivenUp) {
 }
 
 TEST(Replay, StopsAtWhatTheRulesDoNotLetHappen) {
-  const MatchRecord whole = test::SampleMatch(3);
+  const MatchRecord whole = SampleMatch(3);
   ASSERT_TRUE(PlayAgain(whole));
   const auto refused = [&](const char* what, const std::function<void(MatchRecord&)>& change) {
     MatchRecord changed = whole;
@@ -181,4 +178,4 @@ TEST(Recorder, KeepsWithinItsLimitsWhateverIsTold) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

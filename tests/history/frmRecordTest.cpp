@@ -13,7 +13,7 @@
 #include "support/ScreenStage.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 class frmRecordTest : public testing::Test {
@@ -22,7 +22,7 @@ class frmRecordTest : public testing::Test {
 
   void Store(std::uint64_t seed, const std::string& opponent, bool won, std::int32_t after,
              const char* mode = "Campaign") {
-    MatchRecord record = test::SampleMatch(seed, opponent);
+    MatchRecord record = SampleMatch(seed, opponent);
     record.mode = mode;
     record.booking = {won ? event::Result::Won : event::Result::Lost, 90, after};
     history.Store(record);
@@ -31,7 +31,7 @@ class frmRecordTest : public testing::Test {
     screen = std::make_unique<frmRecord>(stage.services(), frmRecordServices{stage.player, history, look});
     screen->Open();
     stage.Settle();
-    hand = std::make_unique<test::ScreenHand>(*screen);
+    hand = std::make_unique<ScreenHand>(*screen);
     return *screen;
   }
   template <typename Kind>
@@ -48,12 +48,12 @@ class frmRecordTest : public testing::Test {
     return model->data(model->index(row, column)).toString().toStdString();
   }
 
-  test::TempFolder folder;
-  test::ScreenStage stage;
+  TempFolder folder;
+  ScreenStage stage;
   HistoryFile history;
   RecordLook look;
   std::unique_ptr<frmRecord> screen;
-  std::unique_ptr<test::ScreenHand> hand;
+  std::unique_ptr<ScreenHand> hand;
 };
 
 TEST_F(frmRecordTest, ListsMatchesAndFiltersThem) {
@@ -148,7 +148,7 @@ TEST_F(frmRecordTest, IsAsItWasAfterAReviewOrAReplay) {
   Control<QComboBox>("cmbRates").setCurrentIndex(2);
   Control<QTableView>("tblMatches").selectRow(1);
   Click("cmdReview");
-  history.Store(test::SampleMatch(4, "Tamsen"));  // of another program, won or lost
+  history.Store(SampleMatch(4, "Tamsen"));  // of another program, won or lost
   Open();
   ASSERT_GE(screen->shown().size(), 2u);
   EXPECT_EQ(Control<QComboBox>("cmbOpponent").currentText().toStdString(), "Tamsen");
@@ -202,4 +202,4 @@ TEST(HistoryStats, CountStreaksCardsAndDecks) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

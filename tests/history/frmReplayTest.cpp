@@ -9,19 +9,19 @@
 #include "support/ScreenHand.h"
 #include "support/ScreenStage.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 using Told = std::vector<std::string>;
 
 class frmReplayTest : public testing::TestWithParam<const char*> {
  protected:
-  frmReplayTest() : stage(GetParam()), record(test::SampleMatch(12, "Tamsen")) {}
+  frmReplayTest() : stage(GetParam()), record(SampleMatch(12, "Tamsen")) {}
 
   void Open() {
     screen = std::make_unique<frmReplay>(stage.services(), frmReplayServices{stage.player, record});
     screen->Open();
-    hand = std::make_unique<test::ScreenHand>(*screen);
+    hand = std::make_unique<ScreenHand>(*screen);
   }
   std::string Text(const char* label) {
     return screen->findChild<QLabel*>(QString::fromUtf8(label))->text().toStdString();
@@ -49,10 +49,10 @@ class frmReplayTest : public testing::TestWithParam<const char*> {
     return seen;
   }
 
-  test::ScreenStage stage;
+  ScreenStage stage;
   MatchRecord record;
   std::unique_ptr<frmReplay> screen;
-  std::unique_ptr<test::ScreenHand> hand;
+  std::unique_ptr<ScreenHand> hand;
 };
 INSTANTIATE_TEST_SUITE_P(Styles, frmReplayTest, testing::Values("Slate", "Ember"));
 
@@ -138,4 +138,4 @@ TEST_P(frmReplayTest, SaysThatThereIsNothingToPlay) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

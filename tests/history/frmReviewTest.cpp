@@ -11,10 +11,8 @@
 #include "support/ScreenHand.h"
 #include "support/ScreenStage.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
-
-using test::PositionOf;
 
 constexpr int kEndless = 1'000'000'000;  // matches for a decision
 
@@ -28,7 +26,7 @@ class frmReviewTest : public testing::Test {
   frmReview& Open(const MatchRecord& record, int matches) {
     screen = std::make_unique<frmReview>(stage.services(), frmReviewServices{stage.player, record, matches});
     screen->Open();
-    hand = std::make_unique<test::ScreenHand>(*screen);
+    hand = std::make_unique<ScreenHand>(*screen);
     return *screen;
   }
   void Finish() {
@@ -43,13 +41,13 @@ class frmReviewTest : public testing::Test {
     return model->data(model->index(row, column)).toString().toStdString();
   }
 
-  test::ScreenStage stage;
+  ScreenStage stage;
   std::unique_ptr<frmReview> screen;
-  std::unique_ptr<test::ScreenHand> hand;
+  std::unique_ptr<ScreenHand> hand;
 };
 
 TEST(MatchReview, HasTheTurnsAsTheyWerePlayedAndNothingOfTheOtherHand) {
-  MatchRecord record = test::SampleMatch(3);
+  MatchRecord record = SampleMatch(3);
   const std::vector<PlayedTurn> turns = TurnsOf(record);
   std::size_t closed = 0;
   for (const RecordedSet& set : record.sets) {
@@ -67,7 +65,7 @@ TEST(MatchReview, HasTheTurnsAsTheyWerePlayedAndNothingOfTheOtherHand) {
 }
 
 TEST_F(frmReviewTest, SaysWhatItTakesForADeckThatIsNotKnown) {
-  MatchRecord record = test::SampleMatch(3, "Tamsen");
+  MatchRecord record = SampleMatch(3, "Tamsen");
   EXPECT_EQ(AssumptionText(record), "");
   record.opponent = "Yourself";
   EXPECT_EQ(TurnsOf(record).front().position.side(Seat::Opponent).deck->getValue(), record.deck);
@@ -100,10 +98,10 @@ TEST(MatchReview, SaysWhatADecisionWasWorthAndPutsTheDearestFirst) {
 }
 
 TEST_F(frmReviewTest, ListsEveryDecisionAndIsReachedByKeys) {
-  Open(test::SampleMatch(12, "Tamsen"), 60);
+  Open(SampleMatch(12, "Tamsen"), 60);
   EXPECT_EQ(Text("lblState").substr(0, 5), "0 of ");
   Finish();
-  const auto decisions = static_cast<int>(DecisionsIn(TurnsOf(test::SampleMatch(12))));
+  const auto decisions = static_cast<int>(DecisionsIn(TurnsOf(SampleMatch(12))));
   EXPECT_EQ(screen->weighed().size(), static_cast<std::size_t>(decisions));
   EXPECT_EQ(screen->running(), nullptr);
   EXPECT_EQ(stage.scheduler.RunningTimers(), 0);
@@ -126,13 +124,13 @@ TEST_F(frmReviewTest, ListsEveryDecisionAndIsReachedByKeys) {
 
 TEST_F(frmReviewTest, EndsWithItsScreen) {
   const std::ptrdiff_t before = Threads();
-  Open(test::SampleMatch(3), kEndless);
+  Open(SampleMatch(3), kEndless);
   stage.Settle(200);
   EXPECT_EQ(Threads(), before + 1) << "it weighs beside the window";
   screen->CloseScreen();
   EXPECT_EQ(Threads(), before);
   EXPECT_EQ(stage.scheduler.RunningTimers(), 0);
-  Open(test::SampleMatch(3), kEndless);
+  Open(SampleMatch(3), kEndless);
   screen.reset();
   EXPECT_EQ(Threads(), before) << "the program ends in the middle of it";
 }
@@ -147,4 +145,4 @@ TEST_F(frmReviewTest, SaysThatThereIsNothingToReview) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -2,10 +2,8 @@
 // order, one of the two has won and the other has lost.
 #include "network/NetworkFixture.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
-
-using test::NetworkPlayer;
 
 /// How and when one side leaves while the host's last move is under way.
 struct Row {
@@ -18,7 +16,7 @@ struct Row {
   bool comesFirst = false;       // the farewell waits at the host already when it moves
 };
 
-class CrossingTest : public test::NetworkFixture {
+class CrossingTest : public NetworkFixture {
  protected:
   static constexpr Accounts kWon = {155, 1, 0, 0};  // of a match for 50 credits
   static constexpr Accounts kLost = {50, 0, 1, 0};
@@ -164,4 +162,4 @@ TEST_F(CrossingTest, WhoGivesUpBeforeThePeerIsAtTheTableHasLost) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -5,13 +5,10 @@
 #include "network/NetworkFixture.h"
 #include "support/EventLog.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
-using test::EventLog;
-using test::NetworkPlayer;
-
-class MatchEventsTwice : public test::NetworkFixture {
+class MatchEventsTwice : public NetworkFixture {
  protected:
   /// Hears the match that has just been opened, before its first set.
   void Listen() {
@@ -86,4 +83,4 @@ TEST_F(MatchEventsTwice, AMatchWhoseLineIsLostIsToldAsBrokenOff) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -1,11 +1,10 @@
 // A peer that says what it must not: nothing changes, and the chat tells of it.
 #include "network/NetworkFixture.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
-using NetworkFaultsTest = test::NetworkFixture;
-using test::NetworkPlayer;
+using NetworkFaultsTest = NetworkFixture;
 
 TEST_F(NetworkFaultsTest, MessagesOutOfPlaceChangeNothing) {
   Meet();
@@ -115,4 +114,4 @@ TEST_F(NetworkFaultsTest, BothDrawFromOneDeckThatHoldsFourOfEachCard) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

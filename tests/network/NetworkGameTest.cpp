@@ -4,12 +4,10 @@
 #include "network/NetworkFixture.h"
 #include "support/ScreenHand.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
-using test::NetworkPlayer;
-
-using NetworkGameTest = test::NetworkFixture;
+using NetworkGameTest = NetworkFixture;
 
 TEST_F(NetworkGameTest, GreetingShowsWhoIsThere) {
   Meet();
@@ -29,7 +27,7 @@ TEST_F(NetworkGameTest, GreetingShowsWhoIsThere) {
 }
 
 TEST_F(NetworkGameTest, AnotherVersionCanOnlyChat) {
-  test::LoopbackSocket stranger(net, "10.0.0.7");
+  LoopbackSocket stranger(net, "10.0.0.7");
   stranger.Connected = [&] { stranger.SendData("[Vers]1.3.0\x87[Name]Old\x87[Chat]hi\x87"); };
   stranger.DataArrival = [] {};
   host.Click("cmdConnect");
@@ -45,7 +43,7 @@ TEST_F(NetworkGameTest, AnotherVersionCanOnlyChat) {
 TEST_F(NetworkGameTest, AVersionThatCannotBeReadDoesNotMatch) {
   for (const char* version : {"", "1.2.4 and a long tail of it", "1.2.\xE4"}) {
     SCOPED_TRACE(version);
-    test::LoopbackSocket stranger(net, "10.0.0.7");
+    LoopbackSocket stranger(net, "10.0.0.7");
     stranger.Connected = [&] { stranger.SendData(std::string("[Vers]") + version + "\x87[Name]Old\x87"); };
     stranger.DataArrival = [] {};
     host.Click("cmdConnect");
@@ -365,13 +363,13 @@ TEST_F(NetworkGameTest, EscapeInTheChatLineTakesTheLineBackAndNothingElse) {
   line.setFocus();
   Pass(200);
   line.setText(QStringLiteral("good"));
-  test::ScreenHand(*lobby).Key(Qt::Key_Escape);
+  ScreenHand(*lobby).Key(Qt::Key_Escape);
   Pass(500);
   EXPECT_EQ(line.text(), QString());
   EXPECT_FALSE(line.hasFocus());
   EXPECT_EQ(host.ScreenName(), "frmNetwork");
   EXPECT_TRUE(host.program->network()->connected());
-  test::ScreenHand(*lobby).Key(Qt::Key_Escape);
+  ScreenHand(*lobby).Key(Qt::Key_Escape);
   EXPECT_EQ(host.ScreenName(), "frmMenu") << "whoever is not writing leaves the lobby";
 }
 
@@ -387,4 +385,4 @@ TEST_F(NetworkGameTest, AWinBuysTenCredits) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -12,11 +12,8 @@
 #include "network/TwoPrograms.h"
 #include "support/EventLog.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
-
-using test::NetworkPlayer;
-using test::TwoPrograms;
 
 /// What a match did to one player: checked against the sets it saw.
 struct Account {
@@ -50,7 +47,7 @@ struct Recorded {
     }
   }
   void CheckReplay() const {
-    test::EventLog again;
+    EventLog again;
     EXPECT_TRUE(PlayAgain(recorder.record(),
                           [&](const MatchEvent& event, const MatchShown&) { again.Happened(event); }));
     EXPECT_GT(log.lines.size(), 10u);
@@ -62,7 +59,7 @@ struct Recorded {
   }
   NetworkPlayer& player;
   frmGame* heard = nullptr;
-  test::EventLog log;
+  EventLog log;
   MatchRecorder recorder{{}};
 };
 
@@ -138,4 +135,4 @@ TEST(WholeMatch, CanBeReadAsATranscript) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

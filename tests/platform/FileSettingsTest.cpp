@@ -11,7 +11,7 @@
 #include "support/HandScheduler.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -25,9 +25,9 @@ class FileSettingsTest : public testing::Test {
     return Open().Read("volume") == "40";
   }
 
-  const test::TempFolder folder;
+  const TempFolder folder;
   const std::string path = folder / "own/settings.ini";  // a folder that is not there yet
-  test::HandScheduler scheduler;
+  HandScheduler scheduler;
 };
 
 TEST_F(FileSettingsTest, AChangeStandsOnTheDiskSoonAndNothingTicksAfterwards) {
@@ -117,4 +117,4 @@ TEST_F(FileSettingsTest, AFullDiskLeavesTheOldFile) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -10,12 +10,10 @@
 #include "platform/Files.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 namespace fs = std::filesystem;
-using test::OpenFiles;
-using test::TempFolder;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -194,4 +192,4 @@ TEST(Files, AKilledWriterLeavesAWholeFile) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

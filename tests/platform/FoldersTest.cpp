@@ -12,7 +12,7 @@
 #include "platform/Folders.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -63,7 +63,7 @@ TEST(UserFolder, FollowsTheConventionAndElseTheListOfUsers) {
 }
 
 TEST(DataFolder, IsBesideTheProgramOrWhereItWasInstalledWhereverThatWasMovedTo) {
-  const test::TempFolder folder;
+  const TempFolder folder;
   const fs::path prefix = fs::path(folder.path()) / "moved";
   const fs::path bin = prefix / "bin";
   const fs::path share = prefix / "share" / "kelm-vantri";
@@ -78,4 +78,4 @@ TEST(DataFolder, IsBesideTheProgramOrWhereItWasInstalledWhereverThatWasMovedTo) 
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

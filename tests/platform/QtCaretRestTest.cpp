@@ -7,11 +7,11 @@
 #include "platform/QtCaretRest.h"
 #include "support/HandScheduler.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 TEST(QtCaretRest, BlinksForAWhileAfterEachKey) {
-  test::HandScheduler scheduler;
+  HandScheduler scheduler;
   QLineEdit box;
   box.show();
   const int blinking = QApplication::cursorFlashTime();
@@ -28,4 +28,4 @@ TEST(QtCaretRest, BlinksForAWhileAfterEachKey) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

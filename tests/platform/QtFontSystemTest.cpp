@@ -7,7 +7,7 @@
 #include "platform/QtFontSystem.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 QString Drawn(const QString& name) {
@@ -17,7 +17,7 @@ QString Drawn(const QString& name) {
 TEST(QtFontSystem, DrawsAFileUnderTheNameItIsRecordedFor) {
   const char* assets = std::getenv("KV_ASSETS");
   ASSERT_NE(assets, nullptr);
-  const test::TempFolder folder;
+  const TempFolder folder;
   std::filesystem::copy(std::string(assets) + "/bnkgothicM.ttf", folder / "Some Font.TTF");
 
   QtFontSystem fonts;
@@ -32,7 +32,7 @@ TEST(QtFontSystem, DrawsAFileUnderTheNameItIsRecordedFor) {
 }
 
 TEST(QtFontSystem, ABrokenFileLeavesTheSystemsFontAndANote) {
-  const test::TempFolder folder;
+  const TempFolder folder;
   folder.Put("broken.ttf", "no font at all");
   QtFontSystem fonts;
   testing::internal::CaptureStderr();
@@ -44,4 +44,4 @@ TEST(QtFontSystem, ABrokenFileLeavesTheSystemsFontAndANote) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -13,7 +13,7 @@
 #include "support/HandScheduler.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 /// Polls, for at most some seconds: the device takes from a thread of its own.
@@ -62,8 +62,8 @@ class SdlSoundDeviceTest : public testing::Test {
     return samples;
   }
 
-  const test::TempFolder folder;
-  test::HandScheduler scheduler;
+  const TempFolder folder;
+  HandScheduler scheduler;
 };
 
 TEST_F(SdlSoundDeviceTest, TheSignalsThatEndTheProgramStayItsOwn) {
@@ -198,4 +198,4 @@ TEST_F(SdlSoundDeviceTest, ADamagedWaveIsNotedAndHarmsNoOther) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

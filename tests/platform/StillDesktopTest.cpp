@@ -4,7 +4,7 @@
 #include "platform/StillDesktop.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 TEST(StillDesktopTest, OnlyAClearNoAsksForStillness) {
@@ -23,7 +23,7 @@ TEST(StillDesktopTest, OnlyAClearNoAsksForStillness) {
       {"settings.ini", "gtk-enable-animations=0\n", false},
   };
   for (const auto& each : cases) {
-    const test::TempFolder config;
+    const TempFolder config;
     for (const char* folder : {"gtk-3.0", "gtk-4.0"}) std::filesystem::create_directory(config / folder);
     EXPECT_FALSE(DesktopWishesStillness(config.path()));
     config.Put(each.file, each.text);
@@ -32,4 +32,4 @@ TEST(StillDesktopTest, OnlyAClearNoAsksForStillness) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

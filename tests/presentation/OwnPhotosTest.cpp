@@ -15,10 +15,9 @@
 #include "presentation/Portraits.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
-using test::TempFolder;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
@@ -191,4 +190,4 @@ TEST(OwnPhotosTest, WhatIsRefusedIsTold) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -13,12 +13,11 @@
 #include "presentation/PicturesAhead.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 using datafile::Bytes;
 using datafile::Groups;
-using test::TempFolder;
 
 std::string DataFile() {
   return std::string(std::getenv("KV_ASSETS")) + "/" + kDataFileName;
@@ -218,4 +217,4 @@ TEST(Pictures, TheTreeExpandsTwoTypesAndHoldsPlacesForTheOthers) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

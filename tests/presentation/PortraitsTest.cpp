@@ -10,10 +10,8 @@
 #include "presentation/Portraits.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
-
-using test::TempFolder;
 
 class PortraitsTest : public testing::Test {
  protected:
@@ -188,4 +186,4 @@ TEST_F(PortraitsTest, AFileNameTooShortForAnExtensionHasNoOwnPicture) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -9,7 +9,7 @@
 #include "profile/clsPlayer.h"
 #include "support/ScriptedDialogs.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 using testing::ElementsAre;
@@ -43,7 +43,7 @@ class SoundsTest : public testing::Test {
 
   BufferLog device;
   Sounds sounds{device};
-  test::ScriptedDialogs boxes;
+  ScriptedDialogs boxes;
   SeededRandom random{1};
   clsPlayer player{boxes, random};
 };
@@ -214,4 +214,4 @@ TEST(SoundFiles, AreShortCleanAndEvenWithinEachCategory) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -6,7 +6,7 @@
 #include "presentation/frmResViewer.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 TEST(frmResViewer, ShowsTypesNamesAndWhatAPictureIs) {
@@ -16,7 +16,7 @@ TEST(frmResViewer, ShowsTypesNamesAndWhatAPictureIs) {
                                    {"JPG", {{105, datafile::EncodeJpeg(image, 80)}}},
                                    {"TXT", {{1, {'a'}}, {2, {'b'}}}}};
   const datafile::Bytes bytes = datafile::WriteModule(groups, datafile::SmallestSize(groups)).value();
-  const test::TempFolder folder;
+  const TempFolder folder;
   folder.Put("some.dat", {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
   frmResViewer viewer;
   ASSERT_TRUE(viewer.LoadFile(folder / "some.dat"));
@@ -42,4 +42,4 @@ TEST(frmResViewer, ShowsTypesNamesAndWhatAPictureIs) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

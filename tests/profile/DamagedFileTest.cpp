@@ -3,7 +3,7 @@
 #include "profile/ProfileFixture.h"
 #include "profile/Scramble.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 using testing::IsEmpty;
@@ -155,7 +155,7 @@ TEST_F(DamagedFile, RecordHeaders) {
 }
 
 TEST_F(DamagedFile, WhatIsNoFile) {
-  const int filesOpen = test::OpenFiles();
+  const int filesOpen = OpenFiles();
   std::filesystem::create_directory(folder / "dir.vnt");
   folder.Put("zeros.vnt", "");
   std::filesystem::resize_file(folder / "zeros.vnt", std::uintmax_t{1} << 32U);
@@ -165,9 +165,9 @@ TEST_F(DamagedFile, WhatIsNoFile) {
     EXPECT_EQ(player.FileName, name);
   }
   for (int i = 0; i < 20; ++i) EXPECT_TRUE(LoadBytes(player, "junk"));
-  EXPECT_EQ(test::OpenFiles(), filesOpen);
+  EXPECT_EQ(OpenFiles(), filesOpen);
   EXPECT_THAT(Told(dialogs), IsEmpty());
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

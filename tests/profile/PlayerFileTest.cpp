@@ -1,7 +1,7 @@
 #include "profile/PlayerFile.h"
 #include "profile/ProfileFixture.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 using testing::ElementsAre;
@@ -139,7 +139,7 @@ TEST_F(PlayerFileTest, OldFilesKeepDefaultsForWhatTheyLackAndAreRewritten) {
                           Case{"1.2.3", 123, true, true, true, true, true, true}}) {
     SampleFile sample;
     sample.setVersion(old.version);
-    test::ScriptedDialogs boxes;
+    ScriptedDialogs boxes;
     clsPlayer loaded(boxes, random);
     loaded.PIN = kPin;
     ASSERT_FALSE(LoadBytes(loaded, sample.Bytes(kPin, old.number))) << old.version;
@@ -180,4 +180,4 @@ TEST_F(PlayerFileTest, NewerFilesAreRefusedWithAMessage) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

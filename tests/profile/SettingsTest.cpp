@@ -3,12 +3,12 @@
 #include "profile/Settings.h"
 #include "support/MemorySettings.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 class SettingsTest : public testing::Test {
  protected:
-  test::MemorySettings store;
+  MemorySettings store;
   Settings settings{store};
 };
 
@@ -83,4 +83,4 @@ TEST_F(SettingsTest, AnAbsurdWishIsNotStored) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -7,7 +7,7 @@
 #include "profile/clsPlayer.h"
 #include "support/ScriptedRandom.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 using testing::ElementsAre;
@@ -78,7 +78,7 @@ TEST_F(Player, CipherRepeatsTheKey) {
 }
 
 TEST_F(Player, EncodePadsAndScramblesUnderThePin) {
-  test::ScriptedRandom draws({0.0, 0.05, 0.9999999, 0.9999999, 0.0, 0.0});
+  ScriptedRandom draws({0.0, 0.05, 0.9999999, 0.9999999, 0.0, 0.0});
   clsPlayer scripted(dialogs, draws);
   scripted.PIN = "31";
   EXPECT_EQ(clsPlayer::Cipher(scripted.Encode("hi"), "317"), "%hi05");
@@ -107,7 +107,7 @@ TEST_F(Player, CardCodesOfASideDeck) {
 TEST_F(Player, AFailedSaveTellsAndChangesNothing) {
   ASSERT_FALSE(LoadBytes(player, SampleFile().Bytes("")));
   const std::string file = folder.Get("p.vnt");
-  const int filesOpen = test::OpenFiles();
+  const int filesOpen = OpenFiles();
   std::filesystem::create_directory(folder / "dir.vnt");
   for (const std::string& bad : {folder / "gone/p.vnt", folder / "dir.vnt", folder / std::string(300, 'n'),
                                  path + "/x.vnt", std::string()}) {
@@ -126,7 +126,7 @@ TEST_F(Player, AFailedSaveTellsAndChangesNothing) {
   EXPECT_THAT(Told(dialogs), ElementsAre(kSaveFailed));
   EXPECT_EQ(folder.Get("p.vnt"), file);
   EXPECT_EQ(folder.Count(), 2);
-  EXPECT_EQ(test::OpenFiles(), filesOpen);
+  EXPECT_EQ(OpenFiles(), filesOpen);
 }
 
 /// While it lives no file of this process may have more than `bytes` bytes: a disk that is full.
@@ -193,4 +193,4 @@ TEST_F(Player, ASaveWaitsForTheOneUnderWay) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

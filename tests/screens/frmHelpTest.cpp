@@ -11,7 +11,7 @@
 #include "support/ProgramStage.h"
 #include "support/ScreenStage.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 TEST(HelpPages, HoldTheReadMesChaptersWithoutItsPicturesAndLinks) {
@@ -32,7 +32,7 @@ TEST(HelpPages, HoldTheReadMesChaptersWithoutItsPicturesAndLinks) {
 
 TEST(HelpExamples, ComeOutAsInAMatch) {
   for (const HelpExample& example : HelpExamples()) {
-    test::MatchTable table({});
+    MatchTable table({});
     table.engine->Activate();
     table.LoadTable(Seat::Player, example.table);
     table.engine->board().PlayFromHand(Seat::Player, 1, CardCode(example.played));
@@ -55,7 +55,7 @@ class HelpScenesTest : public testing::TestWithParam<const char*> {
   }
   [[nodiscard]] QImage Now() { return help_->grab().toImage(); }
 
-  test::ScreenStage stage{GetParam()};
+  ScreenStage stage{GetParam()};
 
  private:
   std::unique_ptr<frmHelp> help_;
@@ -78,7 +78,7 @@ TEST_P(HelpScenesTest, AnExamplePlaysOnceAndEndsAsThePictureOnThePage) {
   EXPECT_EQ(before, Now());
   stage.globals.effects.StopEffects();
   EXPECT_EQ(stage.scheduler.RunningTimers(), 0);
-  test::ScreenHand(help.lstPages()).Key(Qt::Key_Return);
+  ScreenHand(help.lstPages()).Key(Qt::Key_Return);
   EXPECT_TRUE(help.motionLayer().moving()) << "again";
   help.txtPage().verticalScrollBar()->setValue(help.txtPage().verticalScrollBar()->maximum());
   EXPECT_TRUE(help.motionLayer().moving()) << "what comes into view for the first time";
@@ -86,18 +86,18 @@ TEST_P(HelpScenesTest, AnExamplePlaysOnceAndEndsAsThePictureOnThePage) {
   help.txtPage().verticalScrollBar()->setValue(0);
   EXPECT_FALSE(help.motionLayer().moving()) << "all were seen";
   help.lstPages().setCurrentRow(0);
-  test::ScreenHand(help.lstPages()).Key(Qt::Key_Return);
+  ScreenHand(help.lstPages()).Key(Qt::Key_Return);
   EXPECT_FALSE(help.motionLayer().moving()) << "no example on this page";
 }
 
 TEST_P(HelpScenesTest, NothingPlaysWithoutEffects) {
   frmHelp& help = OpenCards(false);
-  test::ScreenHand(help.lstPages()).Key(Qt::Key_Return);
+  ScreenHand(help.lstPages()).Key(Qt::Key_Return);
   EXPECT_FALSE(help.motionLayer().moving());
   EXPECT_FALSE(help.txtPage().toPlainText().contains(QStringLiteral("plays it again")));
 }
 
-class HelpTest : public testing::Test, protected test::ProgramStage {
+class HelpTest : public testing::Test, protected ProgramStage {
  protected:
   [[nodiscard]] frmHelp* Help() {
     return program->stage().findChild<frmHelp*>(QStringLiteral("frmHelp"), Qt::FindDirectChildrenOnly);
@@ -132,7 +132,7 @@ TEST_F(HelpTest, OpensInFrontOfAMatchThatGoesOnBehindIt) {
   Settle(6000);
   EXPECT_TRUE(mine);
   EXPECT_TRUE(match.engine().shown().banner.visible || match.engine().shown().Stood(Seat::Player));
-  test::ScreenHand(*Help()).Key(Qt::Key_Escape);
+  ScreenHand(*Help()).Key(Qt::Key_Escape);
   Settle(500);
   EXPECT_EQ(Help(), nullptr);
   EXPECT_EQ(ScreenName(), "frmGame");
@@ -150,4 +150,4 @@ TEST_F(HelpTest, GoesWithTheProgramWhileItIsOpen) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

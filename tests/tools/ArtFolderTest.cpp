@@ -11,7 +11,7 @@
 #include "presentation/Pictures.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -80,7 +80,7 @@ class ArtFolder : public testing::Test {
     return fault;
   }
 
-  const test::TempFolder folder;
+  const TempFolder folder;
 };
 
 TEST_F(ArtFolder, APictureOfEachKindTakesItsPaintersPlace) {
@@ -166,4 +166,4 @@ TEST_F(ArtFolder, TellsWhatIsWrongWithASound) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test
