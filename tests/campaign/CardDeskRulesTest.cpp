@@ -8,10 +8,7 @@ namespace {
 class CardDeskRulesTest : public CampaignFixture {
  protected:
   CardDesk DeckView() {
-    game.CreditsRef = player.Credits;
-    game.DeckRef = player.Deck;
-    game.CardsRef = player.Cards;
-    game.Mode = kModeDeckConfig;
+    MeetDeckView();
     return {game, player, networkStake};
   }
   static std::string Shown(const CardDesk& desk, const CardPlace& place) {

@@ -23,13 +23,6 @@ struct Spot {
 
 class CardDeskWaysTest : public CampaignFixture {
  protected:
-  CardDeskWaysTest() {
-    game.CreditsRef = player.Credits;
-    game.DeckRef = player.Deck;
-    game.CardsRef = player.Cards;
-    game.Mode = kModeDeckConfig;
-  }
-
   std::unique_ptr<CardDesk> Set(const Spot& spot) {
     player.Credits->Value = spot.credits;
     for (int slot = 1; slot <= kDeckSize; ++slot) {
@@ -39,9 +32,7 @@ class CardDeskWaysTest : public CampaignFixture {
     for (std::size_t i = 0; i < kPlaces.size(); ++i) {
       player.Cards->setValue(kPlaces[i].kind, kPlaces[i].value, static_cast<std::int16_t>(spot.counts[i]));
     }
-    game.CreditsRef = player.Credits;
-    game.DeckRef = player.Deck;
-    game.CardsRef = player.Cards;
+    MeetDeckView();
     auto desk = std::make_unique<CardDesk>(game, player, networkStake);
     desk->YourDeck(spot.view);
     if (spot.picked >= 0) desk->ClickBank(kPlaces.at(static_cast<std::size_t>(spot.picked)));
