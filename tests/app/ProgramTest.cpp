@@ -2,10 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
-#include <QCheckBox>
-#include <QLabel>
 #include <QScreen>
-#include <filesystem>
 #include <set>
 
 #include "app/AccessibleRoles.h"
@@ -23,6 +20,11 @@ class ProgramTest : public testing::Test, protected ProgramStage {
     Click("cmdArcade");
     SettleStake(stake);
   }
+  /// From the card screen, where the stake is settled, to the player's first turn.
+  void ToMatch() {
+    Click("cmdContinue");
+    Settle(6000);
+  }
   /// On the card screen: sets the stake; the stored deck is taken as it is.
   void SettleStake(int stake) {
     Control<QLineEdit>("txtWager").setText(QString::number(stake));
@@ -39,59 +41,24 @@ class ProgramTest : public testing::Test, protected ProgramStage {
   }
 };
 
-TEST_F(ProgramTest, ANewcomerMakesAPlayerAndComesBackWithThePin) {
-  Start();
-  EXPECT_EQ(ScreenName(), "frmSplash");
-  EXPECT_FALSE(Control<QWidget>("cmdContinue").isEnabled());
-  Click("cmdCreate");
-  Control<QLineEdit>("txtPlayer").setText(QStringLiteral("Bob"));
-  Click("cmdNewName");
-  EXPECT_EQ(Control<QLineEdit>("txtName").text(), QStringLiteral("bob"));
-  Control<QLineEdit>("txtNewPIN").setText(QStringLiteral("12"));
-  Click("cmdNewFile");
-  Click("cmdContinue");
-  Settle(1000);
-  EXPECT_EQ(ScreenName(), "frmMenu");
-  EXPECT_EQ(program->player()->Name, "Bob");
-  EXPECT_TRUE(dialogs.boxes.empty());
-
-  Start();  // another day
-  Control<QLineEdit>("txtPIN").setText(QStringLiteral("13"));
-  Click("cmdContinue");
-  ASSERT_EQ(dialogs.boxes.size(), 1u);
-  EXPECT_EQ(dialogs.boxes[0].text, "Player file corrupted, or incorrect PIN");
-  EXPECT_EQ(ScreenName(), "frmSplash");
-  EXPECT_EQ(program->player(), nullptr);
-  Control<QLineEdit>("txtPIN").setText(QStringLiteral("12"));
-  Click("cmdContinue");
-  Settle(1000);
-  EXPECT_EQ(ScreenName(), "frmMenu");
-}
-
 TEST_F(ProgramTest, TheStyleChosenInTheOptionsIsThatOfTheNextScreens) {
-  MakePlayer("ann");
-  Start();
-  EnterMenu("ann");
+  EnterMenuAs("ann");
   Click("cmdOptions");
   EXPECT_EQ(ScreenName(), "frmOptions");
   Control<QListWidget>("lstInterface").setCurrentRow(1);
   Click("cmdOK");
   EXPECT_EQ(Stored("ann")->Interface_Opt, "Ember");
   EnterArcade(10);
-  Click("cmdContinue");
-  Settle(6000);
+  ToMatch();
   EXPECT_EQ(Match().StyleIndex(), 1);
   EXPECT_EQ(Match().hand().ctlYourDeck(1).size(), QSize(83, 102));
 }
 
 TEST_F(ProgramTest, AnArcadeRunIsPlayedForItsCreditsAndEndsInTheMenu) {
-  MakePlayer("ann", [](clsPlayer& player) { player.Arcade_Best = 90; });
-  Start();
-  EnterMenu("ann");
+  EnterMenuAs("ann", [](clsPlayer& player) { player.Arcade_Best = 90; });
   EnterArcade(30);
   EXPECT_EQ(program->game()->Wager, 30);
-  Click("cmdContinue");
-  Settle(6000);
+  ToMatch();
   LoseMatch();
   EXPECT_EQ(ScreenName(), "frmCards");
   EXPECT_EQ(program->game()->CreditsRef->Value, 70);
@@ -110,13 +77,10 @@ TEST_F(ProgramTest, AnArcadeRunIsPlayedForItsCreditsAndEndsInTheMenu) {
 }
 
 TEST_F(ProgramTest, EveryMatchIsKeptAlsoOneThatIsLeft) {
-  MakePlayer("ann");
-  Start();
-  EnterMenu("ann");
+  EnterMenuAs("ann");
   EnterArcade(30);
   EXPECT_FALSE(FileExists(folder / "ann.history.sqlite"));
-  Click("cmdContinue");
-  Settle(6000);
+  ToMatch();
   LoseMatch();
   auto lines = program->history()->Lines();
   ASSERT_EQ(lines.size(), 1u);
@@ -129,8 +93,7 @@ TEST_F(ProgramTest, EveryMatchIsKeptAlsoOneThatIsLeft) {
   EXPECT_EQ(lines[0].opponent, program->game()->OppName);
   EXPECT_TRUE(PlayAgain(*program->history()->Load(lines[0].id)));
   SettleStake(20);
-  Click("cmdContinue");
-  Settle(6000);
+  ToMatch();
   program->EndAtOnce();
   program.reset();
   lines = HistoryFile(folder / "ann.history.sqlite").Lines();
@@ -160,8 +123,7 @@ TEST_F(ProgramTest, AHistoryThatCannotBeWrittenCostsNoMatchAndIsToldOnce) {
   Start();
   EnterMenu("ann");
   EnterArcade(30);
-  Click("cmdContinue");
-  Settle(6000);
+  ToMatch();
   LoseMatch();
   EXPECT_EQ(dialogs.boxes.size(), 1u) << "the question before the forfeit";
   EXPECT_EQ(program->game()->CreditsRef->Value, 70);
@@ -172,17 +134,14 @@ TEST_F(ProgramTest, AHistoryThatCannotBeWrittenCostsNoMatchAndIsToldOnce) {
 }
 
 TEST_F(ProgramTest, ACampaignMatchIsBookedInAdvanceAndOnce) {
-  MakePlayer("ann");
-  Start();
-  EnterMenu("ann");
+  EnterMenuAs("ann");
   Click("cmdCampaign");
   EXPECT_EQ(ScreenName(), "frmCampaign");
   Click("cmdOpp0");
   SettleStake(10);
   EXPECT_EQ(Stored("ann")->Losses->Value, 1) << "in advance, on disk";
   EXPECT_EQ(Stored("ann")->Credits->Value, 100);
-  Click("cmdContinue");
-  Settle(6000);
+  ToMatch();
   EXPECT_EQ(Stored("ann")->Credits->Value, 90);
   LoseMatch();
   EXPECT_EQ(ScreenName(), "frmCampaign");
@@ -200,26 +159,21 @@ TEST_F(ProgramTest, EveryControlOfEveryScreenHasANameAndARole) {
       if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus) continue;
       const QAccessibleInterface* control = QAccessible::queryAccessibleInterface(widget);
       ASSERT_NE(control, nullptr);
-      EXPECT_FALSE(control->text(QAccessible::Name).isEmpty())
-          << ScreenName() << " " << widget->objectName().toStdString();
-      EXPECT_NE(control->role(), QAccessible::Client)
-          << ScreenName() << " " << widget->objectName().toStdString();
+      SCOPED_TRACE(ScreenName() + " " + widget->objectName().toStdString());
+      EXPECT_FALSE(control->text(QAccessible::Name).isEmpty());
+      EXPECT_NE(control->role(), QAccessible::Client);
     }
   };
   check();
   EnterMenu("ann");
-  check();
-  Click("cmdOptions");
-  check();
-  Click("cmdCancel");
-  Click("cmdCampaign");
-  check();
-  Click("cmdOpp0");
+  for (const char* next : {"cmdOptions", "cmdCancel", "cmdCampaign", "cmdOpp0"}) {
+    check();
+    Click(next);
+  }
   check();
   SettleStake(0);
   check();
-  Click("cmdContinue");
-  Settle(6000);
+  ToMatch();
   check();
   while (!Match().cmdTurn().Enabled()) Settle(1000);
   QAccessibleInterface* card = QAccessible::queryAccessibleInterface(&Match().hand().ctlYourDeck(1));
@@ -231,9 +185,7 @@ TEST_F(ProgramTest, EveryControlOfEveryScreenHasANameAndARole) {
 
 TEST_F(ProgramTest, APressByAScreenReaderDoesNotWaitForTheBoxThatItOpens) {
   InstallAccessibleRoles();
-  MakePlayer("ann");
-  Start();
-  EnterMenu("ann");
+  EnterMenuAs("ann");
   auto& button = Control<QWidget>("cmdPlayer");
   QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&button);
   dialogs.answers = {false};
@@ -249,9 +201,7 @@ TEST_F(ProgramTest, APressByAScreenReaderDoesNotWaitForTheBoxThatItOpens) {
 
 TEST_F(ProgramTest, TheWindowTheTitleBarAndTheStakeAreKnownForWhatTheyAre) {
   InstallAccessibleRoles();
-  MakePlayer("ann");
-  Start();
-  EnterMenu("ann");
+  EnterMenuAs("ann");
   Click("cmdArcade");
   const auto spoken = [](QWidget& widget) { return QAccessible::queryAccessibleInterface(&widget); };
   EXPECT_EQ(spoken(program->stage())->role(), QAccessible::Window);
@@ -329,9 +279,7 @@ TEST_F(ProgramTest, SurvivesAMonkey) {
 }
 
 TEST_F(ProgramTest, EndsOnceAndLeavesNothingRunning) {
-  MakePlayer("ann");
-  Start();
-  EnterMenu("ann");
+  EnterMenuAs("ann");
   Control<ctlTitlebar>("ctlTitlebar").Quit();
   EXPECT_EQ(sound.Count("losematch"), 1);
   Settle(2000);
@@ -344,12 +292,9 @@ TEST_F(ProgramTest, EndsOnceAndLeavesNothingRunning) {
 
 TEST_F(ProgramTest, EndsAtOnceWithoutAQuestionAndKeepsTheRecord) {
   for (const bool boxOpen : {false, true}) {
-    MakePlayer("ann", [](clsPlayer& player) { player.Arcade_Best = 20; });
-    Start();
-    EnterMenu("ann");
+    EnterMenuAs("ann", [](clsPlayer& player) { player.Arcade_Best = 20; });
     EnterArcade(10);
-    Click("cmdContinue");
-    Settle(6000);
+    ToMatch();
     quits = 0;
     dialogs.boxes.clear();
     if (boxOpen) {
@@ -370,9 +315,7 @@ TEST_F(ProgramTest, EndsAtOnceWithoutAQuestionAndKeepsTheRecord) {
 }
 
 TEST_F(ProgramTest, AFileThatCannotBeSavedHoldsUpNoEnd) {
-  MakePlayer("ann");
-  Start();
-  EnterMenu("ann");
+  EnterMenuAs("ann");
   EnterArcade(10);
   std::filesystem::remove_all(folder.path());
   program->EndAtOnce();
@@ -415,9 +358,7 @@ TEST_F(ProgramTest, ADoubleClickEndsWithTheScreenThatItOpens) {
     }
     int count = 0;
   };
-  MakePlayer("ann");
-  Start();
-  EnterMenu("ann");
+  EnterMenuAs("ann");
   Presses presses;
   QCoreApplication::instance()->installEventFilter(&presses);
   ScreenHand(*program->screen()).DoubleClick(Control<QWidget>("cmdOptions"));
@@ -426,21 +367,6 @@ TEST_F(ProgramTest, ADoubleClickEndsWithTheScreenThatItOpens) {
   const QPoint empty(3, 300);
   QTest::mouseClick(program->stage().windowHandle(), Qt::LeftButton, {}, empty);
   EXPECT_EQ(presses.count, 1);
-}
-
-TEST_F(ProgramTest, EndsInTheMiddleOfAPause) {
-  MakePlayer("ann");
-  Start();
-  EnterMenu("ann");
-  EnterArcade(10);
-  Click("cmdContinue");
-  Settle(6000);
-  dialogs.answers = {true};
-  scheduler.At(200, [this] { program->screen()->LeaveProgram(); });
-  Match().engine().person().EndTurn();
-  Settle(6000);
-  EXPECT_EQ(quits, 1);
-  EXPECT_EQ(scheduler.RunningTimers(), 0);
 }
 
 }  // namespace

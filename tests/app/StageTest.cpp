@@ -1,7 +1,6 @@
 // The window that holds the screens: its size, its place, and what of them is remembered.
 #include <gtest/gtest.h>
 
-#include <QGuiApplication>
 #include <QScreen>
 
 #include "support/ProgramStage.h"
@@ -17,9 +16,7 @@ class StageTest : public testing::Test, protected ProgramStage {
     factor_.Set(1);
   }
   void Play(const char* style) {
-    MakePlayer("ann", [&](clsPlayer& player) { player.Interface_Opt = style; });
-    Start();
-    EnterMenu("ann");
+    EnterMenuAs("ann", [&](clsPlayer& player) { player.Interface_Opt = style; });
   }
   void Press(Qt::Key key, Qt::KeyboardModifiers held) {
     ScreenHand(*program->screen()).Key(key, held);

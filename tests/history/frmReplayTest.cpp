@@ -2,33 +2,24 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
-#include <QLabel>
 
 #include "history/frmReplay.h"
+#include "support/OneScreen.h"
 #include "support/SampleMatch.h"
-#include "support/ScreenHand.h"
-#include "support/ScreenStage.h"
 
 namespace kv::test {
 namespace {
 
 using Told = std::vector<std::string>;
 
-class frmReplayTest : public testing::TestWithParam<const char*> {
+class frmReplayTest : public testing::TestWithParam<const char*>, protected OneScreen<frmReplay> {
  protected:
-  frmReplayTest() : stage(GetParam()), record(SampleMatch(12, "Tamsen")) {}
+  frmReplayTest() : OneScreen(GetParam()), record(SampleMatch(12, "Tamsen")) {}
+  ~frmReplayTest() override { screen.reset(); }
 
-  void Open() {
-    screen = std::make_unique<frmReplay>(stage.services(), frmReplayServices{stage.player, record});
-    screen->Open();
-    hand = std::make_unique<ScreenHand>(*screen);
-  }
-  std::string Text(const char* label) {
-    return screen->findChild<QLabel*>(QString::fromUtf8(label))->text().toStdString();
-  }
+  void Open() { Show(std::make_unique<frmReplay>(services(), frmReplayServices{player, record}), 0); }
   ctlCard& HandCard(const char* name, int slot) {
-    return *static_cast<ctlCard*>(
-        screen->findChild<QWidget*>(QString::fromUtf8(name) + QString::number(slot)));
+    return Find<ctlCard>((name + std::to_string(slot)).c_str());
   }
   /// All that a person sees of the match.
   Told Seen() {
@@ -49,10 +40,7 @@ class frmReplayTest : public testing::TestWithParam<const char*> {
     return seen;
   }
 
-  ScreenStage stage;
   MatchRecord record;
-  std::unique_ptr<frmReplay> screen;
-  std::unique_ptr<ScreenHand> hand;
 };
 INSTANTIATE_TEST_SUITE_P(Styles, frmReplayTest, testing::Values("Slate", "Ember"));
 
@@ -73,7 +61,7 @@ TEST_P(frmReplayTest, ShowsTheSameForthAndBack) {
     }
   }
   ASSERT_EQ(forth.size(), steps.size() - 1) << "the booking of a loss changes nothing: no step";
-  EXPECT_FALSE(screen->findChild<QWidget*>(QStringLiteral("cmdForward"))->isEnabled());
+  EXPECT_FALSE(Find("cmdForward").isEnabled());
   for (std::size_t i = forth.size(); i > 0; --i) {
     EXPECT_EQ(Seen(), forth[i - 1]) << "step " << i;
     hand->Key(Qt::Key_Left);
@@ -83,34 +71,32 @@ TEST_P(frmReplayTest, ShowsTheSameForthAndBack) {
 
 TEST_P(frmReplayTest, GoesFromSetToSetAndRunsByItself) {
   Open();
-  const auto click = [&](const char* name) {
-    hand->Click(*screen->findChild<QWidget*>(QString::fromUtf8(name)));
-  };
+  const auto click = [&](const char* name) { hand->Click(Find(name)); };
   click("cmdNextSet");
   click("cmdNextSet");
   EXPECT_EQ(Text("lblStrip").substr(0, 6), "Set 2.");
   EXPECT_TRUE(screen->side(Seat::Player).table().empty());
   const Told second = Seen();
   click("cmdRun");
-  stage.Settle(2000);
+  Settle(2000);
   EXPECT_NE(Seen(), second);
-  EXPECT_EQ(stage.announcer.Last(), Text("lblStrip"));
+  EXPECT_EQ(announcer.Last(), Text("lblStrip"));
   hand->Key(Qt::Key_PageUp);
   EXPECT_EQ(Seen(), second);
-  EXPECT_EQ(stage.scheduler.RunningTimers(), 0) << "a step ends the run";
+  EXPECT_EQ(scheduler.RunningTimers(), 0) << "a step ends the run";
   hand->Key(Qt::Key_PageUp);
   EXPECT_EQ(Text("lblStrip").substr(0, 6), "Set 1.");
   click("cmdRun");
-  stage.Settle(900 * static_cast<int>(screen->course().size()));
+  Settle(900 * static_cast<int>(screen->course().size()));
   EXPECT_TRUE(screen->course().AtEnd());
-  EXPECT_EQ(stage.scheduler.RunningTimers(), 0);
+  EXPECT_EQ(scheduler.RunningTimers(), 0);
   hand->Key(Qt::Key_Escape);
-  EXPECT_EQ(stage.recorded.calls, std::vector<std::string>{"OpenRecord"});
+  EXPECT_EQ(recorded.calls, std::vector<std::string>{"OpenRecord"});
 }
 
 TEST_P(frmReplayTest, GoesToASetByItsNumber) {
   Open();
-  auto& sets = *screen->findChild<QComboBox*>(QStringLiteral("cmbSet"));
+  auto& sets = Find<QComboBox>("cmbSet");
   ASSERT_EQ(sets.count(), static_cast<int>(record.sets.size()));
   hand->Key(Qt::Key_3);
   EXPECT_EQ(Text("lblStrip").substr(0, 6), "Set 3.");
@@ -123,7 +109,7 @@ TEST_P(frmReplayTest, GoesToASetByItsNumber) {
   sets.setFocus();
   hand->Key(Qt::Key_Down);
   EXPECT_EQ(Text("lblStrip").substr(0, 6), "Set 3.");
-  EXPECT_EQ(stage.announcer.Last(), Text("lblStrip"));
+  EXPECT_EQ(announcer.Last(), Text("lblStrip"));
   hand->Key(Qt::Key_1);
   EXPECT_EQ(Text("lblStrip").substr(0, 6), "Set 1.");
 }
@@ -134,7 +120,7 @@ TEST_P(frmReplayTest, SaysThatThereIsNothingToPlay) {
   for (const int key : {Qt::Key_Right, Qt::Key_Left, Qt::Key_PageDown, Qt::Key_PageUp})
     hand->Key(static_cast<Qt::Key>(key));
   EXPECT_EQ(Text("lblStrip"), "This match has nothing that could be played again.");
-  EXPECT_FALSE(screen->findChild<QWidget*>(QStringLiteral("cmdRun"))->isEnabled());
+  EXPECT_FALSE(Find("cmdRun").isEnabled());
 }
 
 }  // namespace

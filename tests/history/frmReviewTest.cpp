@@ -1,15 +1,13 @@
 // The review of a match: what it says of a match that is known, and that leaving ends it at once.
 #include <gtest/gtest.h>
 
-#include <QLabel>
 #include <QTableView>
 #include <filesystem>
 
 #include "history/frmReview.h"
+#include "support/OneScreen.h"
 #include "support/Position.h"
 #include "support/SampleMatch.h"
-#include "support/ScreenHand.h"
-#include "support/ScreenStage.h"
 
 namespace kv::test {
 namespace {
@@ -21,29 +19,19 @@ std::ptrdiff_t Threads() {
   return std::distance(begin(tasks), end(tasks));
 }
 
-class frmReviewTest : public testing::Test {
+class frmReviewTest : public testing::Test, protected OneScreen<frmReview> {
  protected:
   frmReview& Open(const MatchRecord& record, int matches) {
-    screen = std::make_unique<frmReview>(stage.services(), frmReviewServices{stage.player, record, matches});
-    screen->Open();
-    hand = std::make_unique<ScreenHand>(*screen);
-    return *screen;
+    return Show(std::make_unique<frmReview>(services(), frmReviewServices{player, record, matches}), 0);
   }
   void Finish() {
     screen->running()->Wait();
-    stage.Settle(200);
-  }
-  std::string Text(const char* label) {
-    return screen->findChild<QLabel*>(QString::fromUtf8(label))->text().toStdString();
+    Settle(200);
   }
   std::string Cell(int row, int column) {
-    const auto* model = screen->findChild<QTableView*>(QStringLiteral("tblDecisions"))->model();
+    const auto* model = Find<QTableView>("tblDecisions").model();
     return model->data(model->index(row, column)).toString().toStdString();
   }
-
-  ScreenStage stage;
-  std::unique_ptr<frmReview> screen;
-  std::unique_ptr<ScreenHand> hand;
 };
 
 TEST(MatchReview, HasTheTurnsAsTheyWerePlayedAndNothingOfTheOtherHand) {
@@ -104,32 +92,32 @@ TEST_F(frmReviewTest, ListsEveryDecisionAndIsReachedByKeys) {
   const auto decisions = static_cast<int>(DecisionsIn(TurnsOf(SampleMatch(12))));
   EXPECT_EQ(screen->weighed().size(), static_cast<std::size_t>(decisions));
   EXPECT_EQ(screen->running(), nullptr);
-  EXPECT_EQ(stage.scheduler.RunningTimers(), 0);
+  EXPECT_EQ(scheduler.RunningTimers(), 0);
   EXPECT_EQ(Text("lblState").substr(0, Text("lblState").find(',')), std::to_string(decisions) + " decisions");
-  EXPECT_EQ(stage.announcer.Last(), Text("lblState") + ".");
+  EXPECT_EQ(announcer.Last(), Text("lblState") + ".");
   EXPECT_NE(Text("lblDecision").find(Cell(0, 3)), std::string::npos) << "the dearest is chosen";
-  auto& plot = *screen->findChild<QWidget*>(QStringLiteral("plot"));
+  auto& plot = Find("plot");
   plot.setFocus();
   hand->Key(Qt::Key_Home);
   EXPECT_EQ(Text("lblDecision").substr(0, 6), "Set 1.");
-  EXPECT_EQ(stage.announcer.Last(), Text("lblDecision"));
+  EXPECT_EQ(announcer.Last(), Text("lblDecision"));
   for (const char* name : {"plot", "tblDecisions", "cmdBack"}) {
-    const auto& control = *screen->findChild<QWidget*>(QString::fromUtf8(name));
+    const auto& control = Find(name);
     EXPECT_TRUE(control.focusPolicy() & Qt::TabFocus) << name;
     EXPECT_FALSE(control.accessibleName().isEmpty()) << name;
   }
   hand->Key(Qt::Key_Escape);
-  EXPECT_EQ(stage.recorded.calls, std::vector<std::string>{"OpenRecord"});
+  EXPECT_EQ(recorded.calls, std::vector<std::string>{"OpenRecord"});
 }
 
 TEST_F(frmReviewTest, EndsWithItsScreen) {
   const std::ptrdiff_t before = Threads();
   Open(SampleMatch(3), kEndless);
-  stage.Settle(200);
+  Settle(200);
   EXPECT_EQ(Threads(), before + 1) << "it weighs beside the window";
   screen->CloseScreen();
   EXPECT_EQ(Threads(), before);
-  EXPECT_EQ(stage.scheduler.RunningTimers(), 0);
+  EXPECT_EQ(scheduler.RunningTimers(), 0);
   Open(SampleMatch(3), kEndless);
   screen.reset();
   EXPECT_EQ(Threads(), before) << "the program ends in the middle of it";
@@ -138,9 +126,9 @@ TEST_F(frmReviewTest, EndsWithItsScreen) {
 TEST_F(frmReviewTest, SaysThatThereIsNothingToReview) {
   Open(MatchRecord(), kEndless);
   EXPECT_EQ(Text("lblDecision"), "This match has no decision of yours that could be weighed.");
-  EXPECT_EQ(stage.announcer.Last(), Text("lblDecision"));
+  EXPECT_EQ(announcer.Last(), Text("lblDecision"));
   EXPECT_EQ(screen->running(), nullptr);
-  hand->Click(*screen->findChild<QWidget*>(QStringLiteral("plot")));
+  hand->Click(Find("plot"));
   hand->Key(Qt::Key_Home);
 }
 

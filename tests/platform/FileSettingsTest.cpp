@@ -1,14 +1,13 @@
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <algorithm>
-#include <csignal>
 #include <filesystem>
 #include <iostream>
 
 #include "platform/FileSettings.h"
 #include "support/HandScheduler.h"
+#include "support/Limits.h"
 #include "support/TempFolder.h"
 
 namespace kv::test {
@@ -101,17 +100,13 @@ TEST_F(FileSettingsTest, SomethingElseInItsPlaceIsNoStop) {
 
 TEST_F(FileSettingsTest, AFullDiskLeavesTheOldFile) {
   ASSERT_TRUE(Keeps());
-  const auto before = std::signal(SIGXFSZ, SIG_IGN);
-  rlimit old{};
-  ::getrlimit(RLIMIT_FSIZE, &old);
-  const rlimit full{0, old.rlim_max};
   testing::internal::CaptureStderr();
-  ::setrlimit(RLIMIT_FSIZE, &full);
-  Open().Write("volume", "90");
-  ::setrlimit(RLIMIT_FSIZE, &old);
+  {
+    const FullDisk full(0);
+    Open().Write("volume", "90");
+  }
   std::cerr.clear();  // its own file was full, too
   (void)testing::internal::GetCapturedStderr();
-  std::signal(SIGXFSZ, before);
   EXPECT_EQ(Open().Read("volume"), "40");
   EXPECT_EQ(std::distance(fs::directory_iterator(folder / "own"), {}), 1);
 }

@@ -1,13 +1,10 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <csignal>
-
 #include "platform/Files.h"
+#include "support/Limits.h"
 #include "support/TempFolder.h"
 
 namespace kv::test {
@@ -16,23 +13,6 @@ namespace {
 namespace fs = std::filesystem;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-/// Lowers one of the process's limits for the life of the object.
-class Limit {
- public:
-  Limit(int what, rlim_t value) : what_(what) {
-    ::getrlimit(static_cast<__rlimit_resource>(what_), &old_);
-    const rlimit lowered{value, old_.rlim_max};
-    ::setrlimit(static_cast<__rlimit_resource>(what_), &lowered);
-  }
-  Limit(const Limit&) = delete;
-  Limit& operator=(const Limit&) = delete;
-  ~Limit() { ::setrlimit(static_cast<__rlimit_resource>(what_), &old_); }
-
- private:
-  int what_;
-  rlimit old_{};
-};
 
 TEST(Files, ReadsWholeFilesUpToTheLimit) {
   const TempFolder folder;
@@ -123,12 +103,11 @@ TEST(Files, AFailedWriteLeavesTheOldFileAndNothingElse) {
   folder.Put("file", "old");
   fs::create_directory(folder / "sub");
   const int before = OpenFiles();
-  EXPECT_NE(AtomicWrite(folder / "sub", "new"), "");
-  EXPECT_NE(AtomicWrite(folder / "missing/file", "new"), "");
-  EXPECT_NE(AtomicWrite(folder / "file/inside", "new"), "");
-  EXPECT_NE(AtomicWrite(folder / std::string(256, 'n'), "new"), "");
-  EXPECT_NE(AtomicWrite("", "new"), "");
-  EXPECT_NE(AtomicWrite((folder / "file") + std::string("\0x", 2), "new"), "");
+  for (const std::string& path :
+       {folder / "sub", folder / "missing/file", folder / "file/inside", folder / std::string(256, 'n'),
+        std::string(), (folder / "file") + std::string("\0x", 2)}) {
+    EXPECT_NE(AtomicWrite(path, "new"), "") << path;
+  }
   {
     const Limit noDescriptors(RLIMIT_NOFILE, 0);
     EXPECT_NE(AtomicWrite(folder / "file", "new"), "");
@@ -146,18 +125,16 @@ TEST(Files, AFullDiskAtAnyPointLeavesTheOldFile) {
   const TempFolder folder;
   folder.Put("file", "old");
   const std::string bytes(3000, 'n');
-  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
   for (const rlim_t room : {0U, 1U, 1500U, 2999U}) {
     std::string error;
     {
-      const Limit disk(RLIMIT_FSIZE, room);
+      const FullDisk disk(room);
       error = AtomicWrite(folder / "file", bytes);
     }
     EXPECT_NE(error, "") << room;
     EXPECT_EQ(folder.Get("file"), "old") << room;
     EXPECT_EQ(folder.Count(), 1) << room;
   }
-  std::signal(SIGXFSZ, handler);
   EXPECT_EQ(AtomicWrite(folder / "file", bytes), "");
   EXPECT_EQ(folder.Get("file"), bytes);
 }

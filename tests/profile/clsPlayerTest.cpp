@@ -1,10 +1,6 @@
-#include <sys/resource.h>
-
-#include <csignal>
-
 #include "profile/FileEntries.h"
 #include "profile/ProfileFixture.h"
-#include "profile/clsPlayer.h"
+#include "support/Limits.h"
 #include "support/ScriptedRandom.h"
 
 namespace kv::test {
@@ -128,26 +124,6 @@ TEST_F(Player, AFailedSaveTellsAndChangesNothing) {
   EXPECT_EQ(folder.Count(), 2);
   EXPECT_EQ(OpenFiles(), filesOpen);
 }
-
-/// While it lives no file of this process may have more than `bytes` bytes: a disk that is full.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-    ::getrlimit(RLIMIT_FSIZE, &old_);
-    const rlimit full{bytes, old_.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &full);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-  ~FullDisk() {
-    ::setrlimit(RLIMIT_FSIZE, &old_);
-    std::signal(SIGXFSZ, handler_);
-  }
-
- private:
-  rlimit old_{};
-  void (*handler_)(int);
-};
 
 TEST_F(Player, AnUpdateThatCannotBeSavedStillLoadsAndClaimsNothing) {
   SampleFile sample;

@@ -105,9 +105,7 @@ class HelpTest : public testing::Test, protected ProgramStage {
 };
 
 TEST_F(HelpTest, OpensInFrontOfAMatchThatGoesOnBehindIt) {
-  MakePlayer("ann");
-  Start();
-  EnterMenu("ann");
+  EnterMenuAs("ann");
   Click("cmdArcade");
   Control<QLineEdit>("txtWager").setText(QStringLiteral("10"));
   Click("cmdWager");
