@@ -66,8 +66,7 @@ class CrossingTest : public NetworkFixture {
     When(row.is, [&] {
       left = true;
       if (!row.givesUp) return leaver.Say("/disconnect");
-      leaver.dialogs.answers = {true};
-      leaver.match()->engine().person().Forfeit();
+      leaver.GiveUp();
     });
     MatchEngine& engine = host.match()->engine();
     const auto move = [&] { byPlay ? engine.person().Stand() : engine.person().EndTurn(); };
@@ -147,8 +146,7 @@ TEST_F(CrossingTest, WhoGivesUpBeforeThePeerIsAtTheTableHasLost) {
     Pass(1000);
     ASSERT_EQ(host.ScreenName(), "frmGame");
     ASSERT_EQ(guest.ScreenName(), "frmCards");
-    host.dialogs.answers = {true};
-    host.match()->engine().person().Forfeit();
+    host.GiveUp();
     Pass(1500);
     EXPECT_TRUE(guest.Saw("[Hanna has forfeit this match. You Win.]"));
     EXPECT_EQ(guest.ScreenName(), "frmNetwork");

@@ -45,18 +45,8 @@ TEST_F(NetworkFaultsTest, ATurnThatIsRepeatedEndsOnce) {
   Pass(250);
   EXPECT_EQ(host.match()->engine().peer().peerTurn(), PeerTurn::NotTheirs);
   Pass(2000);
-  const std::string answers = host.socket->sent.substr(before);
-  std::size_t count = 0;
-  for (auto at = answers.find("[TAck]"); at != std::string::npos; at = answers.find("[TAck]", at + 1))
-    ++count;
-  EXPECT_EQ(count, 3u);
+  EXPECT_EQ(Count(host.socket->sent.substr(before), "[TAck]"), 3u);
   EXPECT_FALSE(host.Saw("Unknown command"));
-}
-
-TEST_F(NetworkFaultsTest, AnOwnPictureIsOnlyLookedForInThePortraitFolder) {
-  Meet();
-  for (const char* name : {"[File]../../secret.vnt", "[File]/etc/x.vnt"}) Forge(host, name);
-  EXPECT_TRUE(host.Saw("<< Unknown command: [File]../../secret.vnt - report as bug >>"));
 }
 
 TEST_F(NetworkFaultsTest, AnAcceptanceNeedsAProposalThatStillStands) {
@@ -111,6 +101,25 @@ TEST_F(NetworkFaultsTest, BothDrawFromOneDeckThatHoldsFourOfEachCard) {
   Refused(host, "[Card]no1");
   Forge(host, "[Card]no2");
   EXPECT_EQ(Complaints(host, "[Card]no2"), 0u) << "it may still draw what there is";
+}
+
+TEST_F(NetworkFaultsTest, WithoutAPeerNobodyIsWaitedForAtTheEnd) {
+  host.program->EndAtOnce();
+  EXPECT_EQ(host.quits, 1);
+}
+
+/// The system ends the program in the middle of a match.
+TEST_F(NetworkFaultsTest, ThePeerHearsThatTheOtherSideWasEnded) {
+  Meet();
+  ToTurn(Seat::Player);
+  host.dialogs.boxes.clear();
+  host.program->EndAtOnce();
+  Pass(300);
+  EXPECT_EQ(host.quits, 1) << "nobody waits for the farewell of a match";
+  EXPECT_TRUE(host.dialogs.boxes.empty());
+  EXPECT_EQ(host.record().Losses_MP->Value, 1);
+  Pass(1000);
+  EXPECT_EQ(guest.dialogs.boxes.back().text, "Opponent has quit! You Win!");
 }
 
 }  // namespace

@@ -34,7 +34,7 @@ struct Account {
 
 /// Records the match of one side from its first event on.
 struct Recorded {
-  explicit Recorded(NetworkPlayer& who) : player(who) {}
+  explicit Recorded(NetworkPlayer& who, bool asPeer = false) : player(who), mirrored(asPeer), log(asPeer) {}
   void Listen() {
     if (player.match() == nullptr || heard != nullptr) return;
     heard = player.match();
@@ -47,7 +47,7 @@ struct Recorded {
     }
   }
   void CheckReplay() const {
-    EventLog again;
+    EventLog again(mirrored);
     EXPECT_TRUE(PlayAgain(recorder.record(),
                           [&](const MatchEvent& event, const MatchShown&) { again.Happened(event); }));
     EXPECT_GT(log.lines.size(), 10u);
@@ -57,7 +57,18 @@ struct Recorded {
     ASSERT_FALSE(lines.empty());
     EXPECT_EQ(history.Load(lines.front().id)->sets, recorder.record().sets);
   }
+  /// The lines that both can know: flips are one's own, and credits too.
+  [[nodiscard]] std::vector<std::string> Shared() const {
+    std::vector<std::string> shared;
+    for (const std::string& line : log.lines) {
+      const bool own = line.find(" flips ") != std::string::npos || line.starts_with("booked") ||
+                       line.starts_with("match for");
+      if (!own) shared.push_back(line);
+    }
+    return shared;
+  }
   NetworkPlayer& player;
+  bool mirrored;
   frmGame* heard = nullptr;
   EventLog log;
   MatchRecorder recorder{{}};
@@ -94,13 +105,15 @@ TEST(WholeMatch, EndsAlikeOnBothSidesHoweverTheStreamIsCut) {
       const auto hostBefore = counters(both.host.record());
       const auto guestBefore = counters(both.guest.record());
       both.repeatTurns = &chance;
-      std::array recorded = {Recorded(both.host), Recorded(both.guest)};
+      std::array recorded = {Recorded(both.host), Recorded(both.guest, true)};
       both.eachTick = [&recorded] {
         for (Recorded& each : recorded) each.Listen();
       };
       both.PlayMatch(stake);
       both.eachTick = {};
       for (const Recorded& each : recorded) each.CheckReplay();
+      EXPECT_EQ(recorded[0].Shared(), recorded[1].Shared());
+      EXPECT_EQ(recorded[0].log.wrongTotals + recorded[1].log.wrongTotals, 0);
       both.Pass(30000);
       ASSERT_EQ(both.host.results.size(), both.guest.results.size());
       const auto& seen = both.host.results.back();
