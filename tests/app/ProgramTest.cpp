@@ -3,7 +3,6 @@
 
 #include <QAccessible>
 #include <QScreen>
-#include <set>
 
 #include "app/AccessibleRoles.h"
 #include "history/MatchReplay.h"

@@ -2,8 +2,6 @@
 // open or a pause is under way. Nothing may be left running, and the player's file must stay loadable.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "support/ProgramStage.h"
 #include "support/SampleMatch.h"
 

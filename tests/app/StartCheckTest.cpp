@@ -5,6 +5,7 @@
 #include "app/SingleInstance.h"
 #include "app/StartCheck.h"
 #include "presentation/PictureSizes.h"
+#include "support/Rows.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TempFolder.h"
 
@@ -39,17 +40,14 @@ struct StartCheck : ::testing::Test {
 };
 
 TEST_F(StartCheck, TheFirstMissingFileIsNamedAndNothingElseIsDone) {
-  struct Case {
-    const char* gone;
-    const char* named;
-  };
   // From the last of the list to the first: each time the earlier one is told.
-  for (const Case& c :
-       {Case{"Sounds/winset.wav", "sounds\\winset.wav"}, Case{"Sounds/accept.wav", "sounds\\accept.wav"},
-        Case{"BNKGOTHICM.TTF", "bnkgothicM.ttf"}, Case{"vntdata.dat", "vntdata.dat"}}) {
-    fs::remove(program / c.gone);
+  for (const auto& [gone, named] : Rows<const char*, const char*>{{"Sounds/winset.wav", "sounds\\winset.wav"},
+                                                                  {"Sounds/accept.wav", "sounds\\accept.wav"},
+                                                                  {"BNKGOTHICM.TTF", "bnkgothicM.ttf"},
+                                                                  {"vntdata.dat", "vntdata.dat"}}) {
+    fs::remove(program / gone);
     EXPECT_FALSE(Check());
-    EXPECT_EQ(dialogs.boxes.back().text, "Could not find file '" + std::string(c.named) + "'");
+    EXPECT_EQ(dialogs.boxes.back().text, "Could not find file '" + std::string(named) + "'");
     EXPECT_EQ(dialogs.boxes.back().title, "Kelm Vantri: Error");
     EXPECT_EQ(dialogs.boxes.back().icon, DialogIcon::Critical);
   }

@@ -1,6 +1,7 @@
 // The working copies of the card screen: deck editing, the views of the banks, the shop, and what Continue
 // stores.
 #include "campaign/CampaignFixture.h"
+#include "support/Rows.h"
 
 namespace kv::test {
 namespace {
@@ -18,33 +19,29 @@ class CardDeskRulesTest : public CampaignFixture {
 };
 
 TEST_F(CardDeskRulesTest, PlacesAndPricesOfEveryCard) {
-  struct Row {
-    const char* code;
-    CardPlace place;
-    int buy, sell;
-  };
-  for (const Row& row : std::vector<Row>{{"ps1", {1, 1}, 600, 240},
-                                         {"ps6", {1, 6}, 100, 40},
-                                         {"ms4", {2, 4}, 330, 165},
-                                         {"ms2", {2, 2}, 550, 275},
-                                         {"fl3", {3, 3}, 850, 510},
-                                         {"fp4", {3, 4}, 650, 390},
-                                         {"fm5", {3, 5}, 420, 252},
-                                         {"fn6", {3, 6}, 220, 132},
-                                         {"s199", {4, 1}, 2000, 1400},
-                                         {"s399", {4, 3}, 1000, 700},
-                                         {"s599", {4, 5}, 2500, 1750},
-                                         {"s699", {0, 0}, 0, 0},
-                                         {"no5", {0, 0}, 0, 0},
-                                         {"", {0, 0}, 0, 0},
-                                         {"ps9", {1, 9}, 0, 0}}) {
-    const CardPlace place = CardKindValue(CardCode(row.code));
-    EXPECT_EQ(place, row.place) << row.code;
-    EXPECT_EQ(CardPrice(place.kind, place.value), row.buy) << row.code;
-    EXPECT_EQ(SellValue(place), row.sell) << row.code;
-    EXPECT_EQ(row.buy * SellFactor(place.kind) / 100, row.sell) << row.code;
-    EXPECT_EQ(Affordable(place, row.buy), row.buy > 0) << row.code;
-    EXPECT_FALSE(Affordable(place, row.buy - 1)) << row.code;
+  for (const auto& [code, expected, buy, sell] :
+       Rows<const char*, CardPlace, int, int>{{"ps1", {1, 1}, 600, 240},
+                                              {"ps6", {1, 6}, 100, 40},
+                                              {"ms4", {2, 4}, 330, 165},
+                                              {"ms2", {2, 2}, 550, 275},
+                                              {"fl3", {3, 3}, 850, 510},
+                                              {"fp4", {3, 4}, 650, 390},
+                                              {"fm5", {3, 5}, 420, 252},
+                                              {"fn6", {3, 6}, 220, 132},
+                                              {"s199", {4, 1}, 2000, 1400},
+                                              {"s399", {4, 3}, 1000, 700},
+                                              {"s599", {4, 5}, 2500, 1750},
+                                              {"s699", {0, 0}, 0, 0},
+                                              {"no5", {0, 0}, 0, 0},
+                                              {"", {0, 0}, 0, 0},
+                                              {"ps9", {1, 9}, 0, 0}}) {
+    const CardPlace place = CardKindValue(CardCode(code));
+    EXPECT_EQ(place, expected) << code;
+    EXPECT_EQ(CardPrice(place.kind, place.value), buy) << code;
+    EXPECT_EQ(SellValue(place), sell) << code;
+    EXPECT_EQ(buy * SellFactor(place.kind) / 100, sell) << code;
+    EXPECT_EQ(Affordable(place, buy), buy > 0) << code;
+    EXPECT_FALSE(Affordable(place, buy - 1)) << code;
   }
   for (int kind = 1; kind <= kCardKinds; ++kind) {
     for (int value = 1; value <= kCardNumbers; ++value) {

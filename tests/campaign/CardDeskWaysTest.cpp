@@ -1,6 +1,4 @@
 // Every way through small collections and thin purses: whatever is clicked, Continue can be reached again.
-#include <deque>
-#include <map>
 #include <tuple>
 
 #include "campaign/CampaignFixture.h"

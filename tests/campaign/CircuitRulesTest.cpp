@@ -2,6 +2,7 @@
 #include "ai/clsAI_Normal.h"
 #include "campaign/CampaignFixture.h"
 #include "match/Dealing.h"
+#include "support/Rows.h"
 #include "vantri-campaign/CampaignPlay.h"
 
 namespace kv::test {
@@ -10,32 +11,23 @@ namespace {
 using CircuitRulesTest = CampaignFixture;
 
 TEST_F(CircuitRulesTest, TilesFollowWinsAndCredits) {
-  struct Row {
-    const char* what;
-    std::array<std::int16_t, 6> wins;
-    std::int32_t credits;
-    std::string tiles;  // by tile: "o" open, "g" grey, "." hidden
-  };
-  for (const Row& row :
-       std::vector<Row>{{"new", {}, 100, "o......"},
-                        {"nine against each", {9, 9, 9, 9, 9, 9}, 5000, "o......"},
-                        {"first unlock", {10}, 0, "oo....."},
-                        {"too poor for the third", {10, 10}, 99, "oog...."},
-                        {"just enough for the third", {10, 10}, 100, "ooo...."},
-                        {"one short of the last", {10, 10, 10, 10}, 749, "oooog.."},
-                        {"the last", {10, 10, 10, 10, 9}, 750, "ooooo.."},
-                        {"finished",
-                         {10, 10, 10, 10, 10},
-                         349,
-                         "ooogg"
-                         "oo"},
-                        {"finished and broke", {10, 10, 10, 10, 10, 3}, 0, "oogggoo"},
-                        {"special wins alone show nothing", {0, 0, 0, 0, 0, 10}, 750, "o......"}}) {
-    SCOPED_TRACE(row.what);
-    for (std::size_t i = 0; i < row.wins.size(); ++i) {
-      (player.*(CircuitOpponents()[i].wins))->Value = row.wins[i];
+  for (const auto& [what, wins, credits, expected] :
+       Rows<const char*, std::array<std::int16_t, 6>, std::int32_t, std::string>{
+           {"new", {}, 100, "o......"},
+           {"nine against each", {9, 9, 9, 9, 9, 9}, 5000, "o......"},
+           {"first unlock", {10}, 0, "oo....."},
+           {"too poor for the third", {10, 10}, 99, "oog...."},
+           {"just enough for the third", {10, 10}, 100, "ooo...."},
+           {"one short of the last", {10, 10, 10, 10}, 749, "oooog.."},
+           {"the last", {10, 10, 10, 10, 9}, 750, "ooooo.."},
+           {"finished", {10, 10, 10, 10, 10}, 349, std::string("ooogg") + "oo"},
+           {"finished and broke", {10, 10, 10, 10, 10, 3}, 0, "oogggoo"},
+           {"special wins alone show nothing", {0, 0, 0, 0, 0, 10}, 750, "o......"}}) {
+    SCOPED_TRACE(what);
+    for (std::size_t i = 0; i < wins.size(); ++i) {
+      (player.*(CircuitOpponents()[i].wins))->Value = wins[i];
     }
-    player.Credits->Value = row.credits;
+    player.Credits->Value = credits;
     Circuit circuit(game, player);
     std::string tiles;
     for (int i = 0; i < kCircuitTiles; ++i) {
@@ -43,8 +35,8 @@ TEST_F(CircuitRulesTest, TilesFollowWinsAndCredits) {
       tiles += !tile.visible ? '.' : tile.enabled ? 'o' : 'g';
       EXPECT_EQ(circuit.Choose(i), tile.enabled);
     }
-    EXPECT_EQ(tiles, row.tiles);
-    EXPECT_EQ(circuit.Finished(), row.wins[4] >= 10);
+    EXPECT_EQ(tiles, expected);
+    EXPECT_EQ(circuit.Finished(), wins[4] >= 10);
   }
   EXPECT_EQ(Circuit(game, player).Tile(kYourself).wins, -1);
 }

@@ -2,6 +2,7 @@
 
 #include "campaign/frmCampaign.h"
 #include "support/OneScreen.h"
+#include "support/Rows.h"
 
 namespace kv::test {
 namespace {
@@ -158,12 +159,8 @@ TEST_F(frmCampaignTest, LevelUpSoundsOnce) {
 }
 
 TEST_F(frmCampaignTest, BankruptcyIsToldAndEndsTheVisit) {
-  struct Case {
-    int credits;
-    int cards;
-    bool bankrupt;
-  };
-  for (const auto& [credits, cards, bankrupt] : {Case{0, 0, true}, Case{0, 1, false}, Case{1, 0, false}}) {
+  for (const auto& [credits, cards, bankrupt] :
+       Rows<int, int, bool>{{0, 0, true}, {0, 1, false}, {1, 0, false}}) {
     dialogs.boxes.clear();
     recorded.calls.clear();
     player.Cards->setValue(1, 1, static_cast<std::int16_t>(cards));

@@ -7,6 +7,7 @@
 #include "campaign/frmCards.h"
 #include "support/OneScreen.h"
 #include "support/RecordingNetwork.h"
+#include "support/Rows.h"
 
 namespace kv::test {
 namespace {
@@ -278,19 +279,15 @@ TEST_P(CardsScreenTest, EveryWayOutAsksWhileAStakeIsOpen) {
       {"Escape", [this] { Key(Qt::Key_Escape); }},
       {"window", [this] { screen->close(); }},
   };
-  const struct {
-    std::string_view mode;
-    const char* leads;
-    const char* ends;
-  } rows[] = {{kModeArcade, "ReloadCards", "EndProgram"},
-              {kModeCampaign, "OpenCampaign", "EndProgram"},
-              {kModeNetwork, "/disconnect", "/quit"}};
-  for (const auto& row : rows) {
+  for (const auto& [mode, leads, ends] :
+       Rows<std::string_view, const char*, const char*>{{kModeArcade, "ReloadCards", "EndProgram"},
+                                                        {kModeCampaign, "OpenCampaign", "EndProgram"},
+                                                        {kModeNetwork, "/disconnect", "/quit"}}) {
     for (const auto& [way, leave] : ways) {
-      SCOPED_TRACE(std::string(row.mode) + ", " + way);
+      SCOPED_TRACE(std::string(mode) + ", " + way);
       const bool closes = std::string_view(way) == "window";
       game = clsGame(player, {});
-      Open(row.mode);
+      Open(mode);
       ASSERT_TRUE(screen->round().entry().PeerProposes("20"));
       screen->wager().Refresh();
       Click(screen->wager().getcmdWager());
@@ -307,8 +304,8 @@ TEST_P(CardsScreenTest, EveryWayOutAsksWhileAStakeIsOpen) {
       EXPECT_EQ(sound.Count("losematch"), 0);
       leave();
       EXPECT_TRUE(dialogs.answers.empty()) << "it is asked again";
-      const std::vector<std::string>& heard = row.mode == kModeNetwork ? peer.sent : asked();
-      EXPECT_EQ(heard, std::vector<std::string>{closes ? row.ends : row.leads});
+      const std::vector<std::string>& heard = mode == kModeNetwork ? peer.sent : asked();
+      EXPECT_EQ(heard, std::vector<std::string>{closes ? ends : leads});
       EXPECT_EQ(sound.Count("losematch"), closes ? 0 : 1);
     }
   }

@@ -90,19 +90,6 @@ TEST(MatchEnd, ThreeSetsAreBookedOnce) {
   EXPECT_EQ(table.bookings, 1);
 }
 
-TEST(MatchEnd, ATieCountsForNobodyAndIsReplayed) {
-  MatchTable table({.draws = {5, 5, 8}});
-  table.strategy.turns = {StandOpponent};
-  table.Start();
-  table.Stand();
-  EXPECT_EQ(table.engine->shown().banner.text, "The set is tied.");
-  EXPECT_TRUE(table.Heard("tie"));
-  table.Continue();
-  EXPECT_EQ(table.engine->shown().SetWins(Seat::Player) + table.engine->shown().SetWins(Seat::Opponent), 0);
-  EXPECT_EQ(table.Cards(Seat::Player), "no8");
-  EXPECT_EQ(table.engine->board().MainDeckCount(5), 0) << "the main deck is renewed";
-}
-
 TEST(Forfeit, AsksThenLosesWhateverTheScore) {
   MatchTable table(ThreeSets(9, 5));
   PlaySets(table, 2);

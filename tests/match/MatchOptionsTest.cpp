@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "match/MatchCourse.h"
+#include "support/Rows.h"
 
 namespace kv::test {
 namespace {
@@ -36,6 +37,8 @@ std::string Starters(MatchOptions options, int firstDraw, const std::string& mod
     table.Stand();
     table.PeerStands(5);
     EXPECT_EQ(table.screen.banner.text, "The set is tied.");
+    EXPECT_TRUE(table.Heard("tie"));
+    EXPECT_EQ(table.engine->shown().SetWins(Seat::Player) + table.engine->shown().SetWins(Seat::Opponent), 0);
     starters += table.screen.Lines({"light on"}).at(0) == "your light on" ? "p" : "o";
     table.screen.story.clear();
     if (starters.size() < 3) table.Continue();
@@ -62,20 +65,16 @@ TEST(Starts, AlternateInANetworkMatchWhateverTheOption) {
 }
 
 TEST(Pace, FollowsStyleAndSpeed) {
-  struct Case {
-    int speed;
-    bool ember;
-    std::vector<int> pauses;  // milliseconds, of a set that knows every pause
-  };
-  for (const Case& c : {Case{0, false, {380, 440, 374, 440, 280, 175, 440, 125, 440, 440, 280, 293}},
-                        Case{1, false, {350, 380, 323, 380, 250, 175, 380, 125, 380, 380, 250, 253}},
-                        Case{2, false, {320, 320, 272, 320, 220, 175, 320, 125, 320, 320, 220, 213}},
-                        Case{0, true, {380, 270, 229, 270, 280, 175, 270, 125, 270, 270, 280, 180}},
-                        Case{1, true, {350, 210, 178, 210, 250, 175, 210, 125, 210, 210, 250, 140}},
-                        Case{2, true, {320, 150, 127, 150, 220, 175, 150, 125, 150, 150, 220, 100}}}) {
-    MatchCourse course(std::string(kModeArcade), {.speed = c.speed, .emberStyle = c.ember});
+  for (const auto& [speed, ember, pauses] : Rows<int, bool, std::vector<int>>{
+           {0, false, {380, 440, 374, 440, 280, 175, 440, 125, 440, 440, 280, 293}},
+           {1, false, {350, 380, 323, 380, 250, 175, 380, 125, 380, 380, 250, 253}},
+           {2, false, {320, 320, 272, 320, 220, 175, 320, 125, 320, 320, 220, 213}},
+           {0, true, {380, 270, 229, 270, 280, 175, 270, 125, 270, 270, 280, 180}},
+           {1, true, {350, 210, 178, 210, 250, 175, 210, 125, 210, 210, 250, 140}},
+           {2, true, {320, 150, 127, 150, 220, 175, 150, 125, 150, 150, 220, 100}}}) {
+    MatchCourse course(std::string(kModeArcade), {.speed = speed, .emberStyle = ember});
     course.Play();
-    EXPECT_EQ(course.table.pauses, c.pauses) << c.speed << (c.ember ? " Ember" : " Slate");
+    EXPECT_EQ(course.table.pauses, pauses) << speed << (ember ? " Ember" : " Slate");
   }
 }
 
@@ -110,16 +109,11 @@ TEST(Pace, AnAutomaticStandIsWaitedForOnce) {
 }
 
 TEST(AutoTurn, EndsATurnBelowTen) {
-  struct Case {
-    int drawn;
-    bool option;
-    bool ends;
-  };
-  for (const Case& c :
-       {Case{9, true, true}, Case{10, true, false}, Case{9, false, false}, Case{1, true, true}}) {
-    MatchTable table({.draws = {c.drawn, 5, 9}, .options = {.turnMode = 1, .autoTurn = c.option}});
+  for (const auto& [drawn, option, ends] :
+       Rows<int, bool, bool>{{9, true, true}, {10, true, false}, {9, false, false}, {1, true, true}}) {
+    MatchTable table({.draws = {drawn, 5, 9}, .options = {.turnMode = 1, .autoTurn = option}});
     table.Start();
-    EXPECT_EQ(table.strategy.asked, c.ends ? 1 : 0) << c.drawn;
+    EXPECT_EQ(table.strategy.asked, ends ? 1 : 0) << drawn;
     EXPECT_TRUE(table.screen.controls.endTurn);
   }
 }

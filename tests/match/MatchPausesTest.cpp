@@ -36,6 +36,9 @@ TEST(Pauses, AForfeitInAnyOfThemIsAskedForAfterItAndEndsTheMatchOnce) {
       EXPECT_EQ(table.engine->shown().SetWins(Seat::Opponent), 3);
       EXPECT_EQ(table.screen.banner.text, "You have been defeated.");
       EXPECT_TRUE(table.screen.AllDark());
+      EXPECT_TRUE(table.screen.controls.titlebar) << "which closes the match that was given up here";
+      EXPECT_TRUE(table.Heard("losematch"));
+      EXPECT_EQ(table.screen.story.back(), "banner on");
       EXPECT_EQ(table.Sent("[Forf]"), course.network ? 1 : 0);
       const std::vector<std::string> story = table.screen.story;
       course.TryEverything();
@@ -64,6 +67,7 @@ TEST(Pauses, ThePeersForfeitInAnyOfThemWinsAtOnce) {
     EXPECT_EQ(table.screen.banner.text, "You have defeated your opponent!");
     EXPECT_TRUE(table.screen.AllDark());
     EXPECT_FALSE(table.screen.controls.titlebar);
+    EXPECT_TRUE(table.Heard("winmatch"));
     course.TryEverything();
     EXPECT_EQ(table.screen.story, story) << "the turn that was cut short goes no step further";
     EXPECT_EQ(table.sent, sent);

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "match/MatchCourse.h"
+#include "support/Rows.h"
 
 namespace kv::test {
 namespace {
@@ -36,29 +37,22 @@ TEST(SetEnd, NineCardsWinUnlessTheyAreTooMuch) {
   const std::vector<const char*> ones(8, "no1");
   const std::vector<const char*> twos(8, "no2");
   const std::vector<const char*> ninth{"no1", "no1", "no1", "no1", "no1", "no1", "no1", "no1", "no2"};
-  const struct {
-    const char* what;
-    std::vector<const char*> player, opponent;
-    bool playerDraws;  // the ninth card
-    int draw;
-    bool playerWins;
-  } rows[] = {
-      {"a lower total", ones, {"no10", "no9"}, true, 1, true},
-      {"over twenty", twos, {}, true, 5, false},
-      {"the opponent over twenty", {}, twos, false, 5, true},
-      {"nine against nine", ones, ninth, true, 1, true},
-      {"nine against nine, the opponent's last", ninth, ones, false, 1, true},
-  };
-  for (const auto& row : rows) {
-    MatchTable table({.draws = {row.draw}, .playerStarts = row.playerDraws});
+  for (const auto& [what, player, opponent, playerDraws, draw, playerWins] :
+       Rows<const char*, std::vector<const char*>, std::vector<const char*>, bool, int, bool>{
+           {"a lower total", ones, {"no10", "no9"}, true, 1, true},
+           {"over twenty", twos, {}, true, 5, false},
+           {"the opponent over twenty", {}, twos, false, 5, true},
+           {"nine against nine", ones, ninth, true, 1, true},
+           {"nine against nine, the opponent's last", ninth, ones, false, 1, true}}) {
+    MatchTable table({.draws = {draw}, .playerStarts = playerDraws});
     table.engine->Activate();
-    table.LoadTable(Seat::Player, row.player);
-    table.LoadTable(Seat::Opponent, row.opponent);
+    table.LoadTable(Seat::Player, player);
+    table.LoadTable(Seat::Opponent, opponent);
     table.Run();
-    const Seat drew = row.playerDraws ? Seat::Player : Seat::Opponent;
-    EXPECT_EQ(table.engine->shown().Table(drew).size(), 9U) << row.what;
-    EXPECT_EQ(table.screen.banner.text, row.playerWins ? "you win the set." : "The opponent wins the set.")
-        << row.what;
+    const Seat drew = playerDraws ? Seat::Player : Seat::Opponent;
+    EXPECT_EQ(table.engine->shown().Table(drew).size(), 9U) << what;
+    EXPECT_EQ(table.screen.banner.text, playerWins ? "you win the set." : "The opponent wins the set.")
+        << what;
   }
   MatchTable table({.opponentHand = {"ps1"}, .draws = {1, 1}, .playerStarts = false});
   table.strategy.turns = {[](AiOperations& side) {

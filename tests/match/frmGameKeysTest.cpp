@@ -1,7 +1,6 @@
 // The match screen's keys, of which only the first press counts, and the ways to leave it.
 #include <gmock/gmock.h>
 
-#include <QCoreApplication>
 #include <QKeyEvent>
 
 #include "match/MatchScreenTest.h"

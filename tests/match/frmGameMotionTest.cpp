@@ -1,7 +1,6 @@
 // What moves on the match screen: it changes nothing of the match, ends where the controls stand, and can be
 // cut off at any moment.
 #include <QApplication>
-#include <cstdlib>
 
 #include "ai/clsAI_Ember.h"
 #include "ai/clsAI_Normal.h"

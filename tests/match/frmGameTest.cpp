@@ -1,8 +1,8 @@
 // The match screen under a real pointer and real keys, on the test's own clock.
 #include <QApplication>
-#include <QMouseEvent>
 
 #include "match/MatchScreenTest.h"
+#include "support/Rows.h"
 
 namespace kv::test {
 namespace {
@@ -41,13 +41,9 @@ TEST_P(frmGameTest, NothingIsCutOffOrOutside) {
 }
 
 TEST_P(frmGameTest, ALongNameIsSetSmallerOrCutAtItsEndWithTheWholeToBeAskedFor) {
-  const struct {
-    QString name;
-    bool cut;
-  } cases[] = {{QStringLiteral("Ann"), false},
-               {QStringLiteral("Alexandra Hohenstein"), false},
-               {QStringLiteral("WWWWWWWWWWWWWWWWWWW<"), true}};
-  for (const auto& [name, cut] : cases) {
+  for (const auto& [name, cut] : Rows<QString, bool>{{QStringLiteral("Ann"), false},
+                                                     {QStringLiteral("Alexandra Hohenstein"), false},
+                                                     {QStringLiteral("WWWWWWWWWWWWWWWWWWW<"), true}}) {
     MatchScreen& match = BeginWith([&name = name](clsPlayer& player) { player.Name = name.toStdString(); });
     const auto& label = *match.screen->findChild<QLabel*>(QStringLiteral("lblYourName"));
     EXPECT_LE(label.fontMetrics().horizontalAdvance(label.text()), label.width()) << name.toStdString();

@@ -1,5 +1,6 @@
 // A network game step by step: the greeting, the way to a match, the ways it ends, and the lobby.
 #include "network/NetworkFixture.h"
+#include "support/Rows.h"
 #include "support/ScreenHand.h"
 
 namespace kv::test {
@@ -164,35 +165,29 @@ TEST_F(NetworkGameTest, WhoIsAheadOfItsPeerComesBack) {
 }
 
 TEST_F(NetworkGameTest, LeavingCostsAnOpenStakeAndNothingElse) {
-  const struct {
-    const char* state;
-    std::function<void()> reach;
-    const char* told;
-    Accounts leaver, stayer;
-  } rows[] = {
-      {"lobby", [] {}, "Opponent has quit!", {100, 0, 0, 0}, {100, 0, 0, 0}},
-      {"cards", [this] { ToCards(true); }, "Opponent has quit! You Win!", {50, 0, 1, 0}, {155, 1, 0, 0}},
-      {"match",
-       [this] { ToTurn(Seat::Opponent); },
-       "Opponent has quit! You Win!",
-       {0, 0, 2, 0},
-       {210, 2, 0, 0}},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.state);
+  for (const auto& [state, reach, told, leaver, stayer] :
+       Rows<const char*, std::function<void()>, const char*, Accounts, Accounts>{
+           {"lobby", [] {}, "Opponent has quit!", {100, 0, 0, 0}, {100, 0, 0, 0}},
+           {"cards", [this] { ToCards(true); }, "Opponent has quit! You Win!", {50, 0, 1, 0}, {155, 1, 0, 0}},
+           {"match",
+            [this] { ToTurn(Seat::Opponent); },
+            "Opponent has quit! You Win!",
+            {0, 0, 2, 0},
+            {210, 2, 0, 0}}}) {
+    SCOPED_TRACE(state);
     Meet();
-    row.reach();
+    reach();
     host.ScreenName() == "frmNetwork" ? host.Find<ctlTitlebar>("ctlTitlebar")->Quit()
                                       : host.Say("/disconnect");
     EXPECT_EQ(host.ScreenName(), "frmMenu");
     Pass(3000);
-    EXPECT_EQ(guest.dialogs.boxes.back().text, row.told);
+    EXPECT_EQ(guest.dialogs.boxes.back().text, told);
     EXPECT_EQ(guest.dialogs.boxes.back().title, "Kelm Vantri: Connection Terminated");
     EXPECT_EQ(guest.ScreenName(), "frmNetwork");
     EXPECT_TRUE(guest.Saw("Network chat commands"));
     EXPECT_EQ(clock.RunningTimers(), 0);
-    EXPECT_EQ(Account(host), row.leaver);
-    EXPECT_EQ(Account(guest), row.stayer);
+    EXPECT_EQ(Account(host), leaver);
+    EXPECT_EQ(Account(guest), stayer);
     host.OpenLobby();
   }
 }
@@ -228,33 +223,26 @@ TEST_F(NetworkGameTest, ADroppedLineIsBookedByTheStateOfTheGame) {
   };
   const Accounts untouched = {100, 0, 0, 0};
   const Accounts halved = {75, 0, 0, 1};
-  struct Row {
-    const char* state;
-    std::function<void()> reach;
-    Accounts booked;
-  };
-  const std::vector<Row> rows = {
-      {"lobby", [] {}, untouched},
-      {"Start pressed", [this] { guest.Click("cmdStart"); }, untouched},
-      {"cards", [this] { ToCards(false); }, untouched},
-      {"stake proposed", [this] { ToCards(false), Pass(500), host.Act(50), Pass(500); }, untouched},
-      {"stake settled", [this] { ToCards(true); }, halved},
-      {"match opening", [this] { ToCards(true), guest.Click("cmdContinue"), Pass(1000); }, halved},
-      {"turn of the peer", [this] { ToTurn(Seat::Player); }, halved},
-      {"turn of one's own", [this] { ToTurn(Seat::Opponent); }, halved},
-      {"banner of a set", [&] { banner(1); }, halved},
-      {"match won", [&] { ToTurn(Seat::Player), host.GiveUp(), Pass(1000); }, {155, 1, 0, 0}},
-      {"arcade cards", [&] { arcade(), ToCards(false); }, untouched},
-      {"arcade turn", [&] { arcade(), ToTurn(Seat::Player); }, untouched},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.state);
+  for (const auto& [state, reach, booked] : Rows<const char*, std::function<void()>, Accounts>{
+           {"lobby", [] {}, untouched},
+           {"Start pressed", [this] { guest.Click("cmdStart"); }, untouched},
+           {"cards", [this] { ToCards(false); }, untouched},
+           {"stake proposed", [this] { ToCards(false), Pass(500), host.Act(50), Pass(500); }, untouched},
+           {"stake settled", [this] { ToCards(true); }, halved},
+           {"match opening", [this] { ToCards(true), guest.Click("cmdContinue"), Pass(1000); }, halved},
+           {"turn of the peer", [this] { ToTurn(Seat::Player); }, halved},
+           {"turn of one's own", [this] { ToTurn(Seat::Opponent); }, halved},
+           {"banner of a set", [&] { banner(1); }, halved},
+           {"match won", [&] { ToTurn(Seat::Player), host.GiveUp(), Pass(1000); }, {155, 1, 0, 0}},
+           {"arcade cards", [&] { arcade(), ToCards(false); }, untouched},
+           {"arcade turn", [&] { arcade(), ToTurn(Seat::Player); }, untouched}}) {
+    SCOPED_TRACE(state);
     for (NetworkPlayer* each : {&host, &guest}) {
       each->record().Credits_MP->Value = 100;
       each->record().Wins_MP->Value = each->record().Losses_MP->Value = each->record().Disconnects = 0;
     }
     Meet();
-    row.reach();
+    reach();
     host.socket->Close();
     Pass(300);
     EXPECT_TRUE(guest.Saw("<< WARNING: Connection interrupted - Please Wait >>"));
@@ -264,7 +252,7 @@ TEST_F(NetworkGameTest, ADroppedLineIsBookedByTheStateOfTheGame) {
     Pass(1000);
     EXPECT_EQ(guest.dialogs.boxes.back().text, "Connection Problem (Err No: 0 - Connection lost)");
     EXPECT_EQ(guest.dialogs.boxes.back().title, "Kelm Vantri: TCP/IP WinSock Error");
-    EXPECT_EQ(Account(guest), row.booked);
+    EXPECT_EQ(Account(guest), booked);
     EXPECT_EQ(guest.program->game()->Wager, -1);
     EXPECT_EQ(guest.ScreenName(), "frmNetwork");
     EXPECT_TRUE(guest.program->screen()->isEnabled());

@@ -1,15 +1,11 @@
-// Whole network games between two programs: every match ends alike on both sides, and both book it.
-#include <gtest/gtest.h>
+// Whole network games between two programs: every match ends alike on both sides, both book it, and what one
+// side did is, on the other, what the peer did.
 
-#include <array>
 #include <cstdio>
-#include <cstdlib>
-#include <fstream>
 
-#include "history/MatchRecorder.h"
 #include "history/MatchReplay.h"
 #include "match/Dealing.h"
-#include "network/TwoPrograms.h"
+#include "network/NetworkFixture.h"
 #include "support/EventLog.h"
 
 namespace kv::test {
@@ -145,6 +141,57 @@ TEST(WholeMatch, CanBeReadAsATranscript) {
   EXPECT_EQ(transcript.find("host   [Vers]1.2.4\n"), transcript.find("host"));
   EXPECT_NE(transcript.find("guest  [Acpt]\n"), std::string::npos);
   if (const char* file = std::getenv("KV_TRANSCRIPT")) std::ofstream(file) << transcript;
+}
+
+class MatchEventsTwice : public NetworkFixture {
+ protected:
+  /// Hears the match that has just been opened, before its first set.
+  void Listen() {
+    for (const auto& [player, log] : {std::pair{&host, &hosts}, std::pair{&guest, &guests}}) {
+      frmGame* match = player->match();
+      if (match == nullptr || match == heard[log]) continue;
+      heard[log] = match;
+      match->observers().Add(*log);
+    }
+  }
+  void ToMatch() {
+    for (NetworkPlayer* each : {&host, &guest}) each->record().Credits_MP->Value = 100;
+    Meet();
+    ToCards(true);
+    PlayUntil([this] {
+      Listen();
+      return heard.size() == 2;
+    });
+  }
+
+  EventLog hosts;
+  EventLog guests{true};
+  std::map<EventLog*, frmGame*> heard;
+};
+
+TEST_F(MatchEventsTwice, WhoLeavesHasGivenUpAndWhoStaysHasWon) {
+  ToMatch();
+  PlayUntil([this] { return host.match()->engine().shown().controls.endTurn; });
+  host.acts = guest.acts = false;
+  Pass(2000);
+  host.Say("/disconnect");
+  Pass(3000);
+  using Lines = std::vector<std::string>;
+  const auto last = [](const EventLog& log) { return Lines(log.lines.end() - 3, log.lines.end()); };
+  EXPECT_EQ(last(hosts),
+            (Lines{"player gives up", "opponent wins the match 0:0", "booked lost 50: 50 to 50"}));
+  EXPECT_EQ(last(guests), (Lines{"peer gone", "opponent wins the match 0:0", "booked won 50: 50 to 155"}))
+      << "told as the host sees it";
+}
+
+TEST_F(MatchEventsTwice, AMatchWhoseLineIsLostIsToldAsBrokenOff) {
+  ToMatch();
+  PlayUntil([this] { return host.match()->engine().shown().controls.endTurn; });
+  host.socket->Close();
+  host.acts = guest.acts = false;
+  Pass(20000);
+  const std::vector<std::string> end(guests.lines.end() - 2, guests.lines.end());
+  EXPECT_EQ(end, (std::vector<std::string>{"peer gone", "booked broken off 50: 50 to 75"}));
 }
 
 }  // namespace

@@ -4,14 +4,11 @@
 #include <pwd.h>
 #include <unistd.h>
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <optional>
-#include <string>
 
 #include "platform/Folders.h"
 #include "platform/StillDesktop.h"
+#include "support/Rows.h"
 #include "support/TempFolder.h"
 
 namespace kv::test {
@@ -45,22 +42,16 @@ class Variable {
 
 TEST(UserFolder, FollowsTheConventionAndElseTheListOfUsers) {
   const std::string listed = getpwuid(getuid())->pw_dir;
-  const struct {
-    const char* data;
-    const char* home;
-    std::string folder;
-  } cases[] = {
-      {"/data", "/home/mara", "/data/kelm-vantri"},
-      {"data", "/home/mara", "/home/mara/.local/share/kelm-vantri"},  // relative: as if it were not set
-      {nullptr, "/home/mara", "/home/mara/.local/share/kelm-vantri"},
-      {nullptr, nullptr, listed + "/.local/share/kelm-vantri"},
-      {nullptr, "", listed + "/.local/share/kelm-vantri"},
-      {"", "mara", listed + "/.local/share/kelm-vantri"},
-  };
-  for (const auto& one : cases) {
-    const Variable data("XDG_DATA_HOME", one.data);
-    const Variable home("HOME", one.home);
-    EXPECT_EQ(UserFolder(), one.folder);
+  for (const auto& [dataHome, userHome, folder] : Rows<const char*, const char*, std::string>{
+           {"/data", "/home/mara", "/data/kelm-vantri"},
+           {"data", "/home/mara", "/home/mara/.local/share/kelm-vantri"},  // relative: as if it were not set
+           {nullptr, "/home/mara", "/home/mara/.local/share/kelm-vantri"},
+           {nullptr, nullptr, listed + "/.local/share/kelm-vantri"},
+           {nullptr, "", listed + "/.local/share/kelm-vantri"},
+           {"", "mara", listed + "/.local/share/kelm-vantri"}}) {
+    const Variable data("XDG_DATA_HOME", dataHome);
+    const Variable home("HOME", userHome);
+    EXPECT_EQ(UserFolder(), folder);
   }
 }
 
@@ -80,26 +71,20 @@ TEST(DataFolder, IsBesideTheProgramOrWhereItWasInstalledWhereverThatWasMovedTo) 
 }
 
 TEST(StillDesktopTest, OnlyAClearNoAsksForStillness) {
-  const struct {
-    const char* file;
-    const char* text;
-    bool still;
-  } cases[] = {
-      {"gtk-3.0/settings.ini", "[Settings]\ngtk-theme-name=Breeze\ngtk-enable-animations=false\n", true},
-      {"gtk-4.0/settings.ini", "[Settings]\r\ngtk-enable-animations = 0\r\n", true},
-      {"gtk-3.0/settings.ini", "[Settings]\ngtk-enable-animations=true\n", false},
-      {"gtk-3.0/settings.ini", "gtk-enable-animations=", false},
-      {"kdeglobals", "[KDE]\nAnimationDurationFactor=0\n", true},
-      {"kdeglobals", "[KDE]\nAnimationDurationFactor=0.0", true},
-      {"kdeglobals", "[KDE]\nAnimationDurationFactor=0.5\n", false},
-      {"settings.ini", "gtk-enable-animations=0\n", false},
-  };
-  for (const auto& each : cases) {
+  for (const auto& [file, text, still] : Rows<const char*, const char*, bool>{
+           {"gtk-3.0/settings.ini", "[Settings]\ngtk-theme-name=Breeze\ngtk-enable-animations=false\n", true},
+           {"gtk-4.0/settings.ini", "[Settings]\r\ngtk-enable-animations = 0\r\n", true},
+           {"gtk-3.0/settings.ini", "[Settings]\ngtk-enable-animations=true\n", false},
+           {"gtk-3.0/settings.ini", "gtk-enable-animations=", false},
+           {"kdeglobals", "[KDE]\nAnimationDurationFactor=0\n", true},
+           {"kdeglobals", "[KDE]\nAnimationDurationFactor=0.0", true},
+           {"kdeglobals", "[KDE]\nAnimationDurationFactor=0.5\n", false},
+           {"settings.ini", "gtk-enable-animations=0\n", false}}) {
     const TempFolder config;
     for (const char* folder : {"gtk-3.0", "gtk-4.0"}) std::filesystem::create_directory(config / folder);
     EXPECT_FALSE(DesktopWishesStillness(config.path()));
-    config.Put(each.file, each.text);
-    EXPECT_EQ(DesktopWishesStillness(config.path()), each.still) << each.file << ": " << each.text;
+    config.Put(file, text);
+    EXPECT_EQ(DesktopWishesStillness(config.path()), still) << file << ": " << text;
   }
 }
 

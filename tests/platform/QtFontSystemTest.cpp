@@ -2,7 +2,6 @@
 
 #include <QFont>
 #include <QFontInfo>
-#include <cstdlib>
 
 #include "platform/QtFontSystem.h"
 #include "support/TempFolder.h"

@@ -7,7 +7,6 @@
 #include <QTest>
 #include <QtGlobal>
 #include <fstream>
-#include <string>
 
 #include "platform/Memory.h"
 #include "platform/QtCaretRest.h"

@@ -1,6 +1,5 @@
 // What becomes of the bytes of a wave file: samples, and the sum of those that sound together.
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <vector>

@@ -1,12 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <chrono>
 #include <csignal>
-#include <cstdlib>
 #include <cstring>
 #include <thread>
-#include <vector>
 
 #include "platform/SdlSoundDevice.h"
 #include "platform/Waves.h"

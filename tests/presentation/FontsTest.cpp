@@ -1,7 +1,4 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <filesystem>
 
 #include "presentation/Fonts.h"
 #include "support/ScriptedDialogs.h"

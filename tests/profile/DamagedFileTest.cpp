@@ -1,4 +1,6 @@
 // Files that somebody or something has damaged: the load fails, the record and the file stay as they were.
+#include <map>
+
 #include "profile/PlayerFile.h"
 #include "profile/ProfileFixture.h"
 #include "profile/Scramble.h"
@@ -98,21 +100,19 @@ TEST_F(DamagedFile, OneValueThatDoesNotConvert) {
 }
 
 TEST_F(DamagedFile, OddValuesThatStillConvertAreLoaded) {
-  const std::vector<std::pair<int, std::string>> cases = {{3, ""},
-                                                          {4, "-2147483648"},
-                                                          {4, "-0"},
-                                                          {13, "-32768"},
-                                                          {14, "255"},
-                                                          {43, "s199999"},
-                                                          {53, "ms-2"},
-                                                          {53,
-                                                           "s\xE9"
-                                                           "3"},
-                                                          {63, "-1"},
-                                                          {20, "\xFF"},
-                                                          {88, "-7"},
-                                                          {128, ""},
-                                                          {63, "00000000000012"}};
+  const std::multimap<int, std::string> cases = {{3, ""},
+                                                 {4, "-2147483648"},
+                                                 {4, "-0"},
+                                                 {13, "-32768"},
+                                                 {14, "255"},
+                                                 {20, "\xFF"},
+                                                 {43, "s199999"},
+                                                 {53, "ms-2"},
+                                                 {53, "s\xE9\063"},
+                                                 {63, "-1"},
+                                                 {63, "00000000000012"},
+                                                 {88, "-7"},
+                                                 {128, ""}};
   for (const auto& [number, text] : cases) {
     SampleFile sample;
     sample.record(number).text = text;

@@ -5,7 +5,6 @@
 #include <QTextDocument>
 
 #include "presentation/LayoutText.h"
-#include "profile/clsPlayer.h"
 #include "screens/frmHelp.h"
 #include "support/MatchTable.h"
 #include "support/ProgramStage.h"

@@ -3,6 +3,7 @@
 #include "screens/CountLabel.h"
 #include "screens/frmMenu.h"
 #include "support/OneScreen.h"
+#include "support/Rows.h"
 
 namespace kv::test {
 namespace {
@@ -43,25 +44,21 @@ TEST_F(frmMenuTest, NoLineEndsBehindANumber) {
 }
 
 TEST_F(frmMenuTest, TheCampaignIsLostWithoutCreditsAndCards) {
-  struct Case {
-    std::int32_t credits;
-    std::int16_t card;
-    std::int16_t wins;
-    const char* suffix;
-    bool enabled;
-  };
-  for (const Case& c :
-       {Case{0, 0, 0, " (DEFEATED: No credits or extra cards to sell)", false},
-        Case{0, 0, 10, " (DEFEATED: No credits or extra cards to sell)", false}, Case{0, 1, 0, "", true},
-        Case{0, -1, 9, " (DEFEATED: No credits or extra cards to sell)", false}, Case{-5, 0, 9, "", true},
-        Case{1, 0, 10, " (VICTORY: All players defeated)", true}}) {
-    player.Credits->Value = c.credits;
-    player.Cards->setValue(4, 6, c.card);
-    player.Orrin_Wins->Value = c.wins;
+  for (const auto& [credits, card, wins, suffix, enabled] :
+       Rows<std::int32_t, std::int16_t, std::int16_t, const char*, bool>{
+           {0, 0, 0, " (DEFEATED: No credits or extra cards to sell)", false},
+           {0, 0, 10, " (DEFEATED: No credits or extra cards to sell)", false},
+           {0, 1, 0, "", true},
+           {0, -1, 9, " (DEFEATED: No credits or extra cards to sell)", false},
+           {-5, 0, 9, "", true},
+           {1, 0, 10, " (VICTORY: All players defeated)", true}}) {
+    player.Credits->Value = credits;
+    player.Cards->setValue(4, 6, card);
+    player.Orrin_Wins->Value = wins;
     Open();
-    EXPECT_EQ(Campaign(), "Current campaign stats: " + std::to_string(c.credits) +
-                              " credits, 0 wins, 0 losses." + c.suffix);
-    EXPECT_EQ(screen->cmdCampaign().isEnabled(), c.enabled) << c.suffix;
+    EXPECT_EQ(Campaign(),
+              "Current campaign stats: " + std::to_string(credits) + " credits, 0 wins, 0 losses." + suffix);
+    EXPECT_EQ(screen->cmdCampaign().isEnabled(), enabled) << suffix;
   }
 }
 
@@ -127,13 +124,6 @@ TEST_F(frmMenuTest, ThePlayerIsChangedAfterAQuestion) {
 }
 
 TEST_F(frmMenuTest, StatisticsAreResetByDoubleClickAndSaved) {
-  struct Case {
-    const char* label;
-    const char* text;
-    const char* title;
-    std::function<void()> spoil;
-    std::function<bool()> spoilt;
-  };
   const auto arcade = [this] { return player.Arcade_Best == 900; };
   const auto network = [this] { return player.Disconnects == 3; };
   const auto campaign = [this] { return player.Losses->Value == 7; };
@@ -143,28 +133,28 @@ TEST_F(frmMenuTest, StatisticsAreResetByDoubleClickAndSaved) {
   const char* score = "Do you wish to reset your Arcade Highscore?";
   const char* status = "Do you wish to reset your network status?";
   const char* fresh = "Do you wish to reset your campaign status?";
-  const Case cases[] = {
-      {"lblArcadeHigh", score, "Kelm Vantri: Reset Highscore", play, arcade},
-      {"lblMPStats", status, "Kelm Vantri: Reset Network Stats", leave, network},
-      {"lblNetworkDesc", status, "Kelm Vantri: Reset Network Stats", leave, network},
-      {"lblSPStats", fresh, "Kelm Vantri: New Campaign", lose, campaign},
-      {"lblCampaignDesc", fresh, "Kelm Vantri: New Campaign", lose, campaign},
-  };
-  for (const Case& c : cases) {
-    c.spoil();
+
+  for (const auto& [label, text, title, spoil, spoilt] :
+       Rows<const char*, const char*, const char*, std::function<void()>, std::function<bool()>>{
+           {"lblArcadeHigh", score, "Kelm Vantri: Reset Highscore", play, arcade},
+           {"lblMPStats", status, "Kelm Vantri: Reset Network Stats", leave, network},
+           {"lblNetworkDesc", status, "Kelm Vantri: Reset Network Stats", leave, network},
+           {"lblSPStats", fresh, "Kelm Vantri: New Campaign", lose, campaign},
+           {"lblCampaignDesc", fresh, "Kelm Vantri: New Campaign", lose, campaign}}) {
+    spoil();
     Open();
-    hand->Click(Find<QLabel>(c.label));
-    EXPECT_THAT(dialogs.boxes, IsEmpty()) << c.label;
+    hand->Click(Find<QLabel>(label));
+    EXPECT_THAT(dialogs.boxes, IsEmpty()) << label;
     dialogs.answers = {false, true};
-    hand->DoubleClick(Find<QLabel>(c.label));
-    EXPECT_TRUE(c.spoilt());
+    hand->DoubleClick(Find<QLabel>(label));
+    EXPECT_TRUE(spoilt());
     EXPECT_EQ(folder.Count(), 0);
-    hand->DoubleClick(Find<QLabel>(c.label));
-    EXPECT_FALSE(c.spoilt());
+    hand->DoubleClick(Find<QLabel>(label));
+    EXPECT_FALSE(spoilt());
     EXPECT_EQ(folder.Count(), 1) << "saved";
     ASSERT_EQ(dialogs.boxes.size(), 2U);
-    EXPECT_EQ(dialogs.boxes[1].text, c.text);
-    EXPECT_EQ(dialogs.boxes[1].title, c.title);
+    EXPECT_EQ(dialogs.boxes[1].text, text);
+    EXPECT_EQ(dialogs.boxes[1].title, title);
     EXPECT_EQ(Campaign(), "Current campaign stats: 100 credits, 0 wins, 0 losses.");
     EXPECT_TRUE(screen->cmdCampaign().isEnabled());
     std::filesystem::remove(player.FileName);
@@ -240,7 +230,8 @@ TEST_P(frmMenuTest, TheLongestTextsFit) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Styles, frmMenuTest, testing::Values("Slate", "Ember"));
+INSTANTIATE_TEST_SUITE_P(Styles, frmMenuTest, testing::Values("Slate", "Ember"),
+                         [](const auto& style) { return std::string(style.param); });
 
 }  // namespace
 }  // namespace kv::test

@@ -12,6 +12,7 @@
 #include "screens/modgetKeyName.h"
 #include "support/MemorySettings.h"
 #include "support/OneScreen.h"
+#include "support/Rows.h"
 
 namespace kv::test {
 namespace {
@@ -171,44 +172,37 @@ TEST(frmOptionsTest, TheNameLosesLeadingBlanksAndMustNotBeEmpty) {
 }
 
 TEST(frmOptionsTest, AChangedPINIsAskedAbout) {
-  struct PINCase {
-    const char* before;
-    const char* typed;
-    const char* question;  // empty when none is asked
-  };
-  constexpr PINCase kCases[] = {
-      {"12", "12", ""},
-      {"", "", ""},
-      {"12", "345", "Are you sure you want to change your PIN?"},
-      {"", "7", "Are you sure you want to change your PIN?"},
-      {"12", "", "Are you sure you want to remove your PIN?"},
-  };
-  for (const PINCase& pin : kCases) {
-    const bool asked = *pin.question != '\0';
+  for (const auto& [before, typed, question] :
+       Rows<const char*, const char*, const char*>{{"12", "12", ""},
+                                                   {"", "", ""},
+                                                   {"12", "345", "Are you sure you want to change your PIN?"},
+                                                   {"", "7", "Are you sure you want to change your PIN?"},
+                                                   {"12", "", "Are you sure you want to remove your PIN?"}}) {
+    const bool asked = *question != '\0';
     OptionsStage stage;
-    stage.player.PIN = pin.before;
+    stage.player.PIN = before;
     stage.Open();
     auto& box = stage.Find<QLineEdit>("txtPIN");
-    EXPECT_EQ(box.text().toStdString(), pin.before);
+    EXPECT_EQ(box.text().toStdString(), before);
     box.setFocus();
     box.clear();
-    QTest::keyClicks(&box, QString::fromUtf8(pin.typed));
+    QTest::keyClicks(&box, QString::fromUtf8(typed));
     stage.Find<QLineEdit>("txtName").setText(QStringLiteral("Ann"));
     if (asked) {
       stage.dialogs.answers = {false, true};
       stage.Click("cmdOK");
       ASSERT_EQ(stage.dialogs.boxes.size(), 1u);
-      EXPECT_EQ(stage.dialogs.boxes[0].text, pin.question);
+      EXPECT_EQ(stage.dialogs.boxes[0].text, question);
       EXPECT_EQ(stage.dialogs.boxes[0].title, "Kelm Vantri: Confirmation");
       EXPECT_EQ(stage.dialogs.boxes[0].icon, DialogIcon::Exclamation);
-      EXPECT_EQ(stage.player.PIN, pin.before);
+      EXPECT_EQ(stage.player.PIN, before);
       EXPECT_EQ(stage.player.Name, "Player");
       EXPECT_FALSE(stage.Saved());
       EXPECT_TRUE(stage.recorded.calls.empty());
     }
     stage.Click("cmdOK");
     EXPECT_EQ(stage.dialogs.boxes.size(), asked ? 2u : 0u);
-    EXPECT_EQ(stage.player.PIN, pin.typed);
+    EXPECT_EQ(stage.player.PIN, typed);
     EXPECT_EQ(stage.player.Name, "Ann");
     EXPECT_EQ(stage.recorded.Count("OpenMenu"), 1);
   }

@@ -1,10 +1,10 @@
 #include <gmock/gmock.h>
 
 #include <QImage>
-#include <set>
 
 #include "screens/frmPortraits.h"
 #include "support/OneScreen.h"
+#include "support/Rows.h"
 
 namespace kv::test {
 namespace {
@@ -48,16 +48,16 @@ TEST(PortraitGridTest, TilesAndPortraitsMatch) {
 }
 
 TEST(PortraitGridTest, KeysWrapAround) {
-  struct Case {
-    PortraitKey key;
-    int from;
-    int to;
-  };
-  for (const auto& [key, from, to] :
-       {Case{PortraitKey::Up, 3, 51}, Case{PortraitKey::Up, 9, 45}, Case{PortraitKey::Up, 51, 39},
-        Case{PortraitKey::Down, 51, 3}, Case{PortraitKey::Down, 45, 9}, Case{PortraitKey::Down, 36, 48},
-        Case{PortraitKey::Up, 8, 56}, Case{PortraitKey::Right, 56, 0}, Case{PortraitKey::Left, 0, 56},
-        Case{PortraitKey::Right, 11, 12}}) {
+  for (const auto& [key, from, to] : Rows<PortraitKey, int, int>{{PortraitKey::Up, 3, 51},
+                                                                 {PortraitKey::Up, 9, 45},
+                                                                 {PortraitKey::Up, 51, 39},
+                                                                 {PortraitKey::Down, 51, 3},
+                                                                 {PortraitKey::Down, 45, 9},
+                                                                 {PortraitKey::Down, 36, 48},
+                                                                 {PortraitKey::Up, 8, 56},
+                                                                 {PortraitKey::Right, 56, 0},
+                                                                 {PortraitKey::Left, 0, 56},
+                                                                 {PortraitKey::Right, 11, 12}}) {
     EXPECT_EQ(TileAfter(key, from), to) << from;
   }
 }

@@ -9,6 +9,7 @@
 #include "screens/frmSplash.h"
 #include "screens/modShowPIN.h"
 #include "support/OneScreen.h"
+#include "support/Rows.h"
 
 namespace kv::test {
 namespace {
@@ -130,11 +131,6 @@ TEST_F(frmSplashTest, ANewPlayerIsCreatedWithTheEnterKeyAloneAndThenLoaded) {
 }
 
 TEST_F(frmSplashTest, AFileNameIsCheckedAtEveryChange) {
-  struct Case {
-    const char* name;
-    const char* info;
-    bool enabled;
-  };
   constexpr const char* kInvalid = "- invalid char: \\  /  :  *  ?  \"  <  >  |\n";
   constexpr const char* kExists = "- file of already exists\n";
   folder.Put("Bob.VNT", "");
@@ -144,19 +140,30 @@ TEST_F(frmSplashTest, AFileNameIsCheckedAtEveryChange) {
   hand->Click(Button("cmdCreate"));
   Type("x");
   hand->Click(Button("cmdNewName"));
-  for (const Case& c :
-       {Case{"", "", false}, Case{"bob", kExists, false}, Case{"BOB ", kExists, false},
-        Case{"place", kExists, false}, Case{"link", kExists, false}, Case{"bo", "", true},
-        Case{"bo b", "", true}, Case{".bob", "", true}, Case{"j\xC3\xBCrg", "", true},
-        Case{"who?", kInvalid, false}, Case{"../bob", kInvalid, false}, Case{"a\\b", kInvalid, false},
-        Case{".", kInvalid, false}, Case{"..", kInvalid, false}, Case{"bob.", kInvalid, false},
-        Case{"a\tb", kInvalid, false}, Case{"a\x7F", kInvalid, false},
-        Case{"12345678901234567890", "- max length reached (20)\n", true},
-        Case{"1234567890123456789|",
-             "- invalid char: \\  /  :  *  ?  \"  <  >  |\n- max length reached (20)\n", false}}) {
-    Box("txtName").setText(QString::fromUtf8(c.name));
-    EXPECT_EQ(Info(), c.info) << c.name;
-    EXPECT_EQ(Button("cmdNewFile").Enabled(), c.enabled) << c.name;
+  for (const auto& [name, info, enabled] : Rows<const char*, const char*, bool>{
+           {"", "", false},
+           {"bob", kExists, false},
+           {"BOB ", kExists, false},
+           {"place", kExists, false},
+           {"link", kExists, false},
+           {"bo", "", true},
+           {"bo b", "", true},
+           {".bob", "", true},
+           {"j\xC3\xBCrg", "", true},
+           {"who?", kInvalid, false},
+           {"../bob", kInvalid, false},
+           {"a\\b", kInvalid, false},
+           {".", kInvalid, false},
+           {"..", kInvalid, false},
+           {"bob.", kInvalid, false},
+           {"a\tb", kInvalid, false},
+           {"a\x7F", kInvalid, false},
+           {"12345678901234567890", "- max length reached (20)\n", true},
+           {"1234567890123456789|",
+            "- invalid char: \\  /  :  *  ?  \"  <  >  |\n- max length reached (20)\n", false}}) {
+    Box("txtName").setText(QString::fromUtf8(name));
+    EXPECT_EQ(Info(), info) << name;
+    EXPECT_EQ(Button("cmdNewFile").Enabled(), enabled) << name;
   }
   Box("txtName").setText(QStringLiteral("bob"));
   Enter();
@@ -392,23 +399,18 @@ TEST_F(frmSplashTest, TheNameInsideAFileStandsBesideItUnlessItHasAPIN) {
 }
 
 TEST_F(frmSplashTest, APINBoxTakesDigitsOnlyAndShowsThemForASecond) {
-  struct Case {
-    const char* typed;
-    const char* text;
-    int caret;
-  };
   Open();
   hand->Click(Button("cmdCreate"));
   Type("bob");
   Enter();
   auto& box = Find<PinBox>("txtNewPIN");
   box.setFocus();
-  for (const Case& c :
-       {Case{"12a", "12", 2}, Case{"x", "", 0}, Case{"12345", "1234", 4}, Case{"1-2", "12", 2}}) {
+  for (const auto& [typed, text, caret] : Rows<const char*, const char*, int>{
+           {"12a", "12", 2}, {"x", "", 0}, {"12345", "1234", 4}, {"1-2", "12", 2}}) {
     box.clear();
-    Type(c.typed);
-    EXPECT_EQ(box.PIN(), c.text) << c.typed;
-    EXPECT_EQ(box.cursorPosition(), c.caret) << c.typed;
+    Type(typed);
+    EXPECT_EQ(box.PIN(), text) << typed;
+    EXPECT_EQ(box.cursorPosition(), caret) << typed;
   }
   box.setPIN("12");
   box.setCursorPosition(1);

@@ -1,10 +1,8 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QImage>
 #include <array>
 #include <cstdio>
-#include <filesystem>
 
 #include "packing/Art.h"
 #include "presentation/PictureSizes.h"
