@@ -205,15 +205,13 @@ TEST_F(ProgramTest, TheWindowTheTitleBarAndTheStakeAreKnownForWhatTheyAre) {
   const auto spoken = [](QWidget& widget) { return QAccessible::queryAccessibleInterface(&widget); };
   EXPECT_EQ(spoken(program->stage())->role(), QAccessible::Window);
   EXPECT_EQ(spoken(Control<QWidget>("ctlTitlebar"))->role(), QAccessible::TitleBar);
-  EXPECT_EQ(spoken(Control<QWidget>("ctlTitlebar"))->text(QAccessible::Name),
-            QStringLiteral("Arcade Match: Select Cards"));
-  EXPECT_EQ(spoken(Control<QWidget>("ctlWager"))->text(QAccessible::Name),
-            QStringLiteral("how much do you wager?"));
+  EXPECT_EQ(spoken(Control<QWidget>("ctlTitlebar"))->text(QAccessible::Name), "Arcade Match: Select Cards");
+  EXPECT_EQ(spoken(Control<QWidget>("ctlWager"))->text(QAccessible::Name), "how much do you wager?");
   QAccessibleInterface* fill = spoken(Control<QWidget>("lblWagerCredits"));
   EXPECT_EQ(fill->role(), QAccessible::Button);
   fill->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
   QCoreApplication::processEvents();
-  EXPECT_EQ(Control<QLineEdit>("txtWager").text(), QStringLiteral("100"));
+  EXPECT_EQ(Control<QLineEdit>("txtWager").text(), "100");
 }
 
 /// Clicks and keys anywhere at any time, on whatever screen is open: the program neither falls nor hangs, a
@@ -352,7 +350,7 @@ TEST_F(ProgramTest, ADoubleClickEndsWithTheScreenThatItOpens) {
       const auto* widget = qobject_cast<QWidget*>(watched);
       const bool press =
           event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
-      if (press && widget != nullptr && widget->objectName() == QStringLiteral("frmOptions")) ++count;
+      if (press && widget != nullptr && widget->objectName() == "frmOptions") ++count;
       return false;
     }
     int count = 0;

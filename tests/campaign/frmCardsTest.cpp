@@ -60,12 +60,12 @@ TEST_P(CardsScreenTest, TheAmountBoxTakesWhatMayBeStakedAndNothingElse) {
   QLineEdit& box = screen->wager().gettxtWager();
   for (const char* text : {"12", "101", "12a"}) {
     box.setText(QString::fromUtf8(text));
-    EXPECT_EQ(box.text(), text == std::string("12") ? QStringLiteral("12") : QStringLiteral("101"));
+    EXPECT_EQ(box.text(), text == std::string("12") ? "12" : "101");
     EXPECT_EQ(screen->wager().getcmdWager().Enabled(), text == std::string("12")) << text;
   }
   Click(screen->wager().getlblCredits());
-  EXPECT_EQ(box.text(), QStringLiteral("100"));
-  box.setText(QStringLiteral("0050"));
+  EXPECT_EQ(box.text(), "100");
+  box.setText("0050");
   Key(Qt::Key_Return);  // the box has the focus: the stake is set, and Continue behind it is not pressed
   EXPECT_EQ(game.Wager, 50);
   EXPECT_TRUE(screen->wager().isHidden());
@@ -87,19 +87,19 @@ TEST_P(CardsScreenTest, TheWagerPanelTellsOfClicksAndTakesTheLayoutOfItsStyle) {
   Click(panel.getlblWagerInfo());
   EXPECT_EQ(clicks, "credits info");
   EXPECT_TRUE(panel.gettxtWager().text().isEmpty()) << "the panel decides nothing";
-  panel.gettxtWager().setText(QStringLiteral("12"));
-  const bool ember = panel.Style() == QStringLiteral("Ember");
-  panel.setStyle(QStringLiteral("Marble"));
-  panel.setStyle(ember ? QStringLiteral("Slate") : QStringLiteral("Ember"));
+  panel.gettxtWager().setText("12");
+  const bool ember = panel.Style() == "Ember";
+  panel.setStyle("Marble");
+  panel.setStyle(ember ? "Slate" : "Ember");
   EXPECT_EQ(panel.width(), Layout("frmCards", ember ? "Slate" : "Ember").rect(u"ctlWager").width());
-  EXPECT_EQ(panel.gettxtWager().text(), QStringLiteral("12"));
+  EXPECT_EQ(panel.gettxtWager().text(), "12");
 }
 
 TEST_P(CardsScreenTest, CardsGoIntoTheDeckAndBackAndOnlyAFullOneContinues) {
   Open(kModeArcade);
   Click(*screen->Bank({1, 1}));  // no stake yet: nothing happens, and the amount is still what is typed
   Key(Qt::Key_7);
-  EXPECT_EQ(screen->wager().gettxtWager().text(), QStringLiteral("7"));
+  EXPECT_EQ(screen->wager().gettxtWager().text(), "7");
   hand->Drag(screen->wager(), {40, 12}, {-50, -50});
   EXPECT_EQ(screen->wager().pos(), QPoint(0, screen->titlebar().height())) << "the title bar stays free";
   SetStake("10");
@@ -192,7 +192,7 @@ TEST_P(CardsScreenTest, TheTitleBarAsksOnlyWhenAMatchIsAtStake) {
 
   recorded.calls.clear();
   Open(kModeDeckConfig);
-  EXPECT_EQ(Button("cmdContinue").Caption(), QStringLiteral("ok"));
+  EXPECT_EQ(Button("cmdContinue").Caption(), "ok");
   EXPECT_TRUE(screen->wager().isHidden());
   Click(Button("cmdContinue"));
   EXPECT_EQ(asked(), std::vector<std::string>{"OpenCampaign"});
@@ -209,11 +209,11 @@ TEST_P(CardsScreenTest, WhatTheDeskDoesIsTold) {
   Key(Qt::Key_2);
   Click(*screen->Bank({1, 1}));
   EXPECT_EQ(announcer.Last(), "plus 1. Price 600. 4 owned.");
-  EXPECT_EQ(Find("lblCost").accessibleName(), QStringLiteral("Price: 600"));
+  EXPECT_EQ(Find("lblCost").accessibleName(), "Price: 600");
   Click(Button("cmdTrade"));
   EXPECT_EQ(announcer.Last(), "Bought plus 1. 80 credits.");
-  EXPECT_EQ(Find("lblCredits").accessibleName(), QStringLiteral("Credits: 80"));
-  EXPECT_EQ(Find("lblDeck").accessibleName(), QStringLiteral("Cards in the deck: 10 of 10"));
+  EXPECT_EQ(Find("lblCredits").accessibleName(), "Credits: 80");
+  EXPECT_EQ(Find("lblDeck").accessibleName(), "Cards in the deck: 10 of 10");
 }
 
 TEST_P(CardsScreenTest, AnArcadeRunIsAskedAboutOnceAndOnlyForWhatItHasWon) {
@@ -262,8 +262,7 @@ TEST_P(CardsScreenTest, TabGoesFromTheCollectionOverItsButtonsToTheDeckAndOn) {
     Key(Qt::Key_Tab);
     QWidget* focus = screen->focusWidget();
     EXPECT_NE(focus, screen.get()) << "the bare window is no stop";
-    const std::string kind =
-        focus->objectName().remove(QRegularExpression(QStringLiteral("\\d+$"))).toStdString();
+    const std::string kind = focus->objectName().remove(QRegularExpression("\\d+$")).toStdString();
     if (stops.empty() || stops.back() != kind) stops.push_back(kind);
     if (kind == "cmdContinue") break;
   }
@@ -383,12 +382,12 @@ TEST_P(CardsScreenTest, TheAmountHasTheFocusOnceItIsAskedForUnlessThePersonIsWri
       EXPECT_EQ(box.hasFocus(), !writing);
       EXPECT_EQ(line.hasFocus(), writing);
       const ctlButton& button = screen->wager().getcmdWager();
-      EXPECT_EQ(button.Caption(), host ? QStringLiteral("propose") : QStringLiteral("accept"));
+      EXPECT_EQ(button.Caption(), host ? "propose" : "accept");
       EXPECT_EQ(button.Enabled(), !host) << "there is nothing to propose yet";
       for (const char* amount : {"5", ""}) {
         box.setText(QString::fromUtf8(amount));
         EXPECT_EQ(button.Enabled(), *amount != 0) << amount;
-        EXPECT_EQ(button.Caption(), QStringLiteral("propose"));
+        EXPECT_EQ(button.Caption(), "propose");
       }
     }
   }

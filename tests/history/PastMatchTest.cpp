@@ -63,7 +63,7 @@ TEST_F(frmReviewTest, SaysWhatItTakesForADeckThatIsNotKnown) {
   EXPECT_FALSE(TurnsOf(record).front().position.side(Seat::Opponent).deck) << "not a deck of empty cards";
   record.strategy.clear();
   Open(record, 1);
-  EXPECT_TRUE(screen->findChild<QLabel*>(QStringLiteral("lblAssumed"))->isVisible());
+  EXPECT_TRUE(screen->findChild<QLabel*>("lblAssumed")->isVisible());
   EXPECT_EQ(Text("lblAssumed"), AssumptionText(record));
 }
 

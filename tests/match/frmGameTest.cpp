@@ -17,15 +17,14 @@ TEST_P(frmGameTest, OpensAsItsLayoutSays) {
   EXPECT_EQ(match.screen->size(), StyleIndex() == 0 ? QSize(786, 540) : QSize(1024, 690));
   EXPECT_FALSE(match.screen->cmdTurn().Enabled());
   match.Begin();
-  EXPECT_EQ(match.screen->titlebar().Caption(), QStringLiteral("Arcade Match"));
-  EXPECT_EQ(match.screen->lblWager().text(), QStringLiteral("Wager: 10"));
+  EXPECT_EQ(match.screen->titlebar().Caption(), "Arcade Match");
+  EXPECT_EQ(match.screen->lblWager().text(), "Wager: 10");
   EXPECT_TRUE(match.screen->cmdTurn().Enabled());
-  EXPECT_EQ(match.screen->side(Seat::Player).lblTotal().text(), QStringLiteral("7"));
+  EXPECT_EQ(match.screen->side(Seat::Player).lblTotal().text(), "7");
   const ctlCard& first = *match.screen->side(Seat::Player).table().at(0);
   EXPECT_EQ(first.pos(), QPoint(qRound(grid().table.left), qRound(grid().table.top)));
-  EXPECT_EQ(first.accessibleName(), QStringLiteral("7, your table card 1"));
-  EXPECT_EQ(match.screen->hand().ctlYourDeck(2).accessibleName(),
-            QStringLiteral("flip card, plus 2, hand card 2"));
+  EXPECT_EQ(first.accessibleName(), "7, your table card 1");
+  EXPECT_EQ(match.screen->hand().ctlYourDeck(2).accessibleName(), "flip card, plus 2, hand card 2");
   EXPECT_EQ(match.screen->side(Seat::Opponent).ctlOppDeck(4).Card(), "un");
 }
 
@@ -41,11 +40,10 @@ TEST_P(frmGameTest, NothingIsCutOffOrOutside) {
 }
 
 TEST_P(frmGameTest, ALongNameIsSetSmallerOrCutAtItsEndWithTheWholeToBeAskedFor) {
-  for (const auto& [name, cut] : Rows<QString, bool>{{QStringLiteral("Ann"), false},
-                                                     {QStringLiteral("Alexandra Hohenstein"), false},
-                                                     {QStringLiteral("WWWWWWWWWWWWWWWWWWW<"), true}}) {
+  for (const auto& [name, cut] :
+       Rows<QString, bool>{{"Ann", false}, {"Alexandra Hohenstein", false}, {"WWWWWWWWWWWWWWWWWWW<", true}}) {
     MatchScreen& match = BeginWith([&name = name](clsPlayer& player) { player.Name = name.toStdString(); });
-    const auto& label = *match.screen->findChild<QLabel*>(QStringLiteral("lblYourName"));
+    const auto& label = *match.screen->findChild<QLabel*>("lblYourName");
     EXPECT_LE(label.fontMetrics().horizontalAdvance(label.text()), label.width()) << name.toStdString();
     EXPECT_EQ(label.text() != name, cut) << name.toStdString();
     EXPECT_EQ(label.text().front(), name.front());
@@ -92,7 +90,7 @@ TEST_P(frmGameTest, AWholeSetWithTheMouse) {
   hand.Click(match.screen->cmdStand());
   match.Settle();  // the opponent plays on to 18 and stands
   EXPECT_TRUE(match.screen->banner().isVisible());
-  EXPECT_EQ(match.screen->banner().lblBust().text(), QStringLiteral("you win the set."));
+  EXPECT_EQ(match.screen->banner().lblBust().text(), "you win the set.");
   EXPECT_EQ(match.screen->side(Seat::Player).SetWinsShown(), 1);
   match.random.Add(0.25);
   hand.Click(match.screen->banner().cmdBust());
@@ -237,8 +235,8 @@ TEST_P(frmGameTest, NoKeyDoesAnythingInANetworkMatch) {
   match.engine().peer().setPlayerStarts(true);
   match.ready = true;
   match.Begin();
-  EXPECT_EQ(match.screen->lblWager().text(), QStringLiteral("Wager: 10\nBonus: 1"));
-  EXPECT_EQ(match.screen->titlebar().Caption(), QStringLiteral("Network Match"));
+  EXPECT_EQ(match.screen->lblWager().text(), "Wager: 10\nBonus: 1");
+  EXPECT_EQ(match.screen->titlebar().Caption(), "Network Match");
   ScreenHand hand(*match.screen);
   // It is the player's turn: in any other match each of these would act.
   ASSERT_TRUE(match.engine().shown().controls.hand && match.engine().shown().controls.flips);

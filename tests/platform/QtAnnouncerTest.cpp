@@ -50,9 +50,9 @@ TEST_F(QtAnnouncerTest, ASentenceCanStillBeReadWhenTheNextOnesHaveBeenTold) {
   for (const char* text : {"You draw 7.", "Total 17.", "You stand."})
     announcer.Announce(text, Urgency::Polite);
   ASSERT_EQ(shownLines.size(), 3U);
-  EXPECT_EQ(Read(shownLines[0]), QStringLiteral("You draw 7."));
-  EXPECT_EQ(Read(shownLines[1]), QStringLiteral("Total 17."));
-  EXPECT_EQ(Read(shownLines[2]), QStringLiteral("You stand."));
+  EXPECT_EQ(Read(shownLines[0]), "You draw 7.");
+  EXPECT_EQ(Read(shownLines[1]), "Total 17.");
+  EXPECT_EQ(Read(shownLines[2]), "You stand.");
 }
 
 TEST_F(QtAnnouncerTest, ASentenceIsANotificationOfAStatusBarThatHasAppeared) {

@@ -4,6 +4,7 @@
 #include <set>
 
 #include "platform/QtKeys.h"
+#include "support/Rows.h"
 
 namespace kv::test {
 namespace {
@@ -12,29 +13,29 @@ int Code(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, quint32 scan
   return VirtualKey(QKeyEvent(QEvent::KeyPress, key, modifiers, scanCode, 0, 0));
 }
 
-TEST(QtKeysTest, TheKeysOfTheBindingsHaveTheirCodes) {
-  EXPECT_EQ(Code(Qt::Key_Tab), 9);
+TEST(QtKeysTest, TheKeysOfTheBindingsHaveTheirCodesAndTheNumberBlockIsApart) {
+  for (const auto& [key, code] : Rows<Qt::Key, int>{{Qt::Key_Tab, 9},
+                                                    {Qt::Key_Return, 13},
+                                                    {Qt::Key_Control, 17},
+                                                    {Qt::Key_AltGr, 18},
+                                                    {Qt::Key_Space, 32},
+                                                    {Qt::Key_Left, 37},
+                                                    {Qt::Key_Q, 'Q'},
+                                                    {Qt::Key_4, '4'},
+                                                    {Qt::Key_F12, 123},
+                                                    {Qt::Key_Plus, 187},
+                                                    {Qt::Key_Comma, 188},
+                                                    {Qt::Key_unknown, 0},
+                                                    {Qt::Key_VolumeUp, 0}}) {
+    EXPECT_EQ(Code(key), code) << key;
+  }
   EXPECT_EQ(Code(Qt::Key_Backtab, Qt::ShiftModifier), 9);
-  EXPECT_EQ(Code(Qt::Key_Return), 13);
   EXPECT_EQ(Code(Qt::Key_Shift, Qt::ShiftModifier), 16);
-  EXPECT_EQ(Code(Qt::Key_Control), 17);
-  EXPECT_EQ(Code(Qt::Key_AltGr), 18);
-  EXPECT_EQ(Code(Qt::Key_Space), 32);
-  EXPECT_EQ(Code(Qt::Key_Left), 37);
-  EXPECT_EQ(Code(Qt::Key_Q), 'Q');
-  EXPECT_EQ(Code(Qt::Key_F12), 123);
-  EXPECT_EQ(Code(Qt::Key_Comma), 188);
-  EXPECT_EQ(Code(Qt::Key_unknown), 0);
-  EXPECT_EQ(Code(Qt::Key_VolumeUp), 0);
-}
-
-TEST(QtKeysTest, TheNumberBlockIsApart) {
-  EXPECT_EQ(Code(Qt::Key_4), '4');
-  EXPECT_EQ(Code(Qt::Key_4, Qt::KeypadModifier), 100);
-  EXPECT_EQ(Code(Qt::Key_Left, Qt::KeypadModifier), 37);  // with the lock off
-  EXPECT_EQ(Code(Qt::Key_Enter, Qt::KeypadModifier), 13);
-  EXPECT_EQ(Code(Qt::Key_Plus, Qt::KeypadModifier), 107);
-  EXPECT_EQ(Code(Qt::Key_Plus), 187);
+  // With the lock off its arrows are arrows.
+  for (const auto& [key, code] :
+       Rows<Qt::Key, int>{{Qt::Key_4, 100}, {Qt::Key_Left, 37}, {Qt::Key_Enter, 13}, {Qt::Key_Plus, 107}}) {
+    EXPECT_EQ(Code(key, Qt::KeypadModifier), code) << key;
+  }
 }
 
 TEST(QtKeysTest, ADigitIsItsKeyWhateverTheLayoutPrints) {

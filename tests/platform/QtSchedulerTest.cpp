@@ -41,9 +41,9 @@ class QtDialogsTest : public testing::Test {
 
 TEST_F(QtDialogsTest, ShowsTextTitleAndIconAsTheyAre) {
   WhenOpen<QMessageBox>([](QMessageBox& box) {
-    EXPECT_EQ(box.text(), QStringLiteral("<b>5 < 6</b> & more"));
+    EXPECT_EQ(box.text(), "<b>5 < 6</b> & more");
     EXPECT_EQ(box.textFormat(), Qt::PlainText);
-    EXPECT_EQ(box.windowTitle(), QStringLiteral("Kelm Vantri: Error"));
+    EXPECT_EQ(box.windowTitle(), "Kelm Vantri: Error");
     EXPECT_FALSE(box.iconPixmap().isNull());
     EXPECT_GT(box.width(), QFontMetrics(box.font()).horizontalAdvance(box.windowTitle()));
     Escape(box);
@@ -64,8 +64,8 @@ TEST_F(QtDialogsTest, OnlyYesIsYes) {
 
 TEST_F(QtDialogsTest, AsksForTextWithAPreset) {
   WhenOpen<QInputDialog>([](QInputDialog& box) {
-    EXPECT_EQ(box.textValue(), QStringLiteral("6000"));
-    box.setTextValue(QStringLiteral("Zoë"));
+    EXPECT_EQ(box.textValue(), "6000");
+    box.setTextValue("Zoë");
     box.accept();
   });
   EXPECT_EQ(dialogs.AskText("Port:", "Kelm Vantri", "6000"), "Zo\u00eb");

@@ -19,7 +19,7 @@ class ButtonTest : public SkinFixture {
   ButtonTest() {
     window.resize(300, 100);
     for (ctlButton* button : {&first, &second}) {
-      button->setCaption(QStringLiteral("Stand"));
+      button->setCaption("Stand");
       button->resize(120, 30);
     }
     second.move(150, 0);
@@ -122,20 +122,20 @@ TEST_F(ButtonTest, ADeletedButtonIsRememberedNoMore) {
 }
 
 TEST_F(ButtonTest, ReadsItsPropertiesInAnyCaseAndDefaultsToSlate) {
-  first.ReadProperties(PropertyBag(QJsonObject{{QStringLiteral("CAPTION"), QStringLiteral("Forfeit")},
-                                               {QStringLiteral("color_style"), QStringLiteral("Ember")},
-                                               {QStringLiteral("click_sound"), QStringLiteral("buy")},
-                                               {QStringLiteral("labeloffset"), 3},
-                                               {QStringLiteral("Enabled"), false}}));
-  EXPECT_EQ(first.Caption(), QStringLiteral("Forfeit"));
+  first.ReadProperties(PropertyBag(QJsonObject{{"CAPTION", "Forfeit"},
+                                               {"color_style", "Ember"},
+                                               {"click_sound", "buy"},
+                                               {"labeloffset", 3},
+                                               {"Enabled", false}}));
+  EXPECT_EQ(first.Caption(), "Forfeit");
   EXPECT_EQ(first.Click_Sound(), "buy");
   EXPECT_EQ(first.LabelOffset(), 3);
   EXPECT_EQ(first.Color(), kGrey);
   first.setEnabled(true);
   EXPECT_EQ(first.Color(), QColor(102, 77, 0));
-  first.setColor_Style(QStringLiteral("Ember_Menu"));
+  first.setColor_Style("Ember_Menu");
   EXPECT_EQ(first.Color(), QColor(26, 178, 140));
-  first.setColor_Style(QStringLiteral("Granite"));  // unknown: the colours stay
+  first.setColor_Style("Granite");  // unknown: the colours stay
   EXPECT_EQ(first.Color(), QColor(26, 178, 140));
 
   first.ReadProperties(PropertyBag());
@@ -169,7 +169,7 @@ TEST_F(ButtonTest, TellsAssistiveToolsThatItIsAButton) {
   QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&first);
   ASSERT_NE(accessible, nullptr);
   EXPECT_EQ(accessible->role(), QAccessible::Button);
-  EXPECT_EQ(accessible->text(QAccessible::Name), QStringLiteral("Stand"));
+  EXPECT_EQ(accessible->text(QAccessible::Name), "Stand");
 }
 
 }  // namespace

@@ -87,7 +87,7 @@ TEST_F(TitlebarTest, DraggingTheBarMovesTheWindow) {
 TEST_F(TitlebarTest, TheMinimiseLabelFollowsThePlayerOnceThereIsOne) {
   window.show();
   context.setPlayer(nullptr);
-  bar.ReadProperties(PropertyBag(QJsonObject{{QStringLiteral("minimize"), false}}));
+  bar.ReadProperties(PropertyBag(QJsonObject{{"minimize", false}}));
   EXPECT_TRUE(bar.cmdMini().isHidden());
   player.ShowMinimize_Opt = true;
   context.setPlayer(&player);
@@ -105,11 +105,11 @@ TEST_F(TitlebarTest, TheMinimiseLabelFollowsThePlayerOnceThereIsOne) {
 
 TEST_F(TitlebarTest, TheBorderColourIsAlsoTheMinimiseLabels) {
   const QColor border(90, 200, 40);
-  bar.ReadProperties(PropertyBag(QJsonObject{
-      {QStringLiteral("Caption"), QStringLiteral("Arcade Match")},
-      {QStringLiteral("Border_Color"), QJsonArray{border.red(), border.green(), border.blue()}}}));
-  EXPECT_EQ(bar.Caption(), QStringLiteral("Arcade Match"));
-  EXPECT_EQ(bar.lblTitlebar().text(), QStringLiteral("Arcade Match"));
+  bar.ReadProperties(
+      PropertyBag(QJsonObject{{"Caption", "Arcade Match"},
+                              {"Border_Color", QJsonArray{border.red(), border.green(), border.blue()}}}));
+  EXPECT_EQ(bar.Caption(), "Arcade Match");
+  EXPECT_EQ(bar.lblTitlebar().text(), "Arcade Match");
   EXPECT_EQ(Pixel(bar.cmdMini(), QPoint(7, 3)), border);
   EXPECT_EQ(Pixel(bar, QPoint(300, 23)), border);
 }

@@ -116,11 +116,10 @@ TEST_F(PlayerFileTest, AWrongPinIsRefusedInSilence) {
 }
 
 TEST_F(PlayerFileTest, VersionsAreThreeDigits) {
-  EXPECT_EQ(VersionNumber("1.2.4"), 124);
-  EXPECT_EQ(VersionNumber("1.0.3"), 103);
-  EXPECT_EQ(VersionNumber("0.0.1"), 1);
-  EXPECT_EQ(VersionNumber("2.5.5"), 255);
-  EXPECT_EQ(VersionNumber("1.2.10"), 120);
+  for (const auto& [text, number] : Rows<const char*, int>{
+           {"1.2.4", 124}, {"1.0.3", 103}, {"0.0.1", 1}, {"2.5.5", 255}, {"1.2.10", 120}}) {
+    EXPECT_EQ(VersionNumber(text), number);
+  }
   for (const char* text : {"", "1", "1.", "a.b.c", "2.5.6", "9.9.9", "-.1.2"}) {
     EXPECT_FALSE(VersionNumber(text)) << text;
   }

@@ -95,13 +95,13 @@ TEST(frmOptionsTest, ListsAndTurnSystemEditTheirFields) {
     QTest::mouseClick(stage.screen->windowHandle(), Qt::LeftButton, {}, middle);
     EXPECT_EQ(list.currentRow(), row) << control;
   };
-  choose("lstInterface", QStringLiteral("Ember"), 0);
-  choose("lstSpeed", QStringLiteral("Fast!"), 0);
-  choose("lstArcadeOpp", QStringLiteral("Orrin Vaal"), 1);
-  choose("lstArcadeAI", QStringLiteral("Kelm Vantri"), 1);
+  choose("lstInterface", "Ember", 0);
+  choose("lstSpeed", "Fast!", 0);
+  choose("lstArcadeOpp", "Orrin Vaal", 1);
+  choose("lstArcadeAI", "Kelm Vantri", 1);
   stage.Click("optTurnSystem(0)");
   EXPECT_EQ(stage.sound.Count("check"), 5);
-  choose("lstArcadeAI", QStringLiteral("Ember"), 1);
+  choose("lstArcadeAI", "Ember", 1);
   stage.Find("lstSpeed").setFocus();
   stage.hand->Key(Qt::Key_Down);
   EXPECT_EQ(stage.sound.Count("check"), 7) << "by pointer and by keyboard";
@@ -155,15 +155,15 @@ TEST(frmOptionsTest, TheNameLosesLeadingBlanksAndMustNotBeEmpty) {
   name.setFocus();
   name.setCursorPosition(0);
   stage.hand->Key(Qt::Key_Space);
-  EXPECT_EQ(name.text(), QStringLiteral("Player"));
+  EXPECT_EQ(name.text(), "Player");
   name.selectAll();
   stage.hand->Key(Qt::Key_Delete);
   EXPECT_FALSE(stage.Button("cmdOK").Enabled());
   stage.hand->Key(Qt::Key_Space);
   EXPECT_FALSE(stage.Button("cmdOK").Enabled());
-  QTest::keyClicks(&name, QStringLiteral("Ann of the green gables "));
+  QTest::keyClicks(&name, "Ann of the green gables ");
   EXPECT_EQ(name.text().size(), 20);
-  name.setText(QStringLiteral("Ann  "));
+  name.setText("Ann  ");
   stage.player.FileName = "/nowhere/at/all.vnt";
   stage.Click("cmdOK");
   EXPECT_EQ(stage.player.Name, "Ann");
@@ -187,7 +187,7 @@ TEST(frmOptionsTest, AChangedPINIsAskedAbout) {
     box.setFocus();
     box.clear();
     QTest::keyClicks(&box, QString::fromUtf8(typed));
-    stage.Find<QLineEdit>("txtName").setText(QStringLiteral("Ann"));
+    stage.Find<QLineEdit>("txtName").setText("Ann");
     if (asked) {
       stage.dialogs.answers = {false, true};
       stage.Click("cmdOK");
@@ -237,7 +237,7 @@ TEST(frmOptionsTest, EveryOtherWayOutLeavesTheRecordAsItWas) {
     EXPECT_EQ(stage.recorded.Count("OpenPortraits"), 1);
     stage.player.Portrait = 20;  // as the picker does
     stage.screen->PortraitChosen(stage.pictures.getPic(320));
-    stage.Find<QLineEdit>("txtName").setText(QStringLiteral("Ann"));
+    stage.Find<QLineEdit>("txtName").setText("Ann");
     stage.Click("chkKeys");
     EXPECT_FALSE(stage.Button("cmdKeys").Enabled());
     leave(stage);
@@ -270,7 +270,7 @@ TEST(frmOptionsTest, AKeyOfTwoActionsIsMarkedAndTheDefaultsAreOneButtonAway) {
   stage.Click("cmdKeysDefaults");
   stage.Click("cmdKeysDefaults");
   EXPECT_EQ(name("cmdKeysStand"), "Key for Stand: Tab");
-  EXPECT_EQ(stage.Button("cmdKeysFlip1(0)").Caption(), QStringLiteral("Q"));
+  EXPECT_EQ(stage.Button("cmdKeysFlip1(0)").Caption(), "Q");
   stage.Click("cmdKeysDone");
   EXPECT_EQ(stage.player.Keys->Value(3, 1), 'Q');
   stage.Click("cmdOK");
@@ -281,7 +281,7 @@ TEST(frmOptionsTest, EveryKeyIsCaught) {
   OptionsStage stage;
   stage.OpenKeys();
   EXPECT_FALSE(stage.Find("frmeOptions").isEnabled());
-  EXPECT_EQ(stage.Button("cmdKeysTurn").Caption(), QStringLiteral("Space"));
+  EXPECT_EQ(stage.Button("cmdKeysTurn").Caption(), "Space");
   struct {
     const char* control;
     Qt::Key key;
@@ -332,7 +332,7 @@ TEST(frmOptionsTest, TheKeyThatClicksIsNotCaught) {
   stage.Find("cmdKeysTurn").setFocus();
   QWindow* window = stage.screen->windowHandle();
   QTest::keyPress(window, Qt::Key_Return);
-  QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, QStringLiteral("\r"), true);
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, "\r", true);
   QCoreApplication::sendEvent(window, &held);
   EXPECT_TRUE(stage.screen->WaitsForKey());
   QTest::keyRelease(window, Qt::Key_Return);
@@ -361,7 +361,7 @@ TEST(frmOptionsTest, TheVolumeIsHeardAtOnceAndOutlivesCancel) {
     stage.Open();
     auto& slider = stage.Find<QSlider>("sldVolume");
     const auto& label = stage.Find<QLabel>("lblVolume");
-    EXPECT_EQ(label.text(), QStringLiteral("Volume 80 %"));
+    EXPECT_EQ(label.text(), "Volume 80 %");
     EXPECT_FALSE(slider.accessibleName().isEmpty());
     QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(&slider);
     ASSERT_NE(reader->valueInterface(), nullptr);
@@ -378,7 +378,7 @@ TEST(frmOptionsTest, TheVolumeIsHeardAtOnceAndOutlivesCancel) {
     EXPECT_EQ(stage.sound.Count("check"), 1) << "nobody hears how loud it is now";
     slider.setValue(43);
     EXPECT_EQ(stage.sound.volume, 45);
-    EXPECT_EQ(label.text(), QStringLiteral("Volume 45 %"));
+    EXPECT_EQ(label.text(), "Volume 45 %");
     stage.Click("cmdCancel");
     EXPECT_EQ(stage.remembered.volume(), 45);
     EXPECT_FALSE(stage.Saved());

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <deque>
 #include <functional>
 #include <memory>
@@ -175,20 +176,7 @@ class MatchTable final : public MatchView,
   }
   void BannerChanged() override { screen.TellBanner(engine->shown().banner); }
   void RunTimer(MatchTimer timer, bool run) override {
-    switch (timer) {
-      case MatchTimer::Game:
-        gameTimer = run;
-        break;
-      case MatchTimer::AutoDialogs:
-        autoTimer = run;
-        break;
-      case MatchTimer::NetWait:
-        netTimer = run;
-        break;
-      case MatchTimer::Quiet:
-        quietTimer = run;
-        break;
-    }
+    *std::array{&gameTimer, &autoTimer, &netTimer, &quietTimer}.at(static_cast<std::size_t>(timer)) = run;
   }
   void PlaySound(std::string_view effect) override {
     sounds.emplace_back(effect);
