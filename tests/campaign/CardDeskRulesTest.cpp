@@ -189,59 +189,5 @@ TEST_F(CardDeskRulesTest, TheNetworkDeskStoresItsOwnAccountAndTheStake) {
   EXPECT_EQ(networkStake.last, 30);
 }
 
-// Whatever is clicked, cards and credits only change hands.
-TEST_F(CardDeskRulesTest, RandomClicksKeepTheAccount) {
-  constexpr int kClicks = 4000;
-  player.Credits->Value = 20000;
-  player.Cards->Fill(2);
-  CardDesk desk = DeckView();
-  std::int64_t spread = 0;  // what the shop has earned
-  const auto owned = [&] { return CountCards(game.CardsRef->getValue()) + desk.DeckCount(); };
-  const auto worth = [&] {
-    std::int64_t sum = desk.Credits() + spread;
-    for (int kind = 1; kind <= kCardKinds; ++kind) {
-      for (int value = 1; value <= kCardNumbers; ++value) {
-        sum += desk.Bank({kind, value}).count * CardPrice(kind, value);
-      }
-    }
-    for (int slot = 1; slot <= kDeckSize; ++slot) {
-      const CardPlace place = CardKindValue(desk.Slot(slot));
-      sum += CardPrice(place.kind, place.value);
-    }
-    return sum;
-  };
-  const std::int64_t worthBefore = worth();
-  const auto any = [this](int most) { return static_cast<int>(random.Rnd() * most) + 1; };
-  for (int click = 0; click < kClicks; ++click) {
-    const int ownedBefore = owned();
-    const CardPlace place{any(4), any(6)};
-    const CardView view = desk.view();
-    bool traded = false;
-    switch (any(5)) {
-      case 1:
-        desk.YourDeck(static_cast<CardView>(any(3)));
-        break;
-      case 2:
-        desk.RemoveCard(any(10));
-        break;
-      case 3:
-        if (desk.ClickBank(place) == BankClick::Picked && (traded = desk.Trade()) && view == CardView::Sell) {
-          spread += CardPrice(place.kind, place.value) - SellValue(place);
-        }
-        break;
-      default:
-        if (view == CardView::Deck) desk.ClickBank(place);
-    }
-    ASSERT_EQ(owned() - ownedBefore, !traded ? 0 : view == CardView::Buy ? 1 : -1);
-    ASSERT_EQ(worth(), worthBefore);
-    ASSERT_GE(desk.Credits(), 0);
-    ASSERT_EQ(desk.Buttons().next, desk.DeckCount() == 10 && desk.view() == CardView::Deck);
-    bool negative = false;
-    game.CardsRef->searchFor(-1, negative);
-    ASSERT_FALSE(negative);
-  }
-  EXPECT_EQ(player.Credits->Value, 20000);
-}
-
 }  // namespace
 }  // namespace kv::test

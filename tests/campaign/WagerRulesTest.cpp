@@ -34,6 +34,7 @@ TEST_F(WagerRulesTest, WhatIsNoAmountIsUndone) {
 }
 
 TEST_F(WagerRulesTest, OnlyPermittedAmountsOpenTheButton) {
+  // Tile -1 is an arcade match.
   for (const auto& [tile, credits, text, open] :
        Rows<int, std::int32_t, const char*, bool>{{4, 800, "749", false},
                                                   {4, 800, "750", true},

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "campaign/frmCampaign.h"
+#include "match/clsGame.h"
 #include "support/OneScreen.h"
 #include "support/Rows.h"
 

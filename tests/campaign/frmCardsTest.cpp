@@ -5,6 +5,7 @@
 
 #include "campaign/Circuit.h"
 #include "campaign/frmCards.h"
+#include "match/clsGame.h"
 #include "support/OneScreen.h"
 #include "support/RecordingNetwork.h"
 #include "support/Rows.h"
@@ -47,6 +48,11 @@ class CardsScreenTest : public testing::TestWithParam<const char*>, protected On
   void SetStake(const char* text) {
     screen->wager().gettxtWager().setText(QString::fromUtf8(text));
     Click(screen->wager().getcmdWager());
+  }
+  /// A campaign match for 20 credits.
+  void OpenAtStake() {
+    Open(kModeCampaign);
+    SetStake("20");
   }
   [[nodiscard]] const std::vector<std::string>& asked() const { return recorded.calls; }
 
@@ -119,8 +125,7 @@ TEST_P(CardsScreenTest, CardsGoIntoTheDeckAndBackAndOnlyAFullOneContinues) {
 }
 
 TEST_P(CardsScreenTest, ASpentCardIsDimThoughThePointerRestsOnIt) {
-  Open(kModeCampaign);
-  SetStake("20");
+  OpenAtStake();
   Click(screen->ctlDeck(1));
   Click(screen->ctlDeck(2));
   ctlCard& card = *screen->Bank({2, 6});
@@ -134,8 +139,7 @@ TEST_P(CardsScreenTest, ASpentCardIsDimThoughThePointerRestsOnIt) {
 }
 
 TEST_P(CardsScreenTest, TheShopTradesWithTheWorkingCopiesUntilContinue) {
-  Open(kModeCampaign);
-  SetStake("20");
+  OpenAtStake();
   EXPECT_EQ(player.Losses->Value, 1);
   EXPECT_EQ(player.Credits->Value, 700);
   Key(Qt::Key_Space);  // the trade button is hidden
@@ -165,8 +169,7 @@ TEST_P(CardsScreenTest, ACardThatTheDeckNeedsIsNotSoldAndTheScreenSaysWhy) {
   player.Cards->Fill(0);
   player.Credits->Value = 40;
   for (int slot = 1; slot <= kDeckSize; ++slot) player.Deck->setValue(slot, CardCode("ps6"));
-  Open(kModeCampaign);
-  SetStake("20");
+  OpenAtStake();
   Key(Qt::Key_3);
   Click(screen->ctlDeck(1));
   Click(*screen->Bank({1, 6}));
@@ -179,8 +182,7 @@ TEST_P(CardsScreenTest, ACardThatTheDeckNeedsIsNotSoldAndTheScreenSaysWhy) {
 }
 
 TEST_P(CardsScreenTest, TheTitleBarAsksOnlyWhenAMatchIsAtStake) {
-  Open(kModeCampaign);
-  SetStake("20");
+  OpenAtStake();
   dialogs.answers = {false, true};
   screen->titlebar().Quit();
   EXPECT_TRUE(asked().empty());
@@ -199,8 +201,7 @@ TEST_P(CardsScreenTest, TheTitleBarAsksOnlyWhenAMatchIsAtStake) {
 }
 
 TEST_P(CardsScreenTest, WhatTheDeskDoesIsTold) {
-  Open(kModeCampaign);
-  SetStake("20");
+  OpenAtStake();
   EXPECT_EQ(announcer.Last(), "Stake 20.");
   Click(screen->ctlDeck(1));
   EXPECT_EQ(announcer.Last(), "plus 1 removed. 9 of 10 cards.");
@@ -252,8 +253,7 @@ TEST_P(CardsScreenTest, AnArcadeRunIsAskedAboutOnceAndOnlyForWhatItHasWon) {
 }
 
 TEST_P(CardsScreenTest, TabGoesFromTheCollectionOverItsButtonsToTheDeckAndOn) {
-  Open(kModeCampaign);
-  SetStake("20");
+  OpenAtStake();
   Click(screen->ctlDeck(10));
   Click(*screen->Bank({2, 6}));
   screen->setFocus();
@@ -389,6 +389,13 @@ TEST_P(CardsScreenTest, TheAmountHasTheFocusOnceItIsAskedForUnlessThePersonIsWri
         EXPECT_EQ(button.Enabled(), *amount != 0) << amount;
         EXPECT_EQ(button.Caption(), "propose");
       }
+      box.setText("50");
+      Click(screen->wager().getcmdWager());
+      EXPECT_EQ(peer.Sent("[Wage]50"), 1);
+      peer.sent.clear();
+      EXPECT_EQ(button.Caption(), "(waiting)");
+      EXPECT_FALSE(button.Enabled());
+      EXPECT_EQ(game.Wager, -1);
     }
   }
 }

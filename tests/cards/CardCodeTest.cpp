@@ -129,10 +129,6 @@ TEST(CardArrays, CopiesAreIndependent) {
   EXPECT_EQ(deck.Value(1).text(), "0");
   deck.Fill(3);
   EXPECT_EQ(deck.Value(10).text(), "3");
-  deck.DefaultDeckMP();
-  EXPECT_EQ(deck.Value(7).text(), "ms1");
-  deck.DefaultDeckSP();
-  EXPECT_EQ(deck.Value(10).text(), "ps5");
 }
 
 TEST(CardHelpers, CountsAndFindsInsideTheBounds) {

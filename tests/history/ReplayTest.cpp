@@ -52,6 +52,8 @@ TEST(Replay, GivesEveryMatchAgainAtEveryStep) {
     int different = 0;
     ASSERT_EQ(Again(recorder.record(), different), log.lines) << match;
     ASSERT_EQ(different, 0) << match;
+    ASSERT_EQ(log.wrongTotals, 0) << match;
+    ASSERT_EQ(recorder.record().sets.size(), static_cast<std::size_t>(played.sets));
     ASSERT_EQ(recorder.record().winner, played.winner);
     ASSERT_EQ(recorder.record().setWins, played.setWins);
   }

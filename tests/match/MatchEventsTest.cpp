@@ -2,10 +2,6 @@
 // card and every total. And what the screen is told, and when, as a player sees and hears it.
 #include <gtest/gtest.h>
 
-#include "ai/clsAI_Ember.h"
-#include "ai/clsAI_Normal.h"
-#include "match/Dealing.h"
-#include "match/HeadlessMatch.h"
 #include "match/MatchCourse.h"
 #include "support/EventLog.h"
 #include "support/Rows.h"
@@ -72,21 +68,6 @@ TEST(Events, ATurnThatEndsByItselfIsToldAndOneThatOnlyPassesIsNot) {
   }
 }
 
-TEST(Events, AMatchThatIsWonIsDecidedAndBookedOnce) {
-  Told told(ThreeSets(10, 9));
-  for (int set = 1; set <= kSetsToWin; ++set) {
-    told.table.strategy.turns = {StandOpponent};
-    told.table.game.CreditsRef = std::make_shared<clsLong>();
-    told.table.game.CreditsRef->Value = 90;
-    told.table.Stand();
-    told.table.Continue();
-  }
-  const Lines end(told.log.lines.end() - 3, told.log.lines.end());
-  EXPECT_EQ(end, (Lines{"player wins the set 10:9, the last", "player wins the match 3:0",
-                        "booked won 10: 90 to 90"}));
-  EXPECT_EQ(std::count(told.log.lines.begin(), told.log.lines.end(), "player wins the match 3:0"), 1);
-}
-
 /// The rule that decided the set that the table shows, when it closes on `closing`.
 SetRule RuleOf(const std::vector<const char*>& yours, const std::vector<const char*>& theirs,
                Seat closing = Seat::Player) {
@@ -129,32 +110,6 @@ TEST(Events, AllObserversOfAMatchHearTheSame) {
   table.EndTurn();
   EXPECT_EQ(first.lines.size(), heard) << "it has gone";
   EXPECT_GT(second.lines.size(), heard);
-}
-
-/// The tables that the events make, beside those of the engine.
-TEST(Events, PlayedAgainTheyGiveTheEnginesTablesAtEveryStep) {
-  clsAI_Normal standard;
-  clsAI_Ember ember;
-  SeededRandom random(31);
-  const clsDeckArray special = OpponentDeck("H6-J8");
-  for (int match = 0; match < 2000; ++match) {
-    EventLog log;
-    int different = 0;
-    const auto compare = [&](const MatchEngine& engine) {
-      if (!engine.peer().betweenSets()) return;
-      for (const Seat seat : {Seat::Player, Seat::Opponent}) {
-        different += log.tables.at(static_cast<std::size_t>(seat)) == engine.shown().Table(seat) ? 0 : 1;
-      }
-    };
-    const HeadlessResult result =
-        PlayHeadless({standard, ember, special, special, {}, &log}, random, compare);
-    ASSERT_EQ(log.wrongTotals, 0) << match;
-    ASSERT_EQ(different, 0) << match;
-    const auto sets = std::count_if(log.events.begin(), log.events.end(), [](const MatchEvent& event) {
-      return std::holds_alternative<event::SetDecided>(event);
-    });
-    ASSERT_EQ(sets, result.sets) << match;
-  }
 }
 
 using Lines = std::vector<std::string>;

@@ -30,6 +30,8 @@ class MatchScreenTest : public testing::TestWithParam<const char*> {
     match_->Begin();
     return *match_;
   }
+  /// On the match that was begun last.
+  [[nodiscard]] ScreenHand Hand() const { return ScreenHand(*match_->screen); }
   [[nodiscard]] int StyleIndex() const { return std::string(GetParam()) == "Ember" ? 1 : 0; }
   [[nodiscard]] const MatchGrid& grid() const {
     return kMatchGrids.at(static_cast<std::size_t>(StyleIndex()));

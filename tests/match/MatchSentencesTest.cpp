@@ -2,12 +2,6 @@
 // and every total; the second line of the banner, tips and hints.
 #include <gtest/gtest.h>
 
-#include <regex>
-
-#include "ai/clsAI_Ember.h"
-#include "ai/clsAI_Normal.h"
-#include "match/Dealing.h"
-#include "match/HeadlessMatch.h"
 #include "match/MatchHint.h"
 #include "match/MatchReasons.h"
 #include "match/MatchSentences.h"
@@ -77,66 +71,26 @@ TEST(Sentences, CardsOfTheHandAreNamedSoThatTheyCanBeToldApart) {
   EXPECT_EQ(HandText(empty.engine->shown()), "Hand: empty.");
 }
 
-/// Plays a match again from what is said: numbers on two tables.
-class Listener {
- public:
-  std::array<std::vector<int>, 2> tables;
-  std::array<int, 2> heard{};  // totals
-
-  void Hear(const std::string& sentence) {
-    if (sentence.starts_with("Set ")) tables = {};
-    const std::size_t who = sentence.starts_with("You") ? 0 : 1;
-    for (const std::string& part : Parts(sentence)) Take(part, who);
-  }
-
- private:
-  static std::vector<std::string> Parts(const std::string& sentence) {
-    static const std::regex kPart(
-        "(draw|play)s? [^,.]*(, (plus|minus)? ?[0-9]+)?|card \\d is now [^,.]*|total [^,.]*");
-    return {std::sregex_token_iterator(sentence.begin(), sentence.end(), kPart), {}};
-  }
-  /// The last number of the words; the card that changes others counts nothing.
-  static int Number(const std::string& words) {
-    static const std::regex kLast("(minus )?(\\d+)$");
-    std::smatch found;
-    if (words.ends_with(" card") || !std::regex_search(words, found, kLast)) return 0;
-    return std::stoi(found[2]) * (found[1].matched ? -1 : 1);
-  }
-  void Take(const std::string& part, std::size_t who) {
-    if (part.starts_with("total")) {
-      heard.at(who) = Number(part);
-    } else if (part.starts_with("card")) {
-      tables.at(who).at(static_cast<std::size_t>(part[5] - '1')) = Number(part);
-    } else {
-      tables.at(who).push_back(Number(part));
-    }
-  }
-};
-
-TEST(Sentences, AMatchCanBePlayedAgainFromWhatIsSaid) {
-  clsAI_Normal standard;
-  clsAI_Ember ember;
-  SeededRandom random(17);
-  const clsDeckArray special = OpponentDeck("H6-J8");
-  for (int match = 0; match < 100; ++match) {
-    Listener listener;
-    Lines story;
-    MatchSentences sentences([&](const std::string& sentence) {
-      story.push_back(sentence);
-      listener.Hear(sentence);
-    });
-    const auto compare = [&](const MatchEngine& engine) {
-      if (!engine.peer().betweenSets()) return;
-      for (const Seat seat : {Seat::Player, Seat::Opponent}) {
-        std::vector<int> lies;
-        for (const CardCode& card : engine.shown().Table(seat)) lies.push_back(card.cardValue());
-        ASSERT_EQ(listener.tables.at(static_cast<std::size_t>(seat)), lies) << testing::PrintToString(story);
-        ASSERT_EQ(listener.heard.at(static_cast<std::size_t>(seat)), engine.shown().Total(seat));
-      }
-    };
-    static_cast<void>(PlayHeadless({standard, ember, special, special, {}, &sentences}, random, compare));
-    ASSERT_FALSE(HasFatalFailure()) << match;
-  }
+TEST(Sentences, ASetOfSpecialCardsIsHeardOnBothSides) {
+  Spoken match(
+      {.hand = {"s299", "s1-1", "s499"}, .opponentHand = {"s399", "s299"}, .draws = {4, 2, 6, 3, 8, 10, 5}});
+  match.table.strategy.turns = {PlayFirst,
+                                [](AiOperations& side) {
+                                  side.AI_PlayCard(2);
+                                  side.AI_EndTurn();
+                                },
+                                EndOpponent};
+  match.table.Play(1);
+  match.table.EndTurn();
+  match.table.Play(3);
+  match.table.EndTurn();
+  EXPECT_EQ(match.Said(),
+            (Lines{"The match against Orrin Vaal begins, for 10 credits.", "Set 1. You begin.",
+                   "Your turn. You draw 4, total 4.", "You play double, 4, total 8.", "You end your turn.",
+                   "Orrin Vaal draws 2, plays 2 and 4 card, card 1 is now minus 2, total minus 2.",
+                   "Your turn. You draw 6, total 14.",
+                   "You play 3 and 6 card, card 3 is now minus 6, total 2.", "You end your turn.",
+                   "Orrin Vaal draws 3, plays double, 3, total 4.", "Your turn. You draw 8, total 10."}));
 }
 
 // The second line of the banner.

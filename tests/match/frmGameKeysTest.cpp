@@ -1,4 +1,5 @@
-// The match screen's keys, of which only the first press counts, and the ways to leave it.
+// The match screen's keys, what each does and that only its first press counts; and the ways to leave the
+// screen.
 #include <gmock/gmock.h>
 
 #include <QKeyEvent>
@@ -30,7 +31,7 @@ TEST_P(frmGameKeysTest, ARepeatedGameKeyDoesNothing) {
   EXPECT_TRUE(match.engine().shown().controls.endTurn) << "a turn ended by the key of the turn before";
   EXPECT_FALSE(match.engine().shown().Stood(Seat::Player));
   EXPECT_EQ(match.screen->hand().ctlYourDeck(2).Card(), "fp2");
-  ScreenHand(*match.screen).Key(Qt::Key_W);
+  Hand().Key(Qt::Key_W);
   EXPECT_EQ(match.screen->hand().ctlYourDeck(2).Card(), "fm2") << "the first press of it acts";
 }
 
@@ -42,7 +43,7 @@ TEST_P(frmGameKeysTest, ARepeatedEnterOrEscapeNeitherPlaysNorConfirmsNorAsks) {
   Repeat(*match.screen, Qt::Key_Escape);
   EXPECT_TRUE(match.dialogs.boxes.empty());
   match.dialogs.answers = {true};
-  ScreenHand(*match.screen).Key(Qt::Key_Escape);
+  Hand().Key(Qt::Key_Escape);
   ASSERT_TRUE(match.screen->banner().isVisible());
   Repeat(*match.screen, Qt::Key_Return, QStringLiteral("\r"));
   EXPECT_TRUE(match.screen->banner().isVisible());
@@ -51,12 +52,12 @@ TEST_P(frmGameKeysTest, ARepeatedEnterOrEscapeNeitherPlaysNorConfirmsNorAsks) {
 
 TEST_P(frmGameKeysTest, TableAndHandAreToldAgainByAKeyEach) {
   MatchScreen& match = Begin({4});
-  ScreenHand(*match.screen).Key(Qt::Key_F2);
+  Hand().Key(Qt::Key_F2);
   EXPECT_THAT(
       match.announcer.Last(),
       testing::MatchesRegex("Your table: 4, total 4\\. .*'s table: empty, total 0\\. 4 cards in hand\\. "
                             "Sets 0 to 0\\. Hand: plus 3; .* Your turn\\."));
-  ScreenHand(*match.screen).Key(Qt::Key_F3);
+  Hand().Key(Qt::Key_F3);
   EXPECT_EQ(match.announcer.Last().substr(0, 13), "Hand: plus 3;");
   EXPECT_EQ(match.screen->side(Seat::Player).light().accessibleName(), QStringLiteral("Your turn light: on"));
 }
@@ -65,7 +66,7 @@ TEST_P(frmGameKeysTest, AKeyThatThePlayerHasBoundIsNoKeyToHear) {
   constexpr std::int16_t kF2 = 113;
   MatchScreen& match = BeginWith([](clsPlayer& player) { player.Keys->setValue(1, 2, kF2); });
   match.announcer.told.clear();
-  ScreenHand(*match.screen).Key(Qt::Key_F2);
+  Hand().Key(Qt::Key_F2);
   EXPECT_TRUE(match.engine().shown().Stood(Seat::Player));
   EXPECT_NE(match.announcer.Last().substr(0, 10), "Your table");
 }
@@ -79,14 +80,14 @@ TEST_P(frmGameKeysTest, ANewcomerIsShownHowByAKeyOrNeverAgain) {
   EXPECT_TRUE(guide.isVisible());
   EXPECT_FALSE(guide.isAncestorOf(match.screen->focusWidget()));
   EXPECT_THAT(match.announcer.told, testing::Contains(testing::HasSubstr("F5: show me")));
-  ScreenHand(*match.screen).Click(guide.cmdGuideYes());
+  Hand().Click(guide.cmdGuideYes());
   EXPECT_FALSE(guide.cmdGuideYes().isVisible());
   EXPECT_NE(guide.lblGuide().text().indexOf(QStringLiteral("End Turn")), -1);
   EXPECT_EQ(match.announcer.told.back(), guide.lblGuide().text().toStdString());
-  ScreenHand(*match.screen).Key(Qt::Key_F6);
+  Hand().Key(Qt::Key_F6);
   EXPECT_FALSE(guide.isVisible());
   EXPECT_TRUE(match.settings.hintSeen("first_special_"));
-  ScreenHand(*match.screen).Key(Qt::Key_F5);
+  Hand().Key(Qt::Key_F5);
   EXPECT_FALSE(guide.isVisible());
   EXPECT_EQ(match.engine().shown().Table(Seat::Player).size(), 1u);
 }
@@ -95,16 +96,16 @@ TEST_P(frmGameKeysTest, ANewcomerIsShownHowByAKeyOrNeverAgain) {
 
 TEST_P(frmGameKeysTest, ForfeitAsksFirst) {
   MatchScreen& match = Begin({4});
-  ScreenHand hand(*match.screen);
   match.dialogs.answers = {false, true};
-  hand.Click(match.screen->cmdForfeit());
+  Hand().Click(match.screen->cmdForfeit());
   ASSERT_EQ(match.dialogs.boxes.size(), 1u);
   EXPECT_EQ(match.dialogs.boxes[0].text, "Are you sure you wish to forfeit this match?");
   EXPECT_EQ(match.dialogs.boxes[0].title, "Kelm Vantri: Forfeit Match");
+  EXPECT_EQ(match.dialogs.boxes[0].icon, DialogIcon::Exclamation);
   EXPECT_TRUE(match.screen->cmdForfeit().Enabled()) << "No gives the button back";
   EXPECT_TRUE(match.screen->cmdTurn().Enabled());
 
-  hand.Click(match.screen->titlebar().cmdQuit());
+  Hand().Click(match.screen->titlebar().cmdQuit());
   EXPECT_EQ(match.dialogs.boxes.size(), 2u);
   EXPECT_EQ(match.screen->banner().lblBust().text(), QStringLiteral("You have been defeated."));
   EXPECT_EQ(match.screen->side(Seat::Opponent).SetWinsShown(), 3);
@@ -113,7 +114,7 @@ TEST_P(frmGameKeysTest, ForfeitAsksFirst) {
   EXPECT_EQ(match.bookings, 1);
   match.Settle();
   // After the match the title bar's close is the banner's button.
-  hand.Click(match.screen->titlebar().cmdQuit());
+  Hand().Click(match.screen->titlebar().cmdQuit());
   EXPECT_EQ(match.recorded.Count("LeaveMatch"), 1);
   EXPECT_FALSE(match.screen->isVisible());
   EXPECT_EQ(match.bookings, 1);
@@ -122,7 +123,7 @@ TEST_P(frmGameKeysTest, ForfeitAsksFirst) {
 TEST_P(frmGameKeysTest, LeavingTheProgramGivesUpTheMatchOnce) {
   MatchScreen& match = Begin({4});
   match.dialogs.answers = {false, true};
-  ScreenHand(*match.screen).Key(Qt::Key_Escape);  // asks like the title bar, and is answered no
+  Hand().Key(Qt::Key_Escape);  // asks like the title bar, and is answered no
   EXPECT_EQ(match.dialogs.boxes.size(), 1u);
   EXPECT_TRUE(match.screen->isVisible());
   match.screen->close();
@@ -133,8 +134,7 @@ TEST_P(frmGameKeysTest, LeavingTheProgramGivesUpTheMatchOnce) {
 TEST_P(frmGameKeysTest, AutoConfirm) {
   MatchScreen& match = BeginWith([](clsPlayer& player) { player.AutoDialogs_Opt = true; }, {4, 10, 5, 9});
   match.strategy.turns = {StandOpponent};
-  ScreenHand hand(*match.screen);
-  hand.Click(match.screen->cmdStand());
+  Hand().Click(match.screen->cmdStand());
   while (!match.screen->banner().isVisible()) match.scheduler.Advance(10);
   EXPECT_FALSE(match.screen->banner().cmdBust().Enabled());
   const int clicks = match.sound.Count("click");
@@ -162,6 +162,78 @@ TEST_P(frmGameKeysTest, ClosesAtAnyMoment) {
     EXPECT_EQ(match.scheduler.pauses.size(), pauses);
     match.screen.reset();
   }
+}
+
+constexpr int kKeyQ = 81;
+constexpr int kKeyA = 65;
+
+class MatchKeysTest : public testing::Test {
+ protected:
+  KeyAction Press(int key, KeyModifiers held = {}, const FlipsShown& flips = {}) const {
+    return KeyActionOf(keys, key, held, flips);
+  }
+
+  PlayerFields player;
+  clsCardArray& keys = *player.Keys;
+  const FlipsShown all{{true, true, true, true}, {true, true, true, true}};
+};
+
+TEST_F(MatchKeysTest, DefaultKeys) {
+  EXPECT_EQ(Press(KeySpace), (KeyAction{KeyCommand::EndTurn}));
+  EXPECT_EQ(Press(KeyTab), (KeyAction{KeyCommand::Stand}));
+  EXPECT_EQ(Press('3'), (KeyAction{KeyCommand::Play, 3}));
+  EXPECT_EQ(Press(kKeyQ, {}, all), (KeyAction{KeyCommand::FirstFlip, 1}));
+  EXPECT_EQ(Press(kKeyA, {}, all), (KeyAction{KeyCommand::SecondFlip, 1}));
+  EXPECT_EQ(Press(kKeyQ), KeyAction{}) << "a flip button that is not shown";
+  // Entries without a binding hold 0, the code of keys that the platform does not know.
+  for (const int unbound : {0, -1, int{KeyEnter}, 70000}) {
+    EXPECT_FALSE(IsBoundKey(keys, unbound));
+    EXPECT_EQ(Press(unbound, {}, all), KeyAction{});
+  }
+}
+
+TEST_F(MatchKeysTest, ModifiersTurnAPlayKeyIntoAFlip) {
+  EXPECT_EQ(Press('2', {.shift = true}, all), (KeyAction{KeyCommand::FirstFlip, 2}));
+  EXPECT_EQ(Press('2', {.alt = true}, all), (KeyAction{KeyCommand::FirstFlip, 2}));
+  EXPECT_EQ(Press('2', {.control = true}, all), (KeyAction{KeyCommand::SecondFlip, 2}));
+  EXPECT_EQ(Press('2', {.shift = true}), KeyAction{}) << "never played by mistake for a flip";
+  EXPECT_EQ(Press(KeySpace, {.shift = true}), (KeyAction{KeyCommand::EndTurn}));
+}
+
+TEST_F(MatchKeysTest, AModifierFlipsTheCardOfThePlayKeyWhateverTheFlipKeysAre) {
+  for (const std::int16_t flipKey : {std::int16_t{0}, std::int16_t{kKeyQ}}) {  // cleared, and one for all
+    for (int slot = 1; slot <= 4; ++slot) {
+      keys.setValue(3, slot, flipKey);
+      keys.setValue(4, slot, flipKey);
+    }
+    EXPECT_EQ(Press('3', {.shift = true}, all), (KeyAction{KeyCommand::FirstFlip, 3}));
+    EXPECT_EQ(Press('3', {.control = true}, all), (KeyAction{KeyCommand::SecondFlip, 3}));
+    const FlipsShown others{{true, true, false, true}, {true, true, false, true}};
+    EXPECT_EQ(Press('3', {.alt = true}, others), KeyAction{});
+    EXPECT_EQ(Press('3', {.control = true}, others), KeyAction{});
+  }
+}
+
+TEST_F(MatchKeysTest, ABoundModifierIsAKeyLikeAnyOther) {
+  keys.setValue(1, 1, KeyShift);
+  EXPECT_EQ(Press(KeyShift, {.shift = true}, all), (KeyAction{KeyCommand::EndTurn}));
+  EXPECT_EQ(Press('2', {.shift = true}, all), (KeyAction{KeyCommand::Play, 2}));
+  EXPECT_EQ(Press('2', {.control = true}, all), (KeyAction{KeyCommand::SecondFlip, 2}));
+  keys.setValue(1, 2, KeyControl);
+  EXPECT_EQ(Press('2', {.control = true}, all), (KeyAction{KeyCommand::Play, 2}));
+  EXPECT_EQ(Press('2', {.control = true, .alt = true}, all), (KeyAction{KeyCommand::FirstFlip, 2}));
+}
+
+TEST_F(MatchKeysTest, OneKeyForSeveralThings) {
+  // The first rule wins; among flip buttons the first that is shown.
+  for (int slot = 1; slot <= 4; ++slot) keys.setValue(3, slot, kKeyQ);
+  EXPECT_EQ(Press(kKeyQ, {}, {{false, false, true, true}, {}}), (KeyAction{KeyCommand::FirstFlip, 3}));
+  keys.setValue(4, 2, kKeyQ);
+  EXPECT_EQ(Press(kKeyQ, {}, {{}, {true, true, true, true}}), (KeyAction{KeyCommand::SecondFlip, 2}));
+  keys.setValue(2, 4, kKeyQ);
+  EXPECT_EQ(Press(kKeyQ, {}, all), (KeyAction{KeyCommand::Play, 4}));
+  keys.setValue(1, 2, kKeyQ);
+  EXPECT_EQ(Press(kKeyQ, {}, all), (KeyAction{KeyCommand::Stand}));
 }
 
 }  // namespace

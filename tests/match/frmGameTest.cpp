@@ -63,13 +63,12 @@ TEST_P(frmGameTest, CardsNamesAndPortraitsLieOnThePanelOfTheStyle) {
     EXPECT_EQ(on->parentWidget(), panel) << on->objectName().toStdString();
   }
   // A card that is dragged goes over the buttons beside the panel, which are in front of it again afterwards.
-  ScreenHand hand(*match.screen);
   const ctlCard& card = match.screen->hand().ctlYourDeck(1);
-  const QPoint over = hand.CentreOf(match.screen->cmdStand());
-  hand.Press(hand.CentreOf(card));
-  hand.MoveTo(over);
+  const QPoint over = Hand().CentreOf(match.screen->cmdStand());
+  Hand().Press(Hand().CentreOf(card));
+  Hand().MoveTo(over);
   EXPECT_EQ(match.screen->childAt(over), &card);
-  hand.Release(over);
+  Hand().Release(over);
   EXPECT_EQ(match.screen->childAt(over), &match.screen->cmdStand());
 }
 
@@ -102,12 +101,11 @@ TEST_P(frmGameTest, AWholeSetWithTheMouse) {
 
 TEST_P(frmGameTest, DragAndDrop) {
   MatchScreen& match = Begin({4}, {"ps1", "ps2", "ps3", "ps4"});
-  ScreenHand hand(*match.screen);
   const ctlCard& card = match.screen->hand().ctlYourDeck(1);
   const QPoint home = card.pos();
   const QPoint half(card.width() / 2, card.height() / 2);
 
-  hand.Click(card);
+  Hand().Click(card);
   EXPECT_EQ(match.engine().shown().Total(Seat::Player), 4) << "a single click does nothing";
   // One pixel outside each edge it comes back.
   const double middleX = (grid().dropLeft + grid().dropRight) / 2;
@@ -115,14 +113,14 @@ TEST_P(frmGameTest, DragAndDrop) {
   for (const QPointF outside :
        {QPointF(grid().dropLeft - 1, middleY), QPointF(grid().dropRight + 1.5, middleY),
         QPointF(middleX, grid().dropTop - 1), QPointF(middleX, grid().dropBottom + 1)}) {
-    hand.Drag(card, {3, 3}, outside.toPoint() - half);
+    Hand().Drag(card, {3, 3}, outside.toPoint() - half);
     EXPECT_EQ(card.pos(), home);
     EXPECT_EQ(match.engine().shown().Total(Seat::Player), 4);
   }
   // The centre exactly on the corner of the area plays it.
   QPoint corner(static_cast<int>(grid().dropLeft), static_cast<int>(grid().dropTop));
   if (card.width() % 2 == 1) corner.rx() += 1;  // the centre lies between two pixels
-  hand.Drag(card, {3, 3}, corner - half);
+  Hand().Drag(card, {3, 3}, corner - half);
   EXPECT_EQ(match.engine().shown().Total(Seat::Player), 5);
   EXPECT_FALSE(card.isVisible());
   EXPECT_EQ(card.pos(), home);
@@ -131,23 +129,22 @@ TEST_P(frmGameTest, DragAndDrop) {
 TEST_P(frmGameTest, TheEndOfTheTurnOrABoxInTheMiddleOfADragSendsTheCardHome) {
   for (const bool box : {false, true}) {
     MatchScreen& match = Begin({4, 5, 6});
-    ScreenHand hand(*match.screen);
     ctlCard& card = match.screen->hand().ctlYourDeck(1);
     const QPoint home = card.pos();
-    hand.Press(hand.CentreOf(card) - QPoint(0, card.height() / 2 - 2));
-    hand.MoveTo({300, 200});
+    Hand().Press(Hand().CentreOf(card) - QPoint(0, card.height() / 2 - 2));
+    Hand().MoveTo({300, 200});
     EXPECT_NE(card.pos(), home);
     if (box) {  // a modal one blocks the window and swallows the release of the button
       QEvent blocked(QEvent::WindowBlocked);
       QCoreApplication::sendEvent(match.screen.get(), &blocked);
     } else {
-      hand.Key(Qt::Key_Space);
+      Hand().Key(Qt::Key_Space);
     }
     EXPECT_EQ(card.pos(), home);
     QMouseEvent hover(QEvent::MouseMove, QPointF(10, 10), QPointF(10, 10), Qt::NoButton, Qt::NoButton, {});
     QCoreApplication::sendEvent(&card, &hover);
     EXPECT_EQ(card.pos(), home) << "the card does not stick to the pointer";
-    hand.Release({300, 200});
+    Hand().Release({300, 200});
     EXPECT_EQ(match.engine().shown().Table(Seat::Player).size(), 1u);
     match.Settle();
     EXPECT_TRUE(card.isVisible() && card.Enabled());
@@ -156,7 +153,6 @@ TEST_P(frmGameTest, TheEndOfTheTurnOrABoxInTheMiddleOfADragSendsTheCardHome) {
 
 TEST_P(frmGameTest, FlipButtons) {
   MatchScreen& match = Begin({4}, {"ps3", "fp2", "s11", "s51"});
-  ScreenHand hand(*match.screen);
   frmGameHand& cards = match.screen->hand();
   EXPECT_FALSE(cards.imgFlip(1).isVisible());
   EXPECT_TRUE(cards.imgFlip(2).isVisible());
@@ -164,7 +160,7 @@ TEST_P(frmGameTest, FlipButtons) {
   EXPECT_TRUE(cards.imgFlip2(4).isVisible());
   EXPECT_TRUE(cards.imgFlipFooter().isVisible());
 
-  hand.MoveTo(hand.CentreOf(cards.imgFlip(2)));
+  Hand().MoveTo(Hand().CentreOf(cards.imgFlip(2)));
   EXPECT_TRUE(cards.imgFlip(2).hovered());
   // Without the rounded border, through which the panel shines.
   const auto shown = [](ctlFlip& flip) {
@@ -176,44 +172,42 @@ TEST_P(frmGameTest, FlipButtons) {
   EXPECT_EQ(shown(cards.imgFlip(2)), pictured(cards.imgFlip(2), cards.imgFlip_On()));
   EXPECT_NE(shown(cards.imgFlip(3)), pictured(cards.imgFlip(3), cards.imgFlip_On())) << "a plain one";
   EXPECT_NE(shown(cards.imgFlip2(4)), pictured(cards.imgFlip2(4), cards.imgFlip2_On()));
-  hand.Click(cards.imgFlip(2));
+  Hand().Click(cards.imgFlip(2));
   EXPECT_EQ(cards.ctlYourDeck(2).Card(), "fm2");
-  hand.Click(cards.imgFlip2(4));
+  Hand().Click(cards.imgFlip2(4));
   EXPECT_EQ(cards.ctlYourDeck(4).Card(), "s52");
-  hand.Key(Qt::Key_3, Qt::ShiftModifier);
+  Hand().Key(Qt::Key_3, Qt::ShiftModifier);
   EXPECT_EQ(cards.ctlYourDeck(3).Card(), "s1-1");
-  hand.Key(Qt::Key_F);
+  Hand().Key(Qt::Key_F);
   EXPECT_EQ(cards.ctlYourDeck(4).Card(), "s51");
-  hand.MoveTo({5, match.screen->height() / 2});
+  Hand().MoveTo({5, match.screen->height() / 2});
   EXPECT_FALSE(cards.imgFlip(2).hovered());
 
-  hand.Key(Qt::Key_4);
+  Hand().Key(Qt::Key_4);
   EXPECT_FALSE(cards.imgFlip2Footer().isVisible()) << "no button of the row is left";
   EXPECT_FALSE(cards.imgFlip2(4).isVisible());
 }
 
 TEST_P(frmGameTest, KeysEndAndStandAndNothingElse) {
   MatchScreen& match = Begin({4, 5, 6});
-  ScreenHand hand(*match.screen);
-  hand.Key(Qt::Key_X);
-  hand.Key(Qt::Key_F5);
+  Hand().Key(Qt::Key_X);
+  Hand().Key(Qt::Key_F5);
   EXPECT_TRUE(match.screen->cmdTurn().Enabled());
-  hand.Key(Qt::Key_Space);
+  Hand().Key(Qt::Key_Space);
   EXPECT_FALSE(match.screen->cmdTurn().Enabled());
-  hand.Key(Qt::Key_Space);  // not the player's turn
-  hand.Key(Qt::Key_1);
+  Hand().Key(Qt::Key_Space);  // not the player's turn
+  Hand().Key(Qt::Key_1);
   EXPECT_EQ(match.engine().shown().Table(Seat::Player).size(), 1u);
   match.Settle();
-  hand.Key(Qt::Key_Tab);
+  Hand().Key(Qt::Key_Tab);
   EXPECT_TRUE(match.engine().shown().Stood(Seat::Player));
 }
 
 TEST_P(frmGameTest, EverythingByFocusWhenTheGameKeysAreOff) {
   MatchScreen& match = BeginWith([](clsPlayer& player) { player.KeysEn = false; });
-  ScreenHand hand(*match.screen);
   std::vector<const QWidget*> reached;
   for (int i = 0; i < 14; ++i) {
-    hand.Key(Qt::Key_Tab);
+    Hand().Key(Qt::Key_Tab);
     if (const QWidget* widget = QApplication::focusWidget()) reached.push_back(widget);
   }
   const auto has = [&](const QWidget& widget) {
@@ -224,7 +218,7 @@ TEST_P(frmGameTest, EverythingByFocusWhenTheGameKeysAreOff) {
   EXPECT_TRUE(has(match.screen->hand().ctlYourDeck(1)));
   EXPECT_TRUE(has(match.screen->hand().imgFlip(2)));
   match.screen->hand().ctlYourDeck(1).setFocus();
-  hand.Key(Qt::Key_Return);
+  Hand().Key(Qt::Key_Return);
   EXPECT_EQ(match.engine().shown().Total(Seat::Player), 7);
 }
 
@@ -253,31 +247,29 @@ TEST_P(frmGameTest, NoKeyDoesAnythingInANetworkMatch) {
 
 TEST_P(frmGameTest, PortraitsAndLights) {
   MatchScreen& match = Begin({4});
-  ScreenHand hand(*match.screen);
   FadeTarget& yours = match.screen->side(Seat::Player).portrait();
   FadeTarget& theirs = match.screen->side(Seat::Opponent).portrait();
-  hand.Click(yours);
+  Hand().Click(yours);
   EXPECT_TRUE(yours.isVisible());
   EXPECT_FALSE(match.screen->side(Seat::Player).shuttered());
-  hand.DoubleClick(yours);
+  Hand().DoubleClick(yours);
   EXPECT_FALSE(yours.isVisible());
   EXPECT_TRUE(match.screen->side(Seat::Player).shuttered()) << "no lit frame stands empty";
-  hand.Click(theirs);
+  Hand().Click(theirs);
   EXPECT_FALSE(theirs.isVisible());
   EXPECT_TRUE(match.screen->side(Seat::Opponent).shuttered());
 
   EXPECT_TRUE(match.globals.effects.fading());
-  hand.Click(match.screen->cmdTurn());
+  Hand().Click(match.screen->cmdTurn());
   EXPECT_FALSE(match.globals.effects.fading()) << "both lights are off between the turns";
 }
 
 TEST_P(frmGameTest, CardsPulseInOneStyleOnly) {
   MatchScreen& match = Begin({4});
-  ScreenHand hand(*match.screen);
   const ctlCard& card = match.screen->hand().ctlYourDeck(1);
-  hand.MoveTo(hand.CentreOf(card));
+  Hand().MoveTo(Hand().CentreOf(card));
   EXPECT_EQ(match.globals.effects.pulsingCard() != nullptr, StyleIndex() == 1);
-  hand.MoveTo({5, match.screen->height() / 2});
+  Hand().MoveTo({5, match.screen->height() / 2});
   EXPECT_EQ(match.globals.effects.pulsingCard(), nullptr);
 }
 

@@ -100,23 +100,18 @@ TEST(Framing, AMessageTooLongBreaksTheStream) {
   EXPECT_EQ(framing.Feed("[Play]\x87").size(), 1u);
 }
 
-TEST(Address, IsFourGroupsOfDigits) {
+TEST(Address, IsFourGroupsOfDigitsAndAPortOneToFive) {
   for (const char* valid : {"192.168.0.12", "999.1.1.1", "1.2.3.4"}) EXPECT_TRUE(IsValidIP(valid)) << valid;
   for (const char* invalid :
        {"", "192.168.0", "1.2.3.4.5", "1..2.3", ".1.2.3", "1.2.3.", "1.2.3.x", "1.2.3. 4"}) {
     EXPECT_FALSE(IsValidIP(invalid)) << invalid;
   }
-}
-
-TEST(Address, APortIsOneToFiveDigits) {
   EXPECT_EQ(PortOf("7000"), 7000);
   EXPECT_EQ(PortOf("  65535 "), 65535);
   for (const char* invalid : {"", " ", "0", "65536", "abc", "7 0", "-1", "000001"}) {
     EXPECT_FALSE(PortOf(invalid)) << invalid;
   }
-}
-
-TEST(Address, OfSixRowsThoseAreListedThatOthersCanUse) {
+  // Of six rows those are listed that others can use.
   const std::vector<std::string> rows = {"0.0.0.0",  "127.0.0.1", "10.0.0.1", "10.0.0.2",
                                          "10.0.0.3", "10.0.0.4",  "10.0.0.5"};
   EXPECT_EQ(UsableAddresses(rows), std::vector<std::string>(rows.begin() + 2, rows.begin() + 6));

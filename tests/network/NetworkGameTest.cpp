@@ -102,25 +102,6 @@ TEST_F(NetworkGameTest, AStartThatCrossesAModeChangeCostsNobodyTheMatch) {
   EXPECT_FALSE(guest.Saw("Unknown command") || host.Saw("Unknown command"));
 }
 
-TEST_F(NetworkGameTest, TheGuestMayProposeAnotherStake) {
-  Meet();
-  Start();
-  Pass(500);
-  host.Act(30);
-  Pass(500);
-  auto& cards = *guest.program->screenAs<frmCards>();
-  EXPECT_EQ(cards.wager().getcmdWager().Caption(), "accept");
-  cards.wager().gettxtWager().setText("40");
-  cards.wager().getcmdWager().click();
-  Pass(500);
-  EXPECT_EQ(host.program->screenAs<frmCards>()->wager().gettxtWager().text(), "40");
-  host.Act(0);
-  Pass(500);
-  EXPECT_EQ(host.program->game()->Wager, 40);
-  EXPECT_EQ(guest.program->game()->Wager, 40);
-  EXPECT_EQ(Account(guest), (Accounts{100, 0, 0, 1})) << "the advance entry is on disk";
-}
-
 TEST_F(NetworkGameTest, BackFromTheCardsReturnsBoth) {
   Meet();
   host.Click("cmdGameMode");
@@ -198,9 +179,12 @@ TEST_F(NetworkGameTest, TheProgramEndsOnceItsFarewellIsHeardOut) {
   guest.Say("/quit");
   EXPECT_FALSE(guest.program->screen()->isVisible());
   Pass(1500);
+  EXPECT_EQ(host.dialogs.boxes.back().text, "Opponent has quit! You Win!");
   EXPECT_EQ(guest.quits, 0);
   Pass(1500);
   EXPECT_EQ(guest.quits, 1);
+  EXPECT_EQ(Account(guest), (Accounts{50, 0, 1, 0}));
+  EXPECT_EQ(Account(host), (Accounts{155, 1, 0, 0}));
 }
 
 /// The line drops at each state of a game: the screen that stays is locked, and ten seconds later an open

@@ -176,12 +176,9 @@ TEST_F(PortraitsTest, APeersNameCannotLeaveTheFolderOrMatchAnything) {
        {std::string("*"), std::string("Player?"), "../" + inside + "/Player1", std::string("..\\x")}) {
     EXPECT_FALSE(Found(10, name)) << name;
   }
-}
-
-TEST_F(PortraitsTest, AFileNameTooShortForAnExtensionHasNoOwnPicture) {
   PutPicture("abc.jpg", "jpg");
   owner = {"abc", 7};
-  EXPECT_FALSE(Found(-1, ""));
+  EXPECT_FALSE(Found(-1, "")) << "a file's name too short for an extension";
 }
 
 constexpr int kTileSide = 50;  // of the portrait picker

@@ -60,10 +60,15 @@ TEST_F(SoundsTest, LoadsTheTableInOrderFromTheProgramFolder) {
   EXPECT_THAT(Heard(), ElementsAre(1, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18));
 }
 
-TEST_F(SoundsTest, TurnSoundsTakeTheTwoBuffersByTurns) {
+TEST_F(SoundsTest, TurnSoundsThatAreHeardTakeTheTwoBuffersByTurns) {
   sounds.InitEffects("");
-  for (const char* name : {"turn", "TURN", "draw", "Turn"}) sounds.PlayEffect(name);
-  EXPECT_THAT(device.played, ElementsAre(1, 2, 5, 1));
+  sounds.setPlayer(&player);
+  for (const char* name : {"turn", "TURN", "draw"}) sounds.PlayEffect(name);
+  player.Mute_Cards_Opt = true;
+  sounds.PlayEffect("turn");
+  player.Mute_Cards_Opt = false;
+  for (const char* name : {"Turn", "turn"}) sounds.PlayEffect(name);
+  EXPECT_THAT(device.played, ElementsAre(1, 2, 5, 1, 2));
 }
 
 TEST_F(SoundsTest, EachMuteOptionSilencesItsOwnCategoryOnly) {
@@ -99,6 +104,10 @@ TEST_F(SoundsTest, EveryNameIsUnderstoodInAnyLetters) {
   for (int entry = 3; entry <= 18; ++entry) entries.push_back(entry);
   for (const char* name : names) sounds.PlayEffect(name);
   EXPECT_EQ(device.played, entries);
+  sounds.setPlayer(&player);
+  player.Mute_Highlight_Opt = player.Mute_Buttons_Opt = player.Mute_Cards_Opt = player.Mute_Events_Opt = true;
+  for (const char* name : names) sounds.PlayEffect(name);
+  EXPECT_EQ(device.played, entries) << "all are muted";
 }
 
 TEST_F(SoundsTest, EveryEffectHasItsWaveFile) {
@@ -106,17 +115,6 @@ TEST_F(SoundsTest, EveryEffectHasItsWaveFile) {
   ASSERT_NE(assets, nullptr);
   sounds.InitEffects(assets);
   for (const std::string& path : device.loaded) EXPECT_TRUE(FileExists(path)) << path;
-}
-
-TEST_F(SoundsTest, AMutedTurnDoesNotTakeABuffersTurn) {
-  sounds.InitEffects("");
-  sounds.setPlayer(&player);
-  sounds.PlayEffect("turn");
-  player.Mute_Cards_Opt = true;
-  sounds.PlayEffect("turn");
-  player.Mute_Cards_Opt = false;
-  sounds.PlayEffect("turn");
-  EXPECT_THAT(device.played, ElementsAre(1, 2));
 }
 
 TEST_F(SoundsTest, UnknownNamesPlayNothingAndABrokenWaveHarmsNoOther) {

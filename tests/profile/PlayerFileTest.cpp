@@ -126,6 +126,7 @@ TEST_F(PlayerFileTest, VersionsAreThreeDigits) {
 }
 
 TEST_F(PlayerFileTest, OldFilesKeepDefaultsForWhatTheyLackAndAreRewritten) {
+  // Which late fields a file of that version holds.
   for (const auto& [version, number, wins, arcadeDeck, minimize, speed, arcade, keys] :
        Rows<const char*, int, bool, bool, bool, bool, bool, bool>{
            {"1.0.0", 100, false, false, false, false, false, false},
