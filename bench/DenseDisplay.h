@@ -6,6 +6,7 @@
 #include <QApplication>
 
 #include "platform/Folders.h"
+#include "platform/QtOneThread.h"
 
 namespace kv::bench {
 
@@ -19,6 +20,7 @@ inline double HeapKb() {
 struct DenseDisplay {
   DenseDisplay() : application((Prepare(), argc), nullptr) {}
   static void Prepare() {
+    PaintOnOneThread();  // as the game does
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_SCALE_FACTOR", "2");
     qputenv("KV_ASSETS", QByteArray::fromStdString(ProgramFolder()));

@@ -25,6 +25,8 @@
 #include "platform/QtCaretRest.h"
 #include "platform/QtDialogs.h"
 #include "platform/QtFontSystem.h"
+#include "platform/QtOneThread.h"
+#include "platform/QtPropertyBag.h"
 #include "platform/QtScheduler.h"
 #include "platform/QtSignals.h"
 #include "platform/QtSizeFactor.h"
@@ -113,6 +115,7 @@ int main(int argc, char** argv) {
   }
 
   kv::QtThrift thrift;
+  kv::PaintOnOneThread();
   // On the other cores, while the toolkit starts.
   std::jthread fonts(kv::QtFontSystem::ReadSystemFonts);
   kv::PicturesAhead ahead(dataFolder + "/" + kv::kDataFileName, kStartPictures);
@@ -138,6 +141,9 @@ int main(int argc, char** argv) {
   for (const kv::DisplayFont& font : kv::kDisplayFonts) {
     kv::InstallFont(dataFolder + "/" + font.file, font.name, false, fontSystem, dialogs);
   }
+  // The toolkit lays out a text box's first line before anybody can tell it a font, and would look for a
+  // typeface of the system that no screen shows.
+  QApplication::setFont(kv::FontOf(QString::fromLatin1(kv::kDisplayFonts[1].name), 10, false));
   // A plain end of the event loop: asking every window first whether it may be closed would let one refuse.
   const auto quit = [] { QCoreApplication::exit(0); };
   kv::QtSizeFactor sizes;

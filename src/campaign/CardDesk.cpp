@@ -113,10 +113,11 @@ BankClick CardDesk::AddCard(const CardPlace& place) {
   while (slot <= kDeckSize && !deck_->Value(slot).empty()) ++slot;
   if (slot > kDeckSize) return BankClick::Ignored;
   deck_->setValue(slot, CollectionCode(place));
+  // With the count of before: what this click spends stays in sight.
+  if (DeckCount() == kDeckSize) YourDeck(CardView::Deck);
   ChangeCount(place, -1);
   // A spent card stays in sight, dimmed, until the deck is full: its neighbours keep their places meanwhile.
   if (cards_->Value(place.kind, place.value) == 0) State(place) = BankState::Disabled;
-  if (DeckCount() == kDeckSize) YourDeck(CardView::Deck);
   return BankClick::Added;
 }
 

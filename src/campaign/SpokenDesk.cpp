@@ -1,5 +1,6 @@
 #include "campaign/SpokenDesk.h"
 
+#include "campaign/WagerEntry.h"
 #include "cards/CardFaces.h"
 #include "cards/clsDeckArray.h"
 
@@ -17,6 +18,13 @@ std::string SpokenPick(CardView view, const TradeArea& shop) {
                      shop.amount + (buy ? " owned." : " left.");
   if (!shop.refusal.empty()) told += " Refused: " + std::string(shop.refusal) + ".";
   return told;
+}
+
+std::string SpokenQuestion(const WagerEntry& entry) {
+  std::string told = "How much do you wager? " + entry.CreditsText() + ".";
+  if (const std::string info = entry.InfoText(); !info.empty()) told += " " + info + ".";
+  if (!entry.boxEnabled()) return told + " " + entry.ButtonTip();
+  return entry.text().empty() ? told : told + " " + entry.text() + " is proposed.";
 }
 
 std::string SpokenChange(const CardCode& card, bool added, int cards) {

@@ -58,6 +58,7 @@ void frmCards::Activate() {
 void frmCards::Shown() {
   if (ctlWager_->isVisible()) ctlWager_->gettxtWager().setFocus();
   round_.Open();
+  if (!closing() && ctlWager_->isVisible()) Announce(SpokenQuestion(round_.entry()));
 }
 
 void frmCards::Closing() {

@@ -31,7 +31,7 @@ void frmCardsTrade::Show(const TradeArea& shop) {
     part->setVisible(shop.shown);
   }
   ctlTrade_->setVisible(shop.shown && !shop.card.empty());
-  if (!shop.card.empty()) ctlTrade_->setCard(shop.card.text());
+  ctlTrade_->setCard(shop.card.text());
   lblBuyorSell_->setText(ToQString(shop.priceHeader));
   ShowValue(*lblCost_, u"Price", QString::fromStdString(shop.price), SpokenAmount(shop.price));
   lblAmountHeader_->setText(ToQString(shop.amountHeader));

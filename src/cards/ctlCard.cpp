@@ -140,8 +140,10 @@ bool ctlCard::Ember() const {
 void ctlCard::Refresh(bool dim, bool reloadPicture) {
   cardValue = static_cast<std::int16_t>(code_.cardValue());
   const QString spoken = QString::fromStdString(SpokenCard(code_));
-  setAccessibleName(spoken.isEmpty() || place_.isEmpty() ? spoken + place_
-                                                         : spoken + QStringLiteral(", ") + place_);
+  const QString name =
+      spoken.isEmpty() || place_.isEmpty() ? spoken + place_ : spoken + QStringLiteral(", ") + place_;
+  // A screen of many cards would tell a screen reader more at once than it listens to.
+  if (name != accessibleName()) setAccessibleName(name);
   update();
   if (code_.type() == CardType::Placeholder) {
     cardValue = 0;

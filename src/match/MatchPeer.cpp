@@ -128,6 +128,7 @@ bool MatchPeer::BookDecision() {
 }
 
 void MatchPeer::WinByItsLeaving() {
+  engine_.StopMatch();
   engine_.teller_.MatchDecided(Seat::Player);
   engine_.book_.Result(Seat::Player);
 }

@@ -97,6 +97,7 @@ void MatchPerson::AskForfeit() {
 }
 
 void MatchPerson::LoseByLeaving() {
+  engine_.StopMatch();
   engine_.teller_.Tell(event::Forfeited{Seat::Player});
   engine_.teller_.MatchDecided(Seat::Opponent);
   engine_.book_.Result(Seat::Opponent);

@@ -158,8 +158,9 @@ void frmGameSide::RepaintLight() {
 
 void frmGameSide::TellLight(bool on) {
   const QString whose = seat_ == Seat::Player ? QStringLiteral("Your") : QStringLiteral("Opponent's");
-  light_->setAccessibleName(whose + QStringLiteral(" turn light: ") +
-                            (on ? QStringLiteral("on") : QStringLiteral("off")));
+  const QString name =
+      whose + QStringLiteral(" turn light: ") + (on ? QStringLiteral("on") : QStringLiteral("off"));
+  if (name != light_->accessibleName()) light_->setAccessibleName(name);
 }
 
 }  // namespace kv

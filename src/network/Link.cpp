@@ -18,6 +18,10 @@ constexpr int kMostLeaveTicks = 20;  // a second
 constexpr std::size_t kMostWaiting = 1000;  // messages: a peer cannot be that far ahead of the pump
 constexpr const char* kQuit = "[Quit]";
 
+bool IsQuit(const std::string& entry) {
+  return entry == std::string(kQuit) + kSeparatorByte;
+}
+
 }  // namespace
 
 Link::Link(Scheduler& scheduler, TcpSocket& socket, LinkEvents events)
@@ -62,6 +66,7 @@ void Link::Leave() {
     return;
   }
   QuitLink();
+  tmrNetTurn_->setEnabled(false);
   leaveTicks_ = 0;
   tmrLeave_->setEnabled(true);
 }
@@ -73,8 +78,10 @@ void Link::LeaveTick() {
 }
 
 void Link::CloseConnection() {
-  // A farewell that still waits for its tick goes out before the door is shut.
-  if (tmrLeave_->Enabled() && connected() && !lstSend_.empty()) tcpSock_.SendData(lstSend_.front());
+  // A farewell that still waits for its tick goes out before the door is shut; nothing follows one that has.
+  if (tmrLeave_->Enabled() && connected() && !lstSend_.empty() && IsQuit(lstSend_.front())) {
+    tcpSock_.SendData(lstSend_.front());
+  }
   ++connection_;
   tcpSock_.Close();
   for (const auto* timer : {&tmrNet_, &tmrNetTimeOut_, &tmrNetTurn_, &tmrLeave_}) (*timer)->setEnabled(false);
@@ -138,7 +145,7 @@ void Link::SendNext() {
   const std::string entry = std::move(lstSend_.front());
   lstSend_.pop_front();
   tcpSock_.SendData(entry);
-  if (entry != std::string(kQuit) + kSeparatorByte) return;
+  if (!IsQuit(entry)) return;
   lstSend_.clear();
   lstReceive_.clear();
   tmrNet_->setEnabled(false);

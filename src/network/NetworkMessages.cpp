@@ -111,8 +111,8 @@ bool NetworkGame::Handle(const msg::Wage& wage) {
 template <>
 bool NetworkGame::Handle(const msg::Acpt&) {
   if (!side_.cards->awaitsAnswer()) return false;
-  AddChatLine("[" + side_.game->OppName + " has agreed to your wager.]");
   side_.cards->Accepted();
+  AddChatLine("[" + side_.game->OppName + " has agreed to your wager.]");
   return true;
 }
 

@@ -71,7 +71,9 @@ void PeerPlace::OwnForfeit(Place place) {
 
 void PeerPlace::OwnModeChange() {
   // It may have gone ahead by both Starts already; if so, it comes back when it hears of the change.
-  if (at_ != At::Lobby) at_ = At::Returning;
+  // A Start that it has only announced is cancelled as well: the next one is announced anew.
+  if (at_ != At::Lobby || startSaid_) at_ = At::Returning;
+  startSaid_ = false;
 }
 
 // --- The peer --------------------------------------------------------------------------------------------

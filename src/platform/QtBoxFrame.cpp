@@ -7,6 +7,8 @@
 #include <QPainterPath>
 #include <QWindow>
 
+#include "platform/QtPropertyBag.h"
+
 namespace kv {
 namespace {
 
@@ -17,7 +19,7 @@ constexpr int kCorners = 10;
 constexpr int kSidesOfTitle = 24;
 
 QFont TitleFont() {
-  QFont font(QStringLiteral("BankGothic Md BT"));
+  QFont font = FontOf(QStringLiteral("BankGothic Md BT"));
   font.setPixelSize(14);
   return font;
 }

@@ -4,6 +4,8 @@
 #include <QPainterPath>
 #include <QString>
 
+#include "platform/QtPropertyBag.h"
+
 namespace kv {
 namespace {
 
@@ -55,7 +57,7 @@ QPixmap DialogSign(DialogIcon icon, qreal ratio) {
   QColor inner = sign.colour;
   inner.setAlpha(90);
   painter.strokePath(Lozenge(5), QPen(inner, 1));
-  QFont font(QStringLiteral("BankGothic Md BT"));
+  QFont font = FontOf(QStringLiteral("BankGothic Md BT"));
   font.setPixelSize(kLetter);
   font.setBold(true);
   painter.setFont(font);

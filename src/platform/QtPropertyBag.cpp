@@ -11,8 +11,14 @@ constexpr double kPixelsPerPoint = 96.0 / 72.0;
 
 }  // namespace
 
+QFont FontOf(const QString& family) {
+  // By the name that the file has: for one that it only stands in for the toolkit would sort all of the
+  // system's typefaces first.
+  return {QFont::substitute(family)};
+}
+
 QFont FontOf(const QString& family, double points, bool bold) {
-  QFont font(family);
+  QFont font = FontOf(family);
   font.setPixelSize(std::max(1, static_cast<int>(std::lround(points * kPixelsPerPoint))));
   font.setBold(bold);
   return font;
@@ -55,7 +61,7 @@ QFont PropertyBag::font(QStringView key, const QFont& def) const {
   QFont font = def;
   const double points = parts.Find(u"size").toDouble();
   if (points > 0) font = FontOf(def.family(), points, def.bold());
-  font.setFamily(parts.text(u"family", def.family()));
+  font.setFamily(QFont::substitute(parts.text(u"family", def.family())));
   font.setBold(parts.flag(u"bold", def.bold()));
   return font;
 }

@@ -29,6 +29,9 @@ class PropertyBag {
   QJsonObject object_;
 };
 
+/// The typeface that the layouts call `family`, at the toolkit's size.
+[[nodiscard]] QFont FontOf(const QString& family);
+
 /// The font of the layouts' sizes: points of 96 to the inch, so that a layout looks the same on every
 /// display.
 [[nodiscard]] QFont FontOf(const QString& family, double points, bool bold);

@@ -87,14 +87,14 @@ void Effects::PulseStep() {
     return;
   }
   int p = std::stoi(tmrCardPulse_->Tag);
-  pulsing_->Alpha(pictures_.picHighlight, std::abs(p));
+  pulsing_->Alpha(pictures_.picHighlight(), std::abs(p));
   if (p > kPulseTop || (p > kPulseBottom && p < 0)) p = -p;
   tmrCardPulse_->Tag = std::to_string(p + kPulseStep);
 }
 
 void Effects::StopCardPulse() {
   const bool gone = pulsingIsWidget_ && !pulsingWidget_;
-  if (pulsing_ != nullptr && !gone && pulsing_->Enabled()) pulsing_->Alpha(pictures_.picHighlight, 0);
+  if (pulsing_ != nullptr && !gone && pulsing_->Enabled()) pulsing_->Alpha(pictures_.picHighlight(), 0);
   pulsing_ = nullptr;
   pulsingWidget_ = nullptr;
   pulsingIsWidget_ = false;

@@ -61,9 +61,13 @@ Picture Dim() {
 }  // namespace
 
 GlobalPictures::GlobalPictures()
-    : picHighlight(Highlight()),
-      picDim(Dim()),
+    : picDim(Dim()),
       imgMaskSlate(Mask(kSlateCard, kSlateCorner)),
       imgMaskEmber(Mask(kEmberCard, kEmberCorner)) {}
+
+const Picture& GlobalPictures::picHighlight() const {
+  if (picHighlight_.empty()) picHighlight_ = Highlight();
+  return picHighlight_;
+}
 
 }  // namespace kv

@@ -29,7 +29,7 @@ FlyingPicture::FlyingPicture(Flight flight)
     : flight_(std::move(flight)),
       frontShade_(ShadeOf(flight_.front)),
       backShade_(flight_.back.isNull() ? QImage() : ShadeOf(flight_.back)),
-      size_(flight_.front.deviceIndependentSize()) {}
+      size_(flight_.size.isEmpty() ? flight_.front.deviceIndependentSize() : flight_.size) {}
 
 double FlyingPicture::Height(double way) const {
   return std::sin(std::numbers::pi * std::clamp(way, 0.0, 1.0));

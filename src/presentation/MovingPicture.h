@@ -15,6 +15,7 @@ namespace kv {
 struct Flight {
   QImage front{};
   QImage back{};  // not null: it is seen first, and the picture turns around its axis on the way
+  QSizeF size{};  // where it lands; that of the front if none is given
   QPointF from{};
   QPointF to{};
   double fromScale = 1;

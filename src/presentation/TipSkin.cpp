@@ -3,6 +3,8 @@
 #include <QPalette>
 #include <QToolTip>
 
+#include "platform/QtPropertyBag.h"
+
 namespace kv {
 
 void SkinTips(std::string_view style) {
@@ -11,7 +13,7 @@ void SkinTips(std::string_view style) {
   palette.setColor(QPalette::ToolTipBase, ember ? QColor(36, 25, 10) : QColor(4, 22, 40));
   palette.setColor(QPalette::ToolTipText, ember ? QColor(245, 235, 205) : QColor(230, 245, 255));
   QToolTip::setPalette(palette);
-  QFont font(QStringLiteral("BankGothic Lt BT"));
+  QFont font = FontOf(QStringLiteral("BankGothic Lt BT"));
   font.setPixelSize(13);
   QToolTip::setFont(font);
 }

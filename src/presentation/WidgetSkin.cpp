@@ -60,6 +60,7 @@ struct Look {
   }
   [[nodiscard]] QString List(const QString& type) const {
     return Box(type) + QStringLiteral(
+                           "%1{activate-on-singleclick:0}"
                            "%1::item{padding:0 4px;border:0;%5}"
                            "%1::item:selected{background:%2;color:%3}"
                            "%1::item:selected:disabled{background:transparent;color:%4}")

@@ -91,11 +91,10 @@ ExampleScene::ExampleScene(const HelpExample& example, SmallCards& cards, const 
 void ExampleScene::FlyFrom(const QImage& card, QPointF place) {
   const QSizeF small = played_.deviceIndependentSize();
   const double scale = card.deviceIndependentSize().height() / small.height();
-  QImage front = card;
-  front.setDevicePixelRatio(card.devicePixelRatio() * scale);  // as sharp as where it begins
   const QPointF grown(small.width() * (scale - 1) / 2, small.height() * (scale - 1) / 2);
-  flight_.emplace(Flight{.front = turns_ ? played_ : front,
-                         .back = turns_ ? front : QImage(),
+  flight_.emplace(Flight{.front = turns_ ? played_ : card,  // as sharp as where it begins
+                         .back = turns_ ? card : QImage(),
+                         .size = small,
                          .from = place + grown,
                          .to = playedPlace_,
                          .fromScale = scale,

@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QToolTip>
 
 #include "presentation/WidgetSkin.h"
 #include "screens/NameValidator.h"
@@ -55,7 +56,13 @@ void frmOptions::BuildPlayer() {
                    [this] { services().navigator.OpenPortraits(*this); });
   txtName_ = new QLineEdit(frmeOptions_);
   txtName_->setMaxLength(kNameLimit);
-  txtName_->setValidator(new NameValidator(txtName_));
+  auto* validator = new NameValidator(txtName_);
+  validator->Refused = [this](const QString& letters) {
+    const QString told = QStringLiteral("Cannot be stored: %1").arg(letters);
+    QToolTip::showText(txtName_->mapToGlobal(QPoint(0, txtName_->height())), told, txtName_);
+    Announce(told.toStdString(), Urgency::Assertive);
+  };
+  txtName_->setValidator(validator);
   SkinWidget(*txtName_, layout().bag(u"txtName"));
   layout().Place(u"txtName", *txtName_);
   QObject::connect(txtName_, &QLineEdit::textChanged, this, [this] { cmdOK_->setEnabled(NameGiven()); });

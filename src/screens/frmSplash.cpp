@@ -185,11 +185,11 @@ void frmSplash::keyPressEvent(QKeyEvent* event) {
 }
 
 void frmSplash::mousePressEvent(QMouseEvent* event) {
-  drag_.Press(*this, *event);
+  drag_.Press(*window(), *event);
 }
 
 void frmSplash::mouseMoveEvent(QMouseEvent* event) {
-  drag_.Move(*this, *event);
+  drag_.Move(*window(), *event);
   title_->Stir();
   Screen::mouseMoveEvent(event);
 }

@@ -30,6 +30,18 @@ class StageTest : public testing::Test, protected ProgramStage {
   QtSizeFactor factor_;
 };
 
+TEST_F(StageTest, TheStartScreensGroundMovesTheWindowAndNotWhatIsInIt) {
+  Start();
+  test::ScreenHand hand(*program->screen());
+  const QPoint inside = program->screen()->pos();
+  const QPoint outside = stage().pos();
+  hand.Press({5, 5});
+  hand.MoveTo({65, 35});
+  EXPECT_EQ(program->screen()->pos(), inside);
+  EXPECT_EQ(stage().pos(), outside + QPoint(60, 30));
+  hand.Release({5, 5});
+}
+
 TEST_F(StageTest, KeysChangeTheSizeOfEverythingAtOnceAndItIsRemembered) {
   Play("Slate");
   const int first = stage().ShownPercent();

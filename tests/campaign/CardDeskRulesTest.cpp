@@ -73,6 +73,7 @@ TEST_F(CardDeskRulesTest, OnlyAFullDeckGoesOn) {
   EXPECT_EQ(desk.ClickBank({1, 2}), BankClick::Ignored);
   EXPECT_EQ(desk.ClickBank({1, 3}), BankClick::Added);
   EXPECT_EQ(Shown(desk, {1, 2}), "hidden");
+  EXPECT_EQ(Shown(desk, {1, 3}), "dim") << "spent by the click that filled the deck";
   EXPECT_TRUE(desk.Buttons().buy && desk.Buttons().sell && desk.Buttons().next);
   EXPECT_EQ(*game.DeckRef, *player.Deck);
 }

@@ -201,7 +201,9 @@ TEST_P(CardsScreenTest, TheTitleBarAsksOnlyWhenAMatchIsAtStake) {
 }
 
 TEST_P(CardsScreenTest, WhatTheDeskDoesIsTold) {
-  OpenAtStake();
+  Open(kModeCampaign);
+  EXPECT_EQ(announcer.Last(), "How much do you wager? Credits: 700. Min Wager: 0, Max Wager: 50.");
+  SetStake("20");
   EXPECT_EQ(announcer.Last(), "Stake 20.");
   Click(screen->ctlDeck(1));
   EXPECT_EQ(announcer.Last(), "plus 1 removed. 9 of 10 cards.");

@@ -128,11 +128,15 @@ TEST_F(LinkTest, QuitIsTheLastWord) {
 
 TEST_F(LinkTest, WhoLeavesWaitsForThePeerASecondAndIsToldNothing) {
   for (const bool gone : {false, true}) {
+    heard.clear();
+    link.StartTurnRepeat();
     link.Leave();
     if (gone) peer.Close();
     clock.Advance(gone ? 200 : 900);
     EXPECT_EQ(link.connected(), !gone);
+    link.NetSend("[Card]no1");  // of a match that is hidden and goes on
     clock.Advance(200);
+    EXPECT_EQ(heard, gone ? "" : "[Quit]\x87");
     EXPECT_EQ(clock.RunningTimers(), 0);
     EXPECT_EQ(log.back(), "greet");
     Reconnect();

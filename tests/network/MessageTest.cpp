@@ -208,6 +208,14 @@ TEST(PeerPlace, WhatWasSaidBeforeAReturnIsLate) {
   EXPECT_TRUE(peer.Ready(Place::Lobby));
   peer.OwnModeChange();
   EXPECT_FALSE(peer.Ready(Place::Lobby)) << "a mode change takes both Starts back";
+  peer.InLobby();
+  peer.SaysStart();
+  peer.OwnModeChange();
+  peer.Plays(true);
+  EXPECT_FALSE(peer.Ready(Place::Lobby)) << "also one that had only been announced";
+  peer.SaysStart();
+  peer.Plays(true);
+  EXPECT_TRUE(peer.Ready(Place::Lobby));
 }
 
 TEST(PeerPlace, AnEndOutOfOrderWaitsForTheRightPlay) {

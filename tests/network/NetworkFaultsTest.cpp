@@ -135,6 +135,18 @@ TEST_F(CrossingTest, BothBooksFitWhenTheLastMoveMeetsAFarewell) {
   }
 }
 
+/// The match of who quits is hidden and no longer plays: what its last move had decided comes to nothing.
+TEST_F(CrossingTest, AMatchThatWasLostByQuittingIsNotWonBehindTheFarewell) {
+  for (NetworkPlayer* each : {&host, &guest}) Renew(*each);
+  ToTheLastMove(true);
+  When([this] { return Decided(host) && Unsent(host, "[Turn]"); }, [this] { host.Say("/quit"); });
+  host.match()->engine().person().Stand();
+  Pass(2400);
+  EXPECT_EQ(host.sound.played.back(), "losematch");
+  EXPECT_EQ(Account(host), kLost);
+  EXPECT_EQ(Account(guest), kWon);
+}
+
 /// The host is at the table already, and gives up while the guest still chooses its cards.
 TEST_F(CrossingTest, WhoGivesUpBeforeThePeerIsAtTheTableHasLost) {
   for (const bool arcade : {false, true}) {

@@ -181,7 +181,7 @@ TEST_F(EffectsTest, StoppingAllForgetsTheHighlightToo) {
 
 TEST(GlobalPicturesTest, HaveTheirSizesAndTheMasksTheirCorners) {
   const GlobalPictures pictures;
-  for (const Picture& p : {pictures.picHighlight, pictures.picDim, pictures.imgMaskEmber}) {
+  for (const Picture& p : {pictures.picHighlight(), pictures.picDim, pictures.imgMaskEmber}) {
     EXPECT_EQ(p.image()->deviceIndependentSize(), QSizeF(83, 102));
   }
   EXPECT_EQ(pictures.imgMaskSlate.image()->deviceIndependentSize(), QSizeF(48, 64));

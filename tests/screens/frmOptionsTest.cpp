@@ -164,6 +164,9 @@ TEST(frmOptionsTest, TheNameLosesLeadingBlanksAndMustNotBeEmpty) {
   QTest::keyClicks(&name, "Ann of the green gables ");
   EXPECT_EQ(name.text().size(), 20);
   name.setText("Ann  ");
+  name.insert(QString::fromUtf8("Ł"));
+  EXPECT_EQ(name.text(), "Ann  ");
+  EXPECT_EQ(stage.announcer.Last(), "Cannot be stored: Ł");
   stage.player.FileName = "/nowhere/at/all.vnt";
   stage.Click("cmdOK");
   EXPECT_EQ(stage.player.Name, "Ann");

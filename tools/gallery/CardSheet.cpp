@@ -42,7 +42,7 @@ void CardSheet::AddRow(const char* title, int row) {
     card->setCard(kCodes.at(i));
     card->move(kGap + index % kPerLine * cell.width(), top + kRowTitle + index / kPerLine * cell.height());
     if (row == kDisabled) card->setEnabled(false);
-    if (row == kPulsing) card->Alpha(globals_.pictures.picHighlight, kPulse);
+    if (row == kPulsing) card->Alpha(globals_.pictures.picHighlight(), kPulse);
     if (row == kCounted) {
       card->setCount(std::to_string(index));
       card->setShow_Count(true);

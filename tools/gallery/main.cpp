@@ -10,6 +10,7 @@
 #include "Gallery.h"
 #include "platform/Folders.h"
 #include "platform/QtFontSystem.h"
+#include "platform/QtPropertyBag.h"
 #include "platform/StandardOptions.h"
 #include "presentation/Fonts.h"
 
@@ -79,6 +80,8 @@ int main(int argc, char** argv) {
   for (const kv::DisplayFont& font : kv::kDisplayFonts) {
     kv::InstallFont(programFolder + "/" + font.file, font.name, false, fonts, dialogs);
   }
+  QApplication::setFont(
+      kv::FontOf(QString::fromLatin1(kv::kDisplayFonts[1].name), 10, false));  // as the game
   int result = 0;
   for (const char* style : {"Slate", "Ember"}) {
     result = std::max(result, RenderStyle(kv::Gallery(folder, style, scale), contrast));
