@@ -2,26 +2,28 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
-#include <QCheckBox>
-#include <QLabel>
 #include <QScreen>
-#include <filesystem>
-#include <set>
 
 #include "app/AccessibleRoles.h"
 #include "history/MatchReplay.h"
 #include "platform/Files.h"
 #include "support/ProgramStage.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
-class ProgramTest : public testing::Test, protected test::ProgramStage {
+class ProgramTest : public testing::Test, protected ProgramStage {
  protected:
   [[nodiscard]] frmGame& Match() { return *program->screenAs<frmGame>(); }
-  void EnterArcade(int stake) {
+  void EnterArcade(int stake, bool toMatch = false) {
     Click("cmdArcade");
     SettleStake(stake);
+    if (toMatch) ToMatch();
+  }
+  /// From the card screen, where the stake is settled, to the player's first turn.
+  void ToMatch() {
+    Click("cmdContinue");
+    Settle(6000);
   }
   /// On the card screen: sets the stake; the stored deck is taken as it is.
   void SettleStake(int stake) {
@@ -39,59 +41,23 @@ class ProgramTest : public testing::Test, protected test::ProgramStage {
   }
 };
 
-TEST_F(ProgramTest, ANewcomerMakesAPlayerAndComesBackWithThePin) {
-  Start();
-  EXPECT_EQ(ScreenName(), "frmSplash");
-  EXPECT_FALSE(Control<QWidget>("cmdContinue").isEnabled());
-  Click("cmdCreate");
-  Control<QLineEdit>("txtPlayer").setText(QStringLiteral("Bob"));
-  Click("cmdNewName");
-  EXPECT_EQ(Control<QLineEdit>("txtName").text(), QStringLiteral("bob"));
-  Control<QLineEdit>("txtNewPIN").setText(QStringLiteral("12"));
-  Click("cmdNewFile");
-  Click("cmdContinue");
-  Settle(1000);
-  EXPECT_EQ(ScreenName(), "frmMenu");
-  EXPECT_EQ(program->player()->Name, "Bob");
-  EXPECT_TRUE(dialogs.boxes.empty());
-
-  Start();  // another day
-  Control<QLineEdit>("txtPIN").setText(QStringLiteral("13"));
-  Click("cmdContinue");
-  ASSERT_EQ(dialogs.boxes.size(), 1u);
-  EXPECT_EQ(dialogs.boxes[0].text, "Player file corrupted, or incorrect PIN");
-  EXPECT_EQ(ScreenName(), "frmSplash");
-  EXPECT_EQ(program->player(), nullptr);
-  Control<QLineEdit>("txtPIN").setText(QStringLiteral("12"));
-  Click("cmdContinue");
-  Settle(1000);
-  EXPECT_EQ(ScreenName(), "frmMenu");
-}
-
 TEST_F(ProgramTest, TheStyleChosenInTheOptionsIsThatOfTheNextScreens) {
-  MakePlayer("ann");
-  Start();
-  EnterMenu("ann");
+  EnterMenuAs("ann");
   Click("cmdOptions");
   EXPECT_EQ(ScreenName(), "frmOptions");
   Control<QListWidget>("lstInterface").setCurrentRow(1);
   Click("cmdOK");
   EXPECT_EQ(Stored("ann")->Interface_Opt, "Ember");
-  EnterArcade(10);
-  Click("cmdContinue");
-  Settle(6000);
+  EnterArcade(10, true);
   EXPECT_EQ(Match().StyleIndex(), 1);
   EXPECT_EQ(Match().hand().ctlYourDeck(1).size(), QSize(83, 102));
 }
 
 TEST_F(ProgramTest, AnArcadeRunIsPlayedForItsCreditsAndEndsInTheMenu) {
-  MakePlayer("ann", [](clsPlayer& player) { player.Arcade_Best = 90; });
-  Start();
-  EnterMenu("ann");
+  EnterMenuAs("ann", [](clsPlayer& player) { player.Arcade_Best = 90; });
   EnterArcade(30);
   EXPECT_EQ(program->game()->Wager, 30);
-  Click("cmdContinue");
-  Settle(6000);
+  ToMatch();
   LoseMatch();
   EXPECT_EQ(ScreenName(), "frmCards");
   EXPECT_EQ(program->game()->CreditsRef->Value, 70);
@@ -110,13 +76,10 @@ TEST_F(ProgramTest, AnArcadeRunIsPlayedForItsCreditsAndEndsInTheMenu) {
 }
 
 TEST_F(ProgramTest, EveryMatchIsKeptAlsoOneThatIsLeft) {
-  MakePlayer("ann");
-  Start();
-  EnterMenu("ann");
+  EnterMenuAs("ann");
   EnterArcade(30);
   EXPECT_FALSE(FileExists(folder / "ann.history.sqlite"));
-  Click("cmdContinue");
-  Settle(6000);
+  ToMatch();
   LoseMatch();
   auto lines = program->history()->Lines();
   ASSERT_EQ(lines.size(), 1u);
@@ -129,8 +92,7 @@ TEST_F(ProgramTest, EveryMatchIsKeptAlsoOneThatIsLeft) {
   EXPECT_EQ(lines[0].opponent, program->game()->OppName);
   EXPECT_TRUE(PlayAgain(*program->history()->Load(lines[0].id)));
   SettleStake(20);
-  Click("cmdContinue");
-  Settle(6000);
+  ToMatch();
   program->EndAtOnce();
   program.reset();
   lines = HistoryFile(folder / "ann.history.sqlite").Lines();
@@ -159,9 +121,7 @@ TEST_F(ProgramTest, AHistoryThatCannotBeWrittenCostsNoMatchAndIsToldOnce) {
   std::filesystem::create_directory(folder / "ann.history.sqlite");
   Start();
   EnterMenu("ann");
-  EnterArcade(30);
-  Click("cmdContinue");
-  Settle(6000);
+  EnterArcade(30, true);
   LoseMatch();
   EXPECT_EQ(dialogs.boxes.size(), 1u) << "the question before the forfeit";
   EXPECT_EQ(program->game()->CreditsRef->Value, 70);
@@ -172,17 +132,14 @@ TEST_F(ProgramTest, AHistoryThatCannotBeWrittenCostsNoMatchAndIsToldOnce) {
 }
 
 TEST_F(ProgramTest, ACampaignMatchIsBookedInAdvanceAndOnce) {
-  MakePlayer("ann");
-  Start();
-  EnterMenu("ann");
+  EnterMenuAs("ann");
   Click("cmdCampaign");
   EXPECT_EQ(ScreenName(), "frmCampaign");
   Click("cmdOpp0");
   SettleStake(10);
   EXPECT_EQ(Stored("ann")->Losses->Value, 1) << "in advance, on disk";
   EXPECT_EQ(Stored("ann")->Credits->Value, 100);
-  Click("cmdContinue");
-  Settle(6000);
+  ToMatch();
   EXPECT_EQ(Stored("ann")->Credits->Value, 90);
   LoseMatch();
   EXPECT_EQ(ScreenName(), "frmCampaign");
@@ -191,49 +148,9 @@ TEST_F(ProgramTest, ACampaignMatchIsBookedInAdvanceAndOnce) {
   EXPECT_EQ(Stored("ann")->Wins->Value, 0);
 }
 
-TEST_F(ProgramTest, EveryControlOfEveryScreenHasANameAndARole) {
-  InstallAccessibleRoles();
-  MakePlayer("ann");
-  Start();
-  const auto check = [this] {
-    for (QWidget* widget : program->screen()->findChildren<QWidget*>()) {
-      if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus) continue;
-      const QAccessibleInterface* control = QAccessible::queryAccessibleInterface(widget);
-      ASSERT_NE(control, nullptr);
-      EXPECT_FALSE(control->text(QAccessible::Name).isEmpty())
-          << ScreenName() << " " << widget->objectName().toStdString();
-      EXPECT_NE(control->role(), QAccessible::Client)
-          << ScreenName() << " " << widget->objectName().toStdString();
-    }
-  };
-  check();
-  EnterMenu("ann");
-  check();
-  Click("cmdOptions");
-  check();
-  Click("cmdCancel");
-  Click("cmdCampaign");
-  check();
-  Click("cmdOpp0");
-  check();
-  SettleStake(0);
-  check();
-  Click("cmdContinue");
-  Settle(6000);
-  check();
-  while (!Match().cmdTurn().Enabled()) Settle(1000);
-  QAccessibleInterface* card = QAccessible::queryAccessibleInterface(&Match().hand().ctlYourDeck(1));
-  const std::size_t cards = Match().engine().shown().Table(Seat::Player).size();
-  card->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-  QCoreApplication::processEvents();
-  EXPECT_EQ(Match().engine().shown().Table(Seat::Player).size(), cards + 1);
-}
-
 TEST_F(ProgramTest, APressByAScreenReaderDoesNotWaitForTheBoxThatItOpens) {
   InstallAccessibleRoles();
-  MakePlayer("ann");
-  Start();
-  EnterMenu("ann");
+  EnterMenuAs("ann");
   auto& button = Control<QWidget>("cmdPlayer");
   QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&button);
   dialogs.answers = {false};
@@ -249,22 +166,18 @@ TEST_F(ProgramTest, APressByAScreenReaderDoesNotWaitForTheBoxThatItOpens) {
 
 TEST_F(ProgramTest, TheWindowTheTitleBarAndTheStakeAreKnownForWhatTheyAre) {
   InstallAccessibleRoles();
-  MakePlayer("ann");
-  Start();
-  EnterMenu("ann");
+  EnterMenuAs("ann");
   Click("cmdArcade");
   const auto spoken = [](QWidget& widget) { return QAccessible::queryAccessibleInterface(&widget); };
   EXPECT_EQ(spoken(program->stage())->role(), QAccessible::Window);
   EXPECT_EQ(spoken(Control<QWidget>("ctlTitlebar"))->role(), QAccessible::TitleBar);
-  EXPECT_EQ(spoken(Control<QWidget>("ctlTitlebar"))->text(QAccessible::Name),
-            QStringLiteral("Arcade Match: Select Cards"));
-  EXPECT_EQ(spoken(Control<QWidget>("ctlWager"))->text(QAccessible::Name),
-            QStringLiteral("how much do you wager?"));
+  EXPECT_EQ(spoken(Control<QWidget>("ctlTitlebar"))->text(QAccessible::Name), "Arcade Match: Select Cards");
+  EXPECT_EQ(spoken(Control<QWidget>("ctlWager"))->text(QAccessible::Name), "how much do you wager?");
   QAccessibleInterface* fill = spoken(Control<QWidget>("lblWagerCredits"));
   EXPECT_EQ(fill->role(), QAccessible::Button);
   fill->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
   QCoreApplication::processEvents();
-  EXPECT_EQ(Control<QLineEdit>("txtWager").text(), QStringLiteral("100"));
+  EXPECT_EQ(Control<QLineEdit>("txtWager").text(), "100");
 }
 
 /// Clicks and keys anywhere at any time, on whatever screen is open: the program neither falls nor hangs, a
@@ -290,7 +203,7 @@ TEST_F(ProgramTest, SurvivesAMonkey) {
     seen.insert(ScreenName());
     if (ScreenName() == "frmSplash" && upTo(3) != 0) EnterMenu("ann");
     if (program->screen() != &screen) continue;
-    test::ScreenHand hand(screen);
+    ScreenHand hand(screen);
     dialogs.answers.assign(4, upTo(3) != 0);
     dialogs.texts.assign(4, upTo(2) == 0 ? std::optional<std::string>("7000") : std::nullopt);
     const QList<QWidget*> widgets = screen.findChildren<QWidget*>();
@@ -329,9 +242,7 @@ TEST_F(ProgramTest, SurvivesAMonkey) {
 }
 
 TEST_F(ProgramTest, EndsOnceAndLeavesNothingRunning) {
-  MakePlayer("ann");
-  Start();
-  EnterMenu("ann");
+  EnterMenuAs("ann");
   Control<ctlTitlebar>("ctlTitlebar").Quit();
   EXPECT_EQ(sound.Count("losematch"), 1);
   Settle(2000);
@@ -344,12 +255,8 @@ TEST_F(ProgramTest, EndsOnceAndLeavesNothingRunning) {
 
 TEST_F(ProgramTest, EndsAtOnceWithoutAQuestionAndKeepsTheRecord) {
   for (const bool boxOpen : {false, true}) {
-    MakePlayer("ann", [](clsPlayer& player) { player.Arcade_Best = 20; });
-    Start();
-    EnterMenu("ann");
-    EnterArcade(10);
-    Click("cmdContinue");
-    Settle(6000);
+    EnterMenuAs("ann", [](clsPlayer& player) { player.Arcade_Best = 20; });
+    EnterArcade(10, true);
     quits = 0;
     dialogs.boxes.clear();
     if (boxOpen) {
@@ -370,9 +277,7 @@ TEST_F(ProgramTest, EndsAtOnceWithoutAQuestionAndKeepsTheRecord) {
 }
 
 TEST_F(ProgramTest, AFileThatCannotBeSavedHoldsUpNoEnd) {
-  MakePlayer("ann");
-  Start();
-  EnterMenu("ann");
+  EnterMenuAs("ann");
   EnterArcade(10);
   std::filesystem::remove_all(folder.path());
   program->EndAtOnce();
@@ -410,17 +315,15 @@ TEST_F(ProgramTest, ADoubleClickEndsWithTheScreenThatItOpens) {
       const auto* widget = qobject_cast<QWidget*>(watched);
       const bool press =
           event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
-      if (press && widget != nullptr && widget->objectName() == QStringLiteral("frmOptions")) ++count;
+      if (press && widget != nullptr && widget->objectName() == "frmOptions") ++count;
       return false;
     }
     int count = 0;
   };
-  MakePlayer("ann");
-  Start();
-  EnterMenu("ann");
+  EnterMenuAs("ann");
   Presses presses;
   QCoreApplication::instance()->installEventFilter(&presses);
-  test::ScreenHand(*program->screen()).DoubleClick(Control<QWidget>("cmdOptions"));
+  ScreenHand(*program->screen()).DoubleClick(Control<QWidget>("cmdOptions"));
   ASSERT_EQ(ScreenName(), "frmOptions");
   EXPECT_EQ(presses.count, 0);
   const QPoint empty(3, 300);
@@ -429,12 +332,8 @@ TEST_F(ProgramTest, ADoubleClickEndsWithTheScreenThatItOpens) {
 }
 
 TEST_F(ProgramTest, EndsInTheMiddleOfAPause) {
-  MakePlayer("ann");
-  Start();
-  EnterMenu("ann");
-  EnterArcade(10);
-  Click("cmdContinue");
-  Settle(6000);
+  EnterMenuAs("ann");
+  EnterArcade(10, true);
   dialogs.answers = {true};
   scheduler.At(200, [this] { program->screen()->LeaveProgram(); });
   Match().engine().person().EndTurn();
@@ -444,4 +343,4 @@ TEST_F(ProgramTest, EndsInTheMiddleOfAPause) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

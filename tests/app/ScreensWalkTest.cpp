@@ -2,15 +2,11 @@
 // open or a pause is under way. Nothing may be left running, and the player's file must stay loadable.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "support/ProgramStage.h"
 #include "support/SampleMatch.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
-
-using test::ProgramStage;
 
 struct Walk {
   const char* screen;
@@ -29,42 +25,38 @@ void OpenCards(ProgramStage& stage) {
   Set(stage, "txtWager", "10");
   stage.Click("cmdWager");
 }
-/// The screen that this button of the record screen opens for a match of the past.
-void OpenPast(ProgramStage& stage, const char* button) {
-  HistoryFile(HistoryFile::PathOf(stage.folder / "ann.vnt")).Store(test::SampleMatch(3));
-  stage.Click("cmdRecord");
-  stage.Click(button);
+using Way = std::function<void(ProgramStage&)>;
+
+/// Presses the buttons one after the other.
+Way Press(std::vector<const char*> buttons) {
+  return [buttons](ProgramStage& stage) {
+    for (const char* button : buttons) stage.Click(button);
+  };
+}
+Way SetAndPress(const char* box, const char* text, const char* button) {
+  return [=](ProgramStage& stage) {
+    Set(stage, box, text);
+    stage.Click(button);
+  };
+}
+/// To what these buttons of the record screen lead to for a match of the past.
+Way PressForPast(std::vector<const char*> buttons) {
+  return [buttons](ProgramStage& stage) {
+    HistoryFile(HistoryFile::PathOf(stage.folder / "ann.vnt")).Store(SampleMatch(3));
+    Press({"cmdRecord"})(stage);
+    Press(buttons)(stage);
+  };
 }
 
 const Walk kWalks[] = {
-    {"frmSplash",
-     {},
-     [](ProgramStage& stage) {
-       Set(stage, "txtPIN", "77");
-       stage.Click("cmdContinue");
-     }},
-    {"frmMenu", [](ProgramStage&) {}, [](ProgramStage& stage) { stage.Click("cmdPlayer"); }},
-    {"frmOptions", [](ProgramStage& stage) { stage.Click("cmdOptions"); },
-     [](ProgramStage& stage) {
-       Set(stage, "txtPIN", "1");
-       stage.Click("cmdOK");
-     }},
-    {"frmPortraits",
-     [](ProgramStage& stage) {
-       stage.Click("cmdOptions");
-       stage.Click("imgYourPic");
-     },
-     {}},
-    {"frmRecord", [](ProgramStage& stage) { stage.Click("cmdRecord"); },
-     [](ProgramStage& stage) { stage.Click("cmdImport"); }},
-    {"frmReview", [](ProgramStage& stage) { OpenPast(stage, "cmdReview"); }, {}},
-    {"frmReplay",
-     [](ProgramStage& stage) {
-       OpenPast(stage, "cmdReplay");
-       stage.Click("cmdRun");
-     },
-     {}},
-    {"frmCampaign", [](ProgramStage& stage) { stage.Click("cmdCampaign"); }, {}},
+    {"frmSplash", {}, SetAndPress("txtPIN", "77", "cmdContinue")},
+    {"frmMenu", Press({}), Press({"cmdPlayer"})},
+    {"frmOptions", Press({"cmdOptions"}), SetAndPress("txtPIN", "1", "cmdOK")},
+    {"frmPortraits", Press({"cmdOptions", "imgYourPic"}), {}},
+    {"frmRecord", Press({"cmdRecord"}), Press({"cmdImport"})},
+    {"frmReview", PressForPast({"cmdReview"}), {}},
+    {"frmReplay", PressForPast({"cmdReplay", "cmdRun"}), {}},
+    {"frmCampaign", Press({"cmdCampaign"}), {}},
     {"frmCards", OpenCards, CloseByTitlebar},
     {"frmGame",
      [](ProgramStage& stage) {
@@ -140,8 +132,7 @@ TEST_P(ScreensWalkTest, ClosesInTheMiddleOfAPause) {
     if (auto* match = stage.program->screenAs<frmGame>()) {
       match->engine().person().EndTurn();
     } else {
-      Set(stage, "txtPIN", "1");
-      stage.Click("lblPINReveal");
+      SetAndPress("txtPIN", "1", "lblPINReveal")(stage);
     }
     ExpectEnded(stage);
   }
@@ -151,4 +142,4 @@ INSTANTIATE_TEST_SUITE_P(Styles, ScreensWalkTest, testing::Values("Slate", "Embe
                          [](const auto& style) { return std::string(style.param); });
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -1,15 +1,14 @@
 // The window that holds the screens: its size, its place, and what of them is remembered.
 #include <gtest/gtest.h>
 
-#include <QGuiApplication>
 #include <QScreen>
 
 #include "support/ProgramStage.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
-class StageTest : public testing::Test, protected test::ProgramStage {
+class StageTest : public testing::Test, protected ProgramStage {
  protected:
   StageTest() { sizes = &factor_; }
   ~StageTest() override {
@@ -17,12 +16,10 @@ class StageTest : public testing::Test, protected test::ProgramStage {
     factor_.Set(1);
   }
   void Play(const char* style) {
-    MakePlayer("ann", [&](clsPlayer& player) { player.Interface_Opt = style; });
-    Start();
-    EnterMenu("ann");
+    EnterMenuAs("ann", [&](clsPlayer& player) { player.Interface_Opt = style; });
   }
   void Press(Qt::Key key, Qt::KeyboardModifiers held) {
-    test::ScreenHand(*program->screen()).Key(key, held);
+    ScreenHand(*program->screen()).Key(key, held);
     Settle(200);
   }
   [[nodiscard]] Stage& stage() { return program->stage(); }
@@ -135,4 +132,4 @@ TEST_F(StageTest, PicturesBecomeFinerInTheirPlaces) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

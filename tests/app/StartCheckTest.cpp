@@ -5,10 +5,11 @@
 #include "app/SingleInstance.h"
 #include "app/StartCheck.h"
 #include "presentation/PictureSizes.h"
+#include "support/Rows.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -33,23 +34,20 @@ struct StartCheck : ::testing::Test {
   }
   bool Check() { return CheckProgramFiles(program.path(), working.path(), dialogs); }
 
-  test::TempFolder program;
-  test::TempFolder working;
-  test::ScriptedDialogs dialogs;
+  TempFolder program;
+  TempFolder working;
+  ScriptedDialogs dialogs;
 };
 
 TEST_F(StartCheck, TheFirstMissingFileIsNamedAndNothingElseIsDone) {
-  struct Case {
-    const char* gone;
-    const char* named;
-  };
   // From the last of the list to the first: each time the earlier one is told.
-  for (const Case& c :
-       {Case{"Sounds/winset.wav", "sounds\\winset.wav"}, Case{"Sounds/accept.wav", "sounds\\accept.wav"},
-        Case{"BNKGOTHICM.TTF", "bnkgothicM.ttf"}, Case{"vntdata.dat", "vntdata.dat"}}) {
-    fs::remove(program / c.gone);
+  for (const auto& [gone, named] : Rows<const char*, const char*>{{"Sounds/winset.wav", "sounds\\winset.wav"},
+                                                                  {"Sounds/accept.wav", "sounds\\accept.wav"},
+                                                                  {"BNKGOTHICM.TTF", "bnkgothicM.ttf"},
+                                                                  {"vntdata.dat", "vntdata.dat"}}) {
+    fs::remove(program / gone);
     EXPECT_FALSE(Check());
-    EXPECT_EQ(dialogs.boxes.back().text, "Could not find file '" + std::string(c.named) + "'");
+    EXPECT_EQ(dialogs.boxes.back().text, "Could not find file '" + std::string(named) + "'");
     EXPECT_EQ(dialogs.boxes.back().title, "Kelm Vantri: Error");
     EXPECT_EQ(dialogs.boxes.back().icon, DialogIcon::Critical);
   }
@@ -87,8 +85,8 @@ TEST_F(StartCheck, OwnPortraitsLieBesideTheProgramOrElseBesideThePlayers) {
 }
 
 TEST(SingleInstance, OneCopyForEachFolderAndAKilledOneKeepsNobodyOut) {
-  const test::TempFolder folder;
-  const test::TempFolder another;
+  const TempFolder folder;
+  const TempFolder another;
   const pid_t killed = ::fork();
   if (killed == 0) {
     const SingleInstance never(folder.path());
@@ -107,4 +105,4 @@ TEST(SingleInstance, OneCopyForEachFolderAndAKilledOneKeepsNobodyOut) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

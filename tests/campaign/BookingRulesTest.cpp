@@ -1,9 +1,8 @@
 // Settling and booking: the account after each match, exactly one booking, and what the file holds in
 // between.
-#include <filesystem>
-#include <functional>
 
 #include "campaign/CampaignFixture.h"
+#include "support/Rows.h"
 
 namespace kv::test {
 namespace {
@@ -12,43 +11,35 @@ using BookingRulesTest = CampaignFixture;
 constexpr std::int16_t kTop = 32767;
 
 TEST_F(BookingRulesTest, EachModeKeepsItsAccount) {
-  struct Row {
-    const char* what;
-    bool network;
-    bool won;
-    std::int32_t before, stake, after;
-    int wins, losses;
-  };
-  const std::vector<Row> rows = {
-      {"campaign win", false, true, 1000, 500, 1500, 1, 0},
-      {"campaign loss", false, false, 1000, 500, 500, 0, 1},
-      {"network win with its bonus", true, true, 1000, 95, 1104, 1, 0},
-      {"network loss", true, false, 1000, 95, 905, 0, 1},
-      {"campaign cap", false, true, 1999999900, 500, 2000000000, 1, 0},
-      {"network cap", true, true, 2000000000, 2000000000, 2000000000, 1, 0},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.what);
+  for (const auto& [what, network, won, before, stake, after, wins, losses] :
+       Rows<const char*, bool, bool, std::int32_t, std::int32_t, std::int32_t, int, int>{
+           {"campaign win", false, true, 1000, 500, 1500, 1, 0},
+           {"campaign loss", false, false, 1000, 500, 500, 0, 1},
+           {"network win with its bonus", true, true, 1000, 95, 1104, 1, 0},
+           {"network loss", true, false, 1000, 95, 905, 0, 1},
+           {"campaign cap", false, true, 1999999900, 500, 2000000000, 1, 0},
+           {"network cap", true, true, 2000000000, 2000000000, 2000000000, 1, 0}}) {
+    SCOPED_TRACE(what);
     player.ResetSP();
     player.ResetMP();
-    player.Credits->Value = row.before;
+    player.Credits->Value = before;
     player.Brummox_Wins->Value = 0;
-    if (row.network) {
-      MeetPeer(row.before);
+    if (network) {
+      MeetPeer(before);
     } else {
       player.Velir_Wins->Value = 10;
       Meet(3);
     }
-    Stake(row.stake);
-    row.won ? booking.SaveWin() : booking.SaveLoss();
+    Stake(stake);
+    won ? booking.SaveWin() : booking.SaveLoss();
     booking.SaveWin();  // nothing is left to book
     booking.SaveLoss();
     EXPECT_EQ(game.Wager, -1);
-    EXPECT_EQ((row.network ? player.Credits_MP : player.Credits)->Value, row.after);
-    EXPECT_EQ((row.network ? player.Wins_MP : player.Wins)->Value, row.wins);
-    EXPECT_EQ((row.network ? player.Losses_MP : player.Losses)->Value, row.losses);
+    EXPECT_EQ((network ? player.Credits_MP : player.Credits)->Value, after);
+    EXPECT_EQ((network ? player.Wins_MP : player.Wins)->Value, wins);
+    EXPECT_EQ((network ? player.Losses_MP : player.Losses)->Value, losses);
     EXPECT_EQ(player.Disconnects, 0);
-    EXPECT_EQ(player.Brummox_Wins->Value, row.network ? 0 : row.wins);
+    EXPECT_EQ(player.Brummox_Wins->Value, network ? 0 : wins);
     EXPECT_EQ(StoredPlayer(player.FileName).fields.Credits->Value, player.Credits->Value);
   }
   EXPECT_TRUE(dialogs.boxes.empty());

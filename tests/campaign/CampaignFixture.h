@@ -39,6 +39,13 @@ class CampaignFixture : public testing::Test {
     game.CardsRef = player.Cards_MP;
     game.MaxWager = credits;
   }
+  /// As the deck view of the campaign screen leaves it.
+  void MeetDeckView() {
+    game.CreditsRef = player.Credits;
+    game.DeckRef = player.Deck;
+    game.CardsRef = player.Cards;
+    game.Mode = kModeDeckConfig;
+  }
   /// The stake is settled on the card screen, and Continue stores the copies.
   void Stake(std::int32_t amount) {
     CardDesk desk(game, player, networkStake);

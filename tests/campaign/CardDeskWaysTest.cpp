@@ -1,6 +1,7 @@
 // Every way through small collections and thin purses: whatever is clicked, Continue can be reached again.
-#include <deque>
+#include <algorithm>
 #include <map>
+#include <numeric>
 #include <tuple>
 
 #include "campaign/CampaignFixture.h"
@@ -8,6 +9,7 @@
 namespace kv::test {
 namespace {
 
+constexpr const char* kForeign = "ps9";  // no collection holds it: once taken out it is gone
 constexpr std::array<CardPlace, 2> kPlaces = {{{1, 6}, {3, 6}}};  // what is clicked in the banks
 
 /// One state of the desk. Which slot of the deck a card lies in makes no difference to what can be clicked.
@@ -23,13 +25,6 @@ struct Spot {
 
 class CardDeskWaysTest : public CampaignFixture {
  protected:
-  CardDeskWaysTest() {
-    game.CreditsRef = player.Credits;
-    game.DeckRef = player.Deck;
-    game.CardsRef = player.Cards;
-    game.Mode = kModeDeckConfig;
-  }
-
   std::unique_ptr<CardDesk> Set(const Spot& spot) {
     player.Credits->Value = spot.credits;
     for (int slot = 1; slot <= kDeckSize; ++slot) {
@@ -39,9 +34,7 @@ class CardDeskWaysTest : public CampaignFixture {
     for (std::size_t i = 0; i < kPlaces.size(); ++i) {
       player.Cards->setValue(kPlaces[i].kind, kPlaces[i].value, static_cast<std::int16_t>(spot.counts[i]));
     }
-    game.CreditsRef = player.Credits;
-    game.DeckRef = player.Deck;
-    game.CardsRef = player.Cards;
+    MeetDeckView();
     auto desk = std::make_unique<CardDesk>(game, player, networkStake);
     desk->YourDeck(spot.view);
     if (spot.picked >= 0) desk->ClickBank(kPlaces.at(static_cast<std::size_t>(spot.picked)));
@@ -57,6 +50,21 @@ class CardDeskWaysTest : public CampaignFixture {
     spot.picked = desk.Shop().card.empty() ? -1 : picked;
     return spot;
   }
+  /// A deal costs its price or brings its value, and nothing else moves credits or makes cards.
+  static void CheckAccount(const Spot& from, const Spot& to, bool deals) {
+    const auto owned = [](const Spot& spot) {
+      return static_cast<int>(spot.deck.size()) + std::accumulate(spot.counts.begin(), spot.counts.end(), 0);
+    };
+    const bool gone = std::ranges::count(from.deck, kForeign) > std::ranges::count(to.deck, kForeign);
+    const int more = owned(to) - owned(from) + (gone ? 1 : 0);
+    const bool dealt = deals && more != 0;
+    const CardPlace place = dealt ? kPlaces.at(static_cast<std::size_t>(from.picked)) : CardPlace{};
+    EXPECT_TRUE(dealt ? more == (from.view == CardView::Buy ? 1 : -1) : more == 0);
+    EXPECT_EQ(to.credits - from.credits, !dealt     ? 0
+                                         : more > 0 ? -CardPrice(place.kind, place.value)
+                                                    : SellValue(place));
+    EXPECT_GE(to.credits, 0);
+  }
   /// Where each possible click leads from here, the deal first.
   std::vector<Spot> Clicks(const Spot& from) {
     std::vector<Spot> next;
@@ -64,6 +72,7 @@ class CardDeskWaysTest : public CampaignFixture {
       const auto desk = Set(from);
       click(*desk);
       next.push_back(Read(*desk, picked));
+      CheckAccount(from, next.back(), next.size() == 1);
     };
     add([](CardDesk& desk) { static_cast<void>(desk.Trade()); }, from.picked);
     for (int i = 0; i < static_cast<int>(kPlaces.size()); ++i) {
@@ -86,7 +95,9 @@ class CardDeskWaysTest : public CampaignFixture {
     std::deque<Spot> saved;
     for (; !open.empty(); open.pop_front()) {
       const Spot from = open.front();
-      if (Set(from)->Buttons().next) saved.push_back(from);
+      const bool next = Set(from)->Buttons().next;
+      EXPECT_EQ(next, from.deck.size() == kDeckSize && from.view == CardView::Deck);
+      if (next) saved.push_back(from);
       for (const Spot& to : Clicks(from)) {
         const auto [found, fresh] = cameFrom.try_emplace(to);
         found->second.push_back(from);
@@ -108,7 +119,7 @@ class CardDeskWaysTest : public CampaignFixture {
 TEST_F(CardDeskWaysTest, NoClickLeadsToADeckThatCannotBeFilled) {
   const std::vector<std::string> sixes(kDeckSize, "ps6");
   std::vector<std::string> foreign = sixes;
-  foreign.back() = "ps9";  // no collection holds it: once taken out it is gone
+  foreign.back() = kForeign;
   for (const Spot& start :
        {Spot{.credits = 0, .deck = sixes}, Spot{.credits = 259, .deck = sixes},
         Spot{.credits = 0, .deck = sixes, .counts = {0, 2}}, Spot{.credits = 320, .deck = sixes},

@@ -1,5 +1,6 @@
 // The wager panel's rules: what can be typed, which amounts open the button, and what pressing it means.
 #include "campaign/CampaignFixture.h"
+#include "support/Rows.h"
 
 namespace kv::test {
 namespace {
@@ -14,64 +15,55 @@ class WagerRulesTest : public CampaignFixture {
 };
 
 TEST_F(WagerRulesTest, WhatIsNoAmountIsUndone) {
-  struct Row {
-    const char* typed;
-    int cursor;
-    const char* left;
-    int cursorLeft;
-  };
-  for (const Row& row : std::vector<Row>{{"12a", 3, "12", 2},
-                                         {"a12", 1, "12", 0},
-                                         {"-5", 1, "12", 0},
-                                         {"1 2", 2, "12", 1},
-                                         {"+12", 1, "12", 0},
-                                         {"?", 1, "12", 0},
-                                         {"12.5 credits", 12, "12", 2},
-                                         {"", 0, "", 0},
-                                         {"0012", 4, "0012", 4}}) {
+  for (const auto& [typed, cursor, left, cursorLeft] :
+       Rows<const char*, int, const char*, int>{{"12a", 3, "12", 2},
+                                                {"a12", 1, "12", 0},
+                                                {"-5", 1, "12", 0},
+                                                {"1 2", 2, "12", 1},
+                                                {"+12", 1, "12", 0},
+                                                {"?", 1, "12", 0},
+                                                {"12.5 credits", 12, "12", 2},
+                                                {"", 0, "", 0},
+                                                {"0012", 4, "0012", 4}}) {
     WagerEntry panel = Panel();
     ASSERT_EQ(panel.Change("12", 2).text, "12");
-    const BoxText box = panel.Change(row.typed, row.cursor);
-    EXPECT_EQ(box.text, row.left) << row.typed;
-    EXPECT_EQ(box.cursor, row.cursorLeft) << row.typed;
+    const BoxText box = panel.Change(typed, cursor);
+    EXPECT_EQ(box.text, left) << typed;
+    EXPECT_EQ(box.cursor, cursorLeft) << typed;
   }
 }
 
 TEST_F(WagerRulesTest, OnlyPermittedAmountsOpenTheButton) {
-  struct Row {
-    int tile;  // -1: arcade
-    std::int32_t credits;
-    const char* text;
-    bool open;
-  };
-  for (const Row& row : std::vector<Row>{{4, 800, "749", false},
-                                         {4, 800, "750", true},
-                                         {4, 800, "751", false},
-                                         {0, 5, "0", true},
-                                         {0, 5, "5", true},
-                                         {0, 5, "6", false},
-                                         {6, 800, "0", true},
-                                         {6, 800, "1", false},
-                                         {-1, 0, "0", false},
-                                         {-1, 200, "000", false},
-                                         {-1, 200, "200", true},
-                                         {-1, 200, "00000000000000000000000000200", true},
-                                         {-1, 200, "201", false},
-                                         {-1, 200, "4294967297", false},
-                                         {-1, 200, "18446744073709551617", false},
-                                         {-1, 200, "", false}}) {
-    SCOPED_TRACE(testing::Message() << row.tile << " " << row.text);
+  // Tile -1 is an arcade match.
+  for (const auto& [tile, credits, text, open] :
+       Rows<int, std::int32_t, const char*, bool>{{4, 800, "749", false},
+                                                  {4, 800, "750", true},
+                                                  {4, 800, "751", false},
+                                                  {0, 5, "0", true},
+                                                  {0, 5, "5", true},
+                                                  {0, 5, "6", false},
+                                                  {6, 800, "0", true},
+                                                  {6, 800, "1", false},
+                                                  {-1, 0, "0", false},
+                                                  {-1, 200, "000", false},
+                                                  {-1, 200, "200", true},
+                                                  {-1, 200, "00000000000000000000000000200", true},
+                                                  {-1, 200, "201", false},
+                                                  {-1, 200, "4294967297", false},
+                                                  {-1, 200, "18446744073709551617", false},
+                                                  {-1, 200, "", false}}) {
+    SCOPED_TRACE(testing::Message() << tile << " " << text);
     clsGame run(player, {});
     game = run;
-    player.Credits->Value = row.credits;
+    player.Credits->Value = credits;
     player.Brummox_Wins->Value = player.Orrin_Wins->Value = 10;
     player.Cards->setValue(1, 1, 1);  // no warning
-    if (row.tile >= 0) Meet(row.tile);
-    game.CreditsRef->Value = row.credits;
+    if (tile >= 0) Meet(tile);
+    game.CreditsRef->Value = credits;
     WagerEntry panel = Panel();
-    static_cast<void>(panel.Change(row.text, 0));
-    EXPECT_EQ(panel.buttonEnabled(), row.open);
-    EXPECT_EQ(panel.Press(dialogs).action, row.open ? WagerAction::Settle : WagerAction::None);
+    static_cast<void>(panel.Change(text, 0));
+    EXPECT_EQ(panel.buttonEnabled(), open);
+    EXPECT_EQ(panel.Press(dialogs).action, open ? WagerAction::Settle : WagerAction::None);
   }
 }
 

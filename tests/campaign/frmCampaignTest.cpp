@@ -1,36 +1,26 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <QLabel>
 
 #include "campaign/frmCampaign.h"
 #include "match/clsGame.h"
-#include "support/ScreenHand.h"
-#include "support/ScreenStage.h"
+#include "support/OneScreen.h"
+#include "support/Rows.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
-using test::ScreenHand;
-using test::ScreenStage;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class frmCampaignTest : public testing::Test {
+class frmCampaignTest : public testing::Test, protected OneScreen<frmCampaign> {
  protected:
-  void SetWins(std::vector<int> wins) {
+  ~frmCampaignTest() override { screen.reset(); }
+
+  frmCampaign& Open(int credits, const std::vector<int>& wins = {}) {
+    player.Credits->Value = credits;
     for (std::size_t i = 0; i < wins.size(); ++i) {
-      (stage.player.*(CircuitOpponents().at(i).wins))->Value = static_cast<std::int16_t>(wins.at(i));
+      (player.*(CircuitOpponents().at(i).wins))->Value = static_cast<std::int16_t>(wins.at(i));
     }
-  }
-  frmCampaign& Open(int credits, std::vector<int> wins = {}) {
-    stage.player.Credits->Value = credits;
-    SetWins(std::move(wins));
-    screen = std::make_unique<frmCampaign>(stage.services(), stage.player, game);
-    screen->Open();
-    stage.Settle();
-    hand = std::make_unique<ScreenHand>(*screen);
-    return *screen;
+    return Show(std::make_unique<frmCampaign>(services(), player, game));
   }
   /// One letter for each tile: "-" hidden, "g" grey, "o" open.
   [[nodiscard]] std::string Tiles() {
@@ -42,52 +32,39 @@ class frmCampaignTest : public testing::Test {
     }
     return tiles;
   }
-  [[nodiscard]] int Sounds(const char* name) const { return stage.sound.Count(name); }
 
-  ScreenStage stage;
-  clsGame game{stage.player, {}};
-  std::unique_ptr<frmCampaign> screen;
-  std::unique_ptr<ScreenHand> hand;
+  clsGame game{player, {}};
 };
 
-TEST_F(frmCampaignTest, TilesFollowWinsAndCredits) {
-  struct Case {
-    int credits;
-    std::vector<int> wins;
-    const char* tiles;
-  };
-  for (const auto& [credits, wins, tiles] :
-       {Case{100, {9, 9, 9, 9, 9, 9}, "o------"}, Case{100, {10}, "oo-----"}, Case{99, {10, 10}, "oog----"},
-        Case{100, {10, 10}, "ooo----"}, Case{749, {10, 10, 10, 10}, "oooog--"},
-        Case{750, {10, 10, 10, 10, 10}, "ooooooo"}, Case{20, {0, 0, 0, 0, 10, 0}, "o----oo"}}) {
-    Open(credits, wins);
-    EXPECT_EQ(Tiles(), tiles) << credits;
-    for (int i = 0; i < kCircuitTiles; ++i) {
-      for (int j = 0; j < i; ++j) {
-        EXPECT_FALSE(screen->ctlOpp(i).isVisible() && screen->ctlOpp(j).isVisible() &&
-                     screen->ctlOpp(i).geometry().intersects(screen->ctlOpp(j).geometry()));
-      }
-      EXPECT_TRUE(screen->rect().contains(screen->ctlOpp(i).geometry()));
+TEST_F(frmCampaignTest, TilesAreHiddenGreyOrOpenAndLieApart) {
+  Open(749, {10, 10, 10, 10});
+  EXPECT_EQ(Tiles(), "oooog--");
+  Open(750, {10, 10, 10, 10, 10});
+  EXPECT_EQ(Tiles(), "ooooooo");
+  for (int i = 0; i < kCircuitTiles; ++i) {
+    for (int j = 0; j < i; ++j) {
+      EXPECT_FALSE(screen->ctlOpp(i).geometry().intersects(screen->ctlOpp(j).geometry()));
     }
-    SetWins({0, 0, 0, 0, 0, 0});
+    EXPECT_TRUE(screen->rect().contains(screen->ctlOpp(i).geometry()));
   }
 }
 
 TEST_F(frmCampaignTest, ScreenReadersHearLimitsAndWinsAndWhatAGreyTileNeeds) {
-  stage.player.Portrait = 12;
+  player.Portrait = 12;
   Open(100, {10, 1, 3, 10, 10});
-  EXPECT_EQ(screen->cmdOpp(1)->accessibleName(), QStringLiteral("Tamsen, stake 0 to 50, 1 win"));
-  EXPECT_EQ(screen->ctlOpp(4).accessibleName(),
-            QStringLiteral("Orrin Vaal, stake 750, 10 wins, needs 750 credits"));
-  EXPECT_EQ(screen->cmdOpp(kYourself)->accessibleName(), QStringLiteral("Yourself, stake 0"));
+  EXPECT_EQ(screen->cmdOpp(1)->accessibleName(), "Tamsen, stake 0 to 50, 1 win");
+  EXPECT_EQ(screen->ctlOpp(4).accessibleName(), "Orrin Vaal, stake 750, 10 wins, needs 750 credits");
+  EXPECT_EQ(screen->cmdOpp(kYourself)->accessibleName(), "Yourself, stake 0");
   EXPECT_EQ(screen->ctlOpp(kYourself).OppPic(), 12);
+  EXPECT_EQ(screen->ctlOpp(4).toolTip(), "Plays for at least 750 credits; you have 100.");
+  EXPECT_EQ(screen->cmdOpp(1)->toolTip().section('\n', 0, 0), "Plays for 0 to 50 credits.");
 }
 
 TEST_F(frmCampaignTest, AnOpponentIsChosenOnceByPointerOrKey) {
   for (const bool byKey : {false, true}) {
     Open(185, {10, 10});
-    stage.recorded.calls.clear();
-    const int clicks = Sounds("click");
+    recorded.calls.clear();
+    const int clicks = sound.Count("click");
     if (byKey) {
       for (int i = 0; i < 3; ++i) hand->Key(Qt::Key_Tab);
       hand->Key(Qt::Key_Return);
@@ -97,11 +74,11 @@ TEST_F(frmCampaignTest, AnOpponentIsChosenOnceByPointerOrKey) {
       hand->Click(*screen->cmdOpp(0));
       hand->Click(screen->cmdDeck());
     }
-    EXPECT_THAT(stage.recorded.calls, ElementsAre("OpenCards"));
+    EXPECT_THAT(recorded.calls, ElementsAre("OpenCards"));
     EXPECT_EQ(game.OppName, "Vel'ir");
     EXPECT_EQ(game.MaxWager, 185);
     EXPECT_FALSE(screen->ctlOpp(2).Enabled());
-    EXPECT_EQ(Sounds("click") - clicks, 1);
+    EXPECT_EQ(sound.Count("click") - clicks, 1);
   }
 }
 
@@ -109,12 +86,12 @@ TEST_F(frmCampaignTest, DeckButtonAndCloseButtonLeave) {
   Open(100);
   hand->Click(screen->cmdDeck());
   EXPECT_EQ(game.Mode, kModeDeckConfig);
-  EXPECT_THAT(stage.recorded.calls, ElementsAre("OpenCards"));
-  stage.recorded.calls.clear();
+  EXPECT_THAT(recorded.calls, ElementsAre("OpenCards"));
+  recorded.calls.clear();
   Open(100);
   hand->Click(screen->titlebar().cmdQuit());
   hand->Click(*screen->cmdOpp(0));
-  EXPECT_THAT(stage.recorded.calls, ElementsAre("OpenMenu"));
+  EXPECT_THAT(recorded.calls, ElementsAre("OpenMenu"));
 }
 
 TEST_F(frmCampaignTest, ATileHasTheColoursOfItsStyle) {
@@ -126,7 +103,7 @@ TEST_F(frmCampaignTest, ATileHasTheColoursOfItsStyle) {
   EXPECT_EQ(screen->ctlOpp(0).FrameColor(), QColor(128, 128, 255));
   EXPECT_EQ(colour("lblMaxWager"), QColor(128, 128, 255));
   EXPECT_EQ(colour("lblMax"), QColor(0, 169, 251));
-  stage.player.Interface_Opt = "Ember";
+  player.Interface_Opt = "Ember";
   Open(100);
   for (const QColor& warm :
        {screen->ctlOpp(0).FrameColor(), colour("lblMaxWager"), colour("lblMax"), colour("lblWins")}) {
@@ -135,15 +112,14 @@ TEST_F(frmCampaignTest, ATileHasTheColoursOfItsStyle) {
 }
 
 TEST_F(frmCampaignTest, TheAccountHasRoomForTheLargestNumbersAndTheLongestName) {
-  stage.player.Name = std::string(20, 'W');
-  stage.player.Losses->Value = stage.player.Wins->Value = 32767;
+  player.Name = std::string(20, 'W');
+  player.Losses->Value = player.Wins->Value = 32767;
   for (const char* style : {"Slate", "Ember"}) {
-    stage.player.Interface_Opt = style;
+    player.Interface_Opt = style;
     for (const int orrin : {0, 10}) {
       Open(2'000'000'000, {0, 0, 0, 0, orrin});
       for (const char* name : {"lblPName", "lblPCredits", "lblPWins", "lblPLosses", "lblLosses", "lblWins"}) {
-        const auto& label =
-            *screen->findChild<QLabel*>(QString::fromLatin1(name), Qt::FindDirectChildrenOnly);
+        const auto& label = *screen->findChild<QLabel*>(name, Qt::FindDirectChildrenOnly);
         EXPECT_LE(label.fontMetrics().horizontalAdvance(label.text()), label.width()) << style << name;
       }
     }
@@ -156,15 +132,15 @@ TEST_F(frmCampaignTest, HighlightFollowsThePointerAndTheFocus) {
   const auto colours = [this] {
     return std::pair(screen->ctlOpp(0).FrameColor(), screen->ctlOpp(1).FrameColor());
   };
-  const int hovers = Sounds("hover");
+  const int hovers = sound.Count("hover");
   hand->MoveTo(hand->CentreOf(*screen->cmdOpp(0)));
   hand->MoveTo(hand->CentreOf(*screen->cmdOpp(0)) + QPoint(3, 3));
   const QColor hover = colours().first;
   EXPECT_NE(hover, normal);
-  EXPECT_EQ(Sounds("hover") - hovers, 1);
+  EXPECT_EQ(sound.Count("hover") - hovers, 1);
   hand->MoveTo(hand->CentreOf(*screen->cmdOpp(1)));
   EXPECT_EQ(colours(), std::pair(normal, hover));
-  EXPECT_EQ(Sounds("hover") - hovers, 2);
+  EXPECT_EQ(sound.Count("hover") - hovers, 2);
   hand->Press(hand->CentreOf(*screen->cmdOpp(1)));
   EXPECT_EQ(colours().second, QColor(Qt::white));
   hand->MoveTo({400, 560});
@@ -172,46 +148,33 @@ TEST_F(frmCampaignTest, HighlightFollowsThePointerAndTheFocus) {
   EXPECT_EQ(colours(), std::pair(normal, normal));
   hand->Key(Qt::Key_Tab);
   EXPECT_EQ(colours(), std::pair(hover, normal));
-  EXPECT_THAT(stage.recorded.calls, IsEmpty());
+  EXPECT_THAT(recorded.calls, IsEmpty());
 }
 
 TEST_F(frmCampaignTest, LevelUpSoundsOnce) {
-  game.CampaignWinRef = stage.player.Brannock_Wins;
+  game.CampaignWinRef = player.Brannock_Wins;
   Open(100, {10});
-  EXPECT_EQ(Sounds("levelup"), 1);
+  EXPECT_EQ(sound.Count("levelup"), 1);
   Open(100, {10});
-  EXPECT_EQ(Sounds("levelup"), 1);
+  EXPECT_EQ(sound.Count("levelup"), 1);
 }
 
 TEST_F(frmCampaignTest, BankruptcyIsToldAndEndsTheVisit) {
-  struct Case {
-    int credits;
-    int cards;
-    bool bankrupt;
-  };
-  for (const auto& [credits, cards, bankrupt] : {Case{0, 0, true}, Case{0, 1, false}, Case{1, 0, false}}) {
-    stage.dialogs.boxes.clear();
-    stage.recorded.calls.clear();
-    stage.player.Cards->setValue(1, 1, static_cast<std::int16_t>(cards));
-    stage.dialogs.whileOpen = [this] { EXPECT_TRUE(screen->isVisible()); };
+  for (const auto& [credits, cards, bankrupt] :
+       Rows<int, int, bool>{{0, 0, true}, {0, 1, false}, {1, 0, false}}) {
+    dialogs.boxes.clear();
+    recorded.calls.clear();
+    player.Cards->setValue(1, 1, static_cast<std::int16_t>(cards));
+    dialogs.whileOpen = [this] { EXPECT_TRUE(screen->isVisible()); };
     Open(credits);
-    EXPECT_EQ(stage.dialogs.boxes.size(), bankrupt ? 1U : 0U);
-    EXPECT_EQ(stage.recorded.Count("OpenMenu"), bankrupt ? 1 : 0);
+    EXPECT_EQ(dialogs.boxes.size(), bankrupt ? 1U : 0U);
+    EXPECT_EQ(recorded.Count("OpenMenu"), bankrupt ? 1 : 0);
   }
-}
-
-TEST_F(frmCampaignTest, NothingFollowsWhenTheScreenClosesWhileTheBoxIsOpen) {
-  stage.dialogs.whileOpen = [this] { screen->CloseScreen(); };
+  recorded.calls.clear();
+  dialogs.whileOpen = [this] { screen->CloseScreen(); };
   Open(0);
-  EXPECT_EQ(stage.dialogs.boxes.size(), 1U);
-  EXPECT_THAT(stage.recorded.calls, IsEmpty());
-}
-
-TEST_F(frmCampaignTest, ATileSaysWhyItIsGrey) {
-  Open(60, {10, 10});
-  EXPECT_EQ(screen->ctlOpp(2).toolTip(), QStringLiteral("Plays for at least 100 credits; you have 60."));
-  EXPECT_EQ(screen->cmdOpp(1)->toolTip(), QStringLiteral("Plays for 0 to 50 credits."));
+  EXPECT_THAT(recorded.calls, IsEmpty()) << "it has closed behind the box";
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

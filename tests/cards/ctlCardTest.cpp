@@ -32,7 +32,7 @@ class ctlCardTest : public testing::Test {
 TEST_F(ctlCardTest, ShowsWhatTheCodeSays) {
   card.setCard("PS3");
   EXPECT_EQ(card.Card(), "ps3");
-  EXPECT_EQ(card.Caption(), QStringLiteral("+3"));
+  EXPECT_EQ(card.Caption(), "+3");
   EXPECT_EQ(card.cardValue, 3);
   EXPECT_EQ(Face().red(), 203);
 
@@ -41,9 +41,9 @@ TEST_F(ctlCardTest, ShowsWhatTheCodeSays) {
   EXPECT_EQ(Face().red(), 204);
 
   card.setCard("s399");
-  EXPECT_EQ(card.Caption(), QStringLiteral("2&&4"));
+  EXPECT_EQ(card.Caption(), "2&&4");
   card.setCard("--");
-  EXPECT_EQ(card.Caption(), QStringLiteral("OOO"));
+  EXPECT_EQ(card.Caption(), "OOO");
   EXPECT_EQ(card.cardValue, 0);
   card.setCard("");
   EXPECT_TRUE(card.Caption().isEmpty());
@@ -77,12 +77,12 @@ TEST_F(ctlCardTest, StylesHaveTheirSizesAndFaces) {
   EXPECT_EQ(card.size(), QSize(48, 64));
   card.setCount("12");
   card.setShow_Count(true);
-  card.setStyle(QStringLiteral("Ember"));
+  card.setStyle("Ember");
   EXPECT_EQ(card.size(), QSize(83, 102));
   EXPECT_EQ(Face().red(), 222);
   EXPECT_FALSE(card.Show_Count()) << "a new layout hides the count";
   EXPECT_EQ(card.count(), "12");
-  card.setStyle(QStringLiteral("Brass"));
+  card.setStyle("Brass");
   EXPECT_EQ(card.size(), QSize(83, 102));
   EXPECT_EQ(card.Surface(2).size(), QSize(166, 204)) << "drawn sharply at twice the size";
 
@@ -93,13 +93,11 @@ TEST_F(ctlCardTest, StylesHaveTheirSizesAndFaces) {
 TEST_F(ctlCardTest, PropertyBag) {
   card.ReadProperties(PropertyBag());
   EXPECT_EQ(card.count(), "-1");
-  EXPECT_EQ(card.Style(), QStringLiteral("Slate"));
+  EXPECT_EQ(card.Style(), "Slate");
   EXPECT_TRUE(card.Enabled());
   EXPECT_EQ(card.Card(), "");
-  card.ReadProperties(PropertyBag(QJsonObject{{QStringLiteral("Card"), QStringLiteral("FL2")},
-                                              {QStringLiteral("enabled"), false},
-                                              {QStringLiteral("count"), 3},
-                                              {QStringLiteral("style"), QStringLiteral("Ember")}}));
+  card.ReadProperties(
+      PropertyBag(QJsonObject{{"Card", "FL2"}, {"enabled", false}, {"count", 3}, {"style", "Ember"}}));
   EXPECT_EQ(card.Card(), "fl2");
   EXPECT_EQ(card.count(), "3");
   EXPECT_FALSE(card.Enabled());
@@ -145,18 +143,20 @@ TEST(CardFacesTest, FacesByPictureNumber) {
 }
 
 TEST(CardFacesTest, CardsInWords) {
-  const auto spoken = [](const char* code) { return SpokenCard(CardCode(code)); };
-  EXPECT_EQ(spoken("ps3"), "plus 3");
-  EXPECT_EQ(spoken("mi3"), "plus 3");
-  EXPECT_EQ(spoken("ms-3"), "minus 3");
-  EXPECT_EQ(spoken("no7"), "7");
-  EXPECT_EQ(spoken("fl2"), "plus or minus 2");
-  EXPECT_EQ(spoken("fm2"), "flip card, minus 2");
-  EXPECT_EQ(spoken("s1-1"), "tiebreaker, minus 1");
-  EXPECT_EQ(spoken("s299"), "double");
-  EXPECT_EQ(spoken("s399"), "flip 2 and 4");
-  EXPECT_EQ(spoken("un"), "face-down card");
-  EXPECT_EQ(spoken(""), "");
+  for (const auto& [code, words] :
+       std::initializer_list<std::pair<const char*, const char*>>{{"ps3", "plus 3"},
+                                                                  {"mi3", "plus 3"},
+                                                                  {"ms-3", "minus 3"},
+                                                                  {"no7", "7"},
+                                                                  {"fl2", "plus or minus 2"},
+                                                                  {"fm2", "flip card, minus 2"},
+                                                                  {"s1-1", "tiebreaker, minus 1"},
+                                                                  {"s299", "double"},
+                                                                  {"s399", "flip 2 and 4"},
+                                                                  {"un", "face-down card"},
+                                                                  {"", ""}}) {
+    EXPECT_EQ(SpokenCard(CardCode(code)), words);
+  }
 }
 
 }  // namespace

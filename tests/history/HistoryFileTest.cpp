@@ -1,24 +1,20 @@
 // The history on disk: what is stored is found again, and whatever happens to the file costs no match.
 #include <gtest/gtest.h>
 #include <sqlite3.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <chrono>
-#include <csignal>
 #include <cstdio>
 #include <thread>
 
 #include "history/HistoryFile.h"
+#include "support/Limits.h"
 #include "support/SampleMatch.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
-
-using test::SampleMatch;
-using test::TempFolder;
 
 /// Another program with the same file open.
 struct Database {
@@ -154,14 +150,12 @@ TEST(HistoryFile, LosesNothingToAFullDisk) {
   const Folder at;
   HistoryFile history(at.path);
   history.Store(SampleMatch(1));
-  std::signal(SIGXFSZ, SIG_IGN);
-  rlimit before{};
-  getrlimit(RLIMIT_FSIZE, &before);
-  const rlimit full{4096, before.rlim_max};
-  setrlimit(RLIMIT_FSIZE, &full);
-  history.Store(SampleMatch(2));
-  const std::size_t waiting = history.Waiting();
-  setrlimit(RLIMIT_FSIZE, &before);
+  std::size_t waiting = 0;
+  {
+    const FullDisk full(4096);
+    history.Store(SampleMatch(2));
+    waiting = history.Waiting();
+  }
   EXPECT_EQ(waiting, 1u);
   EXPECT_NE(history.TakeNotice(), "");
   history.Store(SampleMatch(3));
@@ -277,4 +271,4 @@ TEST(HistoryFile, LosesNothingWhenTheProgramIsKilled) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

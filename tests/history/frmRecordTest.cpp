@@ -3,57 +3,40 @@
 
 #include <QComboBox>
 #include <QImage>
-#include <QLabel>
 #include <QTableView>
 
 #include "history/HistoryWords.h"
 #include "history/frmRecord.h"
+#include "support/OneScreen.h"
 #include "support/SampleMatch.h"
-#include "support/ScreenHand.h"
-#include "support/ScreenStage.h"
-#include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
-class frmRecordTest : public testing::Test {
+class frmRecordTest : public testing::Test, protected OneScreen<frmRecord> {
  protected:
-  frmRecordTest() : history(folder / "zoe.history.sqlite") { stage.player.FileName = folder / "zoe.vnt"; }
+  frmRecordTest() : history(folder / "zoe.history.sqlite") { player.FileName = folder / "zoe.vnt"; }
+  ~frmRecordTest() override { screen.reset(); }
 
   void Store(std::uint64_t seed, const std::string& opponent, bool won, std::int32_t after,
              const char* mode = "Campaign") {
-    MatchRecord record = test::SampleMatch(seed, opponent);
+    MatchRecord record = SampleMatch(seed, opponent);
     record.mode = mode;
     record.booking = {won ? event::Result::Won : event::Result::Lost, 90, after};
     history.Store(record);
   }
   frmRecord& Open() {
-    screen = std::make_unique<frmRecord>(stage.services(), frmRecordServices{stage.player, history, look});
-    screen->Open();
-    stage.Settle();
-    hand = std::make_unique<test::ScreenHand>(*screen);
-    return *screen;
+    return Show(std::make_unique<frmRecord>(services(), frmRecordServices{player, history, look}));
   }
-  template <typename Kind>
-  Kind& Control(const char* name) {
-    return *screen->findChild<Kind*>(QString::fromUtf8(name));
-  }
-  void Click(const char* name) {
-    hand->Click(Control<QWidget>(name));
-    stage.Settle();
-  }
-  std::string Notice() { return Control<QLabel>("lblNotice").text().toStdString(); }
+  void Choose(const char* box, int entry) { Find<QComboBox>(box).setCurrentIndex(entry); }
+  std::string Notice() { return Text("lblNotice"); }
   std::string Cell(const char* table, int row, int column) {
-    const auto* model = Control<QTableView>(table).model();
+    const auto* model = Find<QTableView>(table).model();
     return model->data(model->index(row, column)).toString().toStdString();
   }
 
-  test::TempFolder folder;
-  test::ScreenStage stage;
   HistoryFile history;
   RecordLook look;
-  std::unique_ptr<frmRecord> screen;
-  std::unique_ptr<test::ScreenHand> hand;
 };
 
 TEST_F(frmRecordTest, ListsMatchesAndFiltersThem) {
@@ -61,17 +44,17 @@ TEST_F(frmRecordTest, ListsMatchesAndFiltersThem) {
   Store(2, "Brummox", false, 80, "Arcade");
   Store(3, "Tamsen", false, 70);
   Open();
-  EXPECT_EQ(Control<QTableView>("tblMatches").model()->rowCount(), 3);
+  EXPECT_EQ(Find<QTableView>("tblMatches").model()->rowCount(), 3);
   EXPECT_EQ(Cell("tblMatches", 0, 0), "2023-11-15 01:13");
   EXPECT_EQ(Cell("tblMatches", 1, 1), "arcade");
   EXPECT_EQ(Cell("tblMatches", 0, 3).substr(0, 5), "lost ");
   EXPECT_EQ(Cell("tblRates", 0, 0), "Tamsen");
   EXPECT_EQ(Cell("tblRates", 0, 3), "50 % (9 to 91 %)");
-  EXPECT_NE(Control<QLabel>("lblTotals").text().indexOf(QStringLiteral("1 won, 2 lost")), -1);
-  auto& opponents = Control<QComboBox>("cmbOpponent");
+  EXPECT_NE(Find<QLabel>("lblTotals").text().indexOf(QStringLiteral("1 won, 2 lost")), -1);
+  auto& opponents = Find<QComboBox>("cmbOpponent");
   opponents.setCurrentIndex(opponents.findText(QStringLiteral("Tamsen")));
   EXPECT_EQ(screen->shown().size(), 2u);
-  Control<QComboBox>("cmbOutcome").setCurrentIndex(1);
+  Choose("cmbOutcome", 1);
   ASSERT_EQ(screen->shown().size(), 1u);
   EXPECT_EQ(screen->shown()[0].after, 120);
   EXPECT_EQ(screen->rates().size(), 1u);
@@ -86,7 +69,7 @@ TEST_F(frmRecordTest, WritesListPlotAndAMatchAndReadsAMatchBack) {
   Click("cmdPlot");
   EXPECT_FALSE(QImage(QString::fromStdString(folder / "zoe.credits.png")).isNull());
   Click("cmdExport");
-  stage.dialogs.texts = {"zoe.match-1.txt", "no such file", std::nullopt};
+  dialogs.texts = {"zoe.match-1.txt", "no such file", std::nullopt};
   Click("cmdImport");
   EXPECT_EQ(Notice(), "The match is in the list.");
   ASSERT_EQ(screen->shown().size(), 2u);
@@ -100,41 +83,41 @@ TEST_F(frmRecordTest, WritesListPlotAndAMatchAndReadsAMatchBack) {
   std::string text = folder.Get("zoe.match-1.txt");
   text.replace(text.find("draws "), 7, "draws 9");
   folder.Put("other.txt", text);
-  stage.dialogs.texts = {"other.txt"};
+  dialogs.texts = {"other.txt"};
   Click("cmdImport");
   EXPECT_EQ(Notice(), "Not read: these moves are not those of a match.");
-  EXPECT_EQ(stage.announcer.Last(), Notice());
+  EXPECT_EQ(announcer.Last(), Notice());
 }
 
 TEST_F(frmRecordTest, IsReachedByKeysAlone) {
   for (std::uint64_t i = 1; i <= 3; ++i) Store(i, "Tamsen", i != 2, 100 + static_cast<std::int32_t>(i));
   Open();
-  auto& plot = Control<QWidget>("plot");
+  auto& plot = Find("plot");
   plot.setFocus();
   hand->Key(Qt::Key_Left);
-  EXPECT_EQ(stage.announcer.Last(), "Match 2 of 3, 2023-11-15: 102 credits");
+  EXPECT_EQ(announcer.Last(), "Match 2 of 3, 2023-11-15: 102 credits");
   hand->Key(Qt::Key_Home);
-  EXPECT_EQ(stage.announcer.Last(), "Match 1 of 3, 2023-11-14: 101 credits");
+  EXPECT_EQ(announcer.Last(), "Match 1 of 3, 2023-11-14: 101 credits");
   for (const char* name :
        {"cmbMode", "cmbOpponent", "cmbOutcome", "tblMatches", "plot", "cmbRates", "tblRates", "cmdExport"}) {
-    EXPECT_TRUE(Control<QWidget>(name).focusPolicy() & Qt::TabFocus) << name;
-    EXPECT_FALSE(Control<QWidget>(name).accessibleName().isEmpty()) << name;
+    EXPECT_TRUE(Find(name).focusPolicy() & Qt::TabFocus) << name;
+    EXPECT_FALSE(Find(name).accessibleName().isEmpty()) << name;
   }
   hand->Key(Qt::Key_Escape);
-  EXPECT_EQ(stage.recorded.calls, std::vector<std::string>{"OpenMenu"});
+  EXPECT_EQ(recorded.calls, std::vector<std::string>{"OpenMenu"});
 }
 
 TEST_F(frmRecordTest, LeadsToReviewAndReplayOfTheChosenMatch) {
   Store(1, "Tamsen", true, 120);
   Store(2, "Brummox", false, 80);
   Open();
-  Control<QTableView>("tblMatches").selectRow(1);
+  Find<QTableView>("tblMatches").selectRow(1);
   Click("cmdReview");
   Click("cmdReplay");
-  EXPECT_EQ(stage.recorded.calls, (std::vector<std::string>{"OpenReview 1", "OpenReplay 1"}));
-  Control<QComboBox>("cmbMode").setCurrentIndex(1);
-  Control<QComboBox>("cmbOutcome").setCurrentIndex(3);
-  EXPECT_FALSE(Control<QWidget>("cmdReview").isEnabled()) << "nothing is chosen";
+  EXPECT_EQ(recorded.calls, (std::vector<std::string>{"OpenReview 1", "OpenReplay 1"}));
+  Choose("cmbMode", 1);
+  Choose("cmbOutcome", 3);
+  EXPECT_FALSE(Find("cmdReview").isEnabled()) << "nothing is chosen";
 }
 
 TEST_F(frmRecordTest, IsAsItWasAfterAReviewOrAReplay) {
@@ -142,19 +125,19 @@ TEST_F(frmRecordTest, IsAsItWasAfterAReviewOrAReplay) {
   Store(2, "Brummox", false, 80);
   Store(3, "Tamsen", false, 70, "Arcade");
   Open();
-  auto& opponents = Control<QComboBox>("cmbOpponent");
+  auto& opponents = Find<QComboBox>("cmbOpponent");
   opponents.setCurrentIndex(opponents.findText(QStringLiteral("Tamsen")));
-  Control<QComboBox>("cmbOutcome").setCurrentIndex(2);
-  Control<QComboBox>("cmbRates").setCurrentIndex(2);
-  Control<QTableView>("tblMatches").selectRow(1);
+  Choose("cmbOutcome", 2);
+  Choose("cmbRates", 2);
+  Find<QTableView>("tblMatches").selectRow(1);
   Click("cmdReview");
-  history.Store(test::SampleMatch(4, "Tamsen"));  // of another program, won or lost
+  history.Store(SampleMatch(4, "Tamsen"));  // of another program, won or lost
   Open();
   ASSERT_GE(screen->shown().size(), 2u);
-  EXPECT_EQ(Control<QComboBox>("cmbOpponent").currentText().toStdString(), "Tamsen");
-  EXPECT_EQ(Control<QComboBox>("cmbOutcome").currentIndex(), 2);
-  EXPECT_EQ(Control<QComboBox>("cmbRates").currentIndex(), 2);
-  const auto row = Control<QTableView>("tblMatches").currentIndex().row();
+  EXPECT_EQ(Find<QComboBox>("cmbOpponent").currentText().toStdString(), "Tamsen");
+  EXPECT_EQ(Find<QComboBox>("cmbOutcome").currentIndex(), 2);
+  EXPECT_EQ(Find<QComboBox>("cmbRates").currentIndex(), 2);
+  const auto row = Find<QTableView>("tblMatches").currentIndex().row();
   EXPECT_EQ(screen->shown().at(static_cast<std::size_t>(row)).after, 120);
   look = {};  // the menu was open
   Open();
@@ -169,8 +152,8 @@ TEST_F(frmRecordTest, SaysWhatBecameOfADamagedHistory) {
 
 TEST_F(frmRecordTest, StandsWithoutAMatch) {
   Open();
-  EXPECT_FALSE(Control<QWidget>("cmdExport").isEnabled());
-  auto& plot = Control<QWidget>("plot");
+  EXPECT_FALSE(Find("cmdExport").isEnabled());
+  auto& plot = Find("plot");
   plot.setFocus();
   hand->Key(Qt::Key_Left);
   hand->Click(plot);
@@ -202,4 +185,4 @@ TEST(HistoryStats, CountStreaksCardsAndDecks) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

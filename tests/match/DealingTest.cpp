@@ -1,13 +1,16 @@
+// What is dealt, and the record with which an arcade run begins.
 #include <gtest/gtest.h>
 
 #include <map>
 
 #include "ai/clsAI_Ember.h"
+#include "ai/clsAI_Normal.h"
 #include "match/Dealing.h"
 #include "match/clsGame.h"
-#include "support/MatchTable.h"
+#include "profile/clsPlayer.h"
+#include "support/ScriptedDialogs.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 std::string HandText(const clsDeckArray& hand) {
@@ -76,5 +79,33 @@ TEST(ArcadeRun, StartsWithAQuarterOfTheBestScore) {
   }
 }
 
+TEST(ArcadeRun, FollowsThePlayersOptions) {
+  ScriptedDialogs dialogs;
+  SeededRandom random(1);
+  clsPlayer player(dialogs, random);
+  player.Arcade_Best = 1000;
+  std::vector<std::string> asked;
+  const PortraitSource portraits = [&](int number, const std::string& name) {
+    asked.push_back(std::to_string(number) + ":" + name);
+    return Picture();
+  };
+  const clsGame standard(player, portraits);
+  EXPECT_EQ(standard.OppName, "Orrin Vaal");
+  EXPECT_NE(dynamic_cast<clsAI_Normal*>(standard.AI.get()), nullptr);
+  EXPECT_EQ(standard.CreditsRef->Value, 250);
+  EXPECT_EQ(standard.Wager, -1);
+  EXPECT_EQ(standard.DeckRef, player.ArcadeDeck);
+  EXPECT_EQ(CountCards(standard.CardsRef->getValue()), 240);
+
+  player.ArcadeOpp_Opt = 1;
+  player.ArcadeAI_Opt = 1;
+  const clsGame ember(player, portraits);
+  EXPECT_EQ(ember.OppName, "H6-J8");
+  EXPECT_NE(dynamic_cast<clsAI_Ember*>(ember.AI.get()), nullptr);
+  player.ArcadeOpp_Opt = 2;
+  EXPECT_EQ(clsGame(player, portraits).OppName, "");
+  EXPECT_EQ(asked, (std::vector<std::string>{"7:", "5:0", "7:", "45:0"}));
+}
+
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

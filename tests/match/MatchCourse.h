@@ -14,11 +14,7 @@ class MatchCourse {
  public:
   explicit MatchCourse(const std::string& mode = std::string(kModeArcade), MatchOptions options = {})
       : network(mode != kModeArcade), table(TheDeal(mode, options)) {
-    table.strategy.turns = {[](AiOperations& side) {
-                              side.AI_PlayCard(1);
-                              side.AI_EndTurn();
-                            },
-                            [](AiOperations& side) { side.AI_Stand(); }};
+    table.strategy.turns = {PlayFirst, StandOpponent};
   }
 
   /// The pauses of the course at normal speed, in Slate or in a network match, in milliseconds.
@@ -87,7 +83,7 @@ class MatchCourse {
 inline void PlaySets(MatchTable& table, int sets) {
   for (int set = 1; set <= sets; ++set) {
     if (set == 1) table.Start();
-    table.strategy.turns = {[](AiOperations& side) { side.AI_Stand(); }};
+    table.strategy.turns = {StandOpponent};
     table.Stand();
     if (set < sets) table.Continue();
   }

@@ -1,35 +1,24 @@
 // What happened in a match, told once each and for both sides: whoever hears the events alone knows every
-// card and every total.
+// card and every total. And what the screen is told, and when, as a player sees and hears it.
 #include <gtest/gtest.h>
 
-#include "ai/clsAI_Ember.h"
-#include "ai/clsAI_Normal.h"
-#include "match/Dealing.h"
-#include "match/HeadlessMatch.h"
 #include "match/MatchCourse.h"
 #include "support/EventLog.h"
-#include "support/MatchTable.h"
+#include "support/Rows.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
-using test::EventLog;
-using test::MatchTable;
 using Lines = std::vector<std::string>;
 
 struct Told {
-  explicit Told(const test::Deal& deal) : table(deal) {
+  explicit Told(const Deal& deal) : table(deal) {
     table.engine->setObserver(&log);
     table.Start();
   }
   EventLog log;
   MatchTable table;
 };
-
-void PlayFirst(AiOperations& side) {
-  side.AI_PlayCard(1);
-  side.AI_EndTurn();
-}
 
 TEST(Events, AMatchFromItsFirstCardToAForfeit) {
   Told told({.hand = {"fp2", "s299", "s399", "ps4"},
@@ -38,7 +27,7 @@ TEST(Events, AMatchFromItsFirstCardToAForfeit) {
   MatchTable& table = told.table;
   table.engine->person().FirstFlip(1);
   table.Play(1);
-  table.strategy.turns = {PlayFirst, test::StandOpponent};
+  table.strategy.turns = {PlayFirst, StandOpponent};
   table.EndTurn();
   table.Play(3);
   table.Stand();
@@ -68,7 +57,7 @@ TEST(Events, AMatchFromItsFirstCardToAForfeit) {
 TEST(Events, ATurnThatEndsByItselfIsToldAndOneThatOnlyPassesIsNot) {
   for (const std::string_view mode : {kModeArcade, kModeNetwork}) {
     EventLog log;
-    test::MatchCourse course{std::string(mode)};
+    MatchCourse course{std::string(mode)};
     course.table.engine->setObserver(&log);
     course.Play();
     const auto times = [&](const char* line) { return std::count(log.lines.begin(), log.lines.end(), line); };
@@ -77,21 +66,6 @@ TEST(Events, ATurnThatEndsByItselfIsToldAndOneThatOnlyPassesIsNot) {
     EXPECT_EQ(times("opponent ends"), 1) << mode;
     EXPECT_EQ(times("opponent stands"), 1) << mode;
   }
-}
-
-TEST(Events, AMatchThatIsWonIsDecidedAndBookedOnce) {
-  Told told(test::ThreeSets(10, 9));
-  for (int set = 1; set <= kSetsToWin; ++set) {
-    told.table.strategy.turns = {test::StandOpponent};
-    told.table.game.CreditsRef = std::make_shared<clsLong>();
-    told.table.game.CreditsRef->Value = 90;
-    told.table.Stand();
-    told.table.Continue();
-  }
-  const Lines end(told.log.lines.end() - 3, told.log.lines.end());
-  EXPECT_EQ(end, (Lines{"player wins the set 10:9, the last", "player wins the match 3:0",
-                        "booked won 10: 90 to 90"}));
-  EXPECT_EQ(std::count(told.log.lines.begin(), told.log.lines.end(), "player wins the match 3:0"), 1);
 }
 
 /// The rule that decided the set that the table shows, when it closes on `closing`.
@@ -138,31 +112,97 @@ TEST(Events, AllObserversOfAMatchHearTheSame) {
   EXPECT_GT(second.lines.size(), heard);
 }
 
-/// The tables that the events make, beside those of the engine.
-TEST(Events, PlayedAgainTheyGiveTheEnginesTablesAtEveryStep) {
-  clsAI_Normal standard;
-  clsAI_Ember ember;
-  SeededRandom random(31);
-  const clsDeckArray special = OpponentDeck("H6-J8");
-  for (int match = 0; match < 2000; ++match) {
-    EventLog log;
-    int different = 0;
-    const auto compare = [&](const MatchEngine& engine) {
-      if (!engine.peer().betweenSets()) return;
-      for (const Seat seat : {Seat::Player, Seat::Opponent}) {
-        different += log.tables.at(static_cast<std::size_t>(seat)) == engine.shown().Table(seat) ? 0 : 1;
-      }
-    };
-    const HeadlessResult result =
-        PlayHeadless({standard, ember, special, special, {}, &log}, random, compare);
-    ASSERT_EQ(log.wrongTotals, 0) << match;
-    ASSERT_EQ(different, 0) << match;
-    const auto sets = std::count_if(log.events.begin(), log.events.end(), [](const MatchEvent& event) {
-      return std::holds_alternative<event::SetDecided>(event);
-    });
-    ASSERT_EQ(sets, result.sets) << match;
+using Lines = std::vector<std::string>;
+
+TEST(Told, ATurnFromItsLightToItsEnd) {
+  MatchTable table({.hand = {"ps3"}, .draws = {7, 5, 9}});
+  table.Start();
+  EXPECT_EQ(table.screen.story, (Lines{"pause 350", "your light on", "sound turn", "pause 380", "sound draw",
+                                       "end turn on", "stand on", "forfeit on", "flips on", "hand on"}));
+  table.screen.story.clear();
+  table.Play(1);
+  EXPECT_EQ(table.screen.story, (Lines{"hand off", "sound playcard"})) << "the hand is dimmed, nothing else";
+  table.screen.story.clear();
+  table.EndTurn();
+  EXPECT_EQ(table.screen.story, (Lines{"your light off", "end turn off", "stand off", "forfeit off",
+                                       "their light on", "sound turn", "pause 380", "sound draw", "pause 250",
+                                       "their light off", "your light on", "sound turn", "pause 380",
+                                       "sound draw", "end turn on", "stand on", "forfeit on", "hand on"}));
+}
+
+TEST(Told, ATableIsDimmedWhenItsSideStandsAndLitWithTheNextSet) {
+  MatchTable table({.draws = {7, 5, 9, 4, 6, 8}});
+  table.strategy.turns = {EndOpponent, StandOpponent};
+  table.Start();
+  table.screen.story.clear();
+  table.Stand();
+  EXPECT_EQ(table.screen.Lines({"table", "light", "set", "banner"}),
+            (Lines{"your light off", "your table off", "their light on", "their light off", "their light on",
+                   "their table off", "their light off", "sound loseset", "banner on"}));
+  table.screen.story.clear();
+  table.Continue();
+  EXPECT_EQ(
+      table.screen.Lines({"table", "banner", "pause", "your light"}),
+      (Lines{"your table on", "their table on", "pause 350", "banner off", "your light on", "pause 380"}));
+  table.screen.story.clear();
+  table.strategy.turns = {StandOpponent};
+  table.EndTurn();
+  EXPECT_TRUE(table.screen.controls.table[0]);
+  EXPECT_FALSE(table.screen.controls.table[1]) << "the opponent has stood, the player has not";
+}
+
+TEST(Told, ADecidedSetDimsBothTables) {
+  MatchTable table({.draws = {5}});
+  table.Start();
+  table.LoadTable(Seat::Player, {"no10", "no10"});
+  table.inPause = [&] { EXPECT_EQ(table.screen.controls.table, (std::array<bool, 2>{false, false})); };
+  table.EndTurn();
+  EXPECT_EQ(table.screen.banner.text, "The opponent wins the set.");
+}
+
+TEST(Told, TheBannersButtonIsItselfAgainAsSoonAsThePeerHasComeToo) {
+  MatchTable table({.draws = {9, 7}, .mode = std::string(kModeNetwork), .hosting = true});
+  table.Start();
+  EXPECT_FALSE(table.screen.controls.hand) << "the peer is not there yet";
+  table.PeerReady();
+  table.Stand();
+  table.PeerStands(5);
+  table.Continue();
+  EXPECT_EQ(table.screen.banner.caption, "(waiting)");
+  int pauses = 0;
+  table.inPause = [&] {
+    if (++pauses > 1) return;
+    EXPECT_EQ(table.screen.banner.caption, "continue") << "before the set begins";
+  };
+  table.PeerReady();
+  EXPECT_GE(pauses, 1);
+  EXPECT_FALSE(table.screen.banner.visible);
+}
+
+TEST(Sounds, BustIsHeardAtTwentyOneAndAfterTheDraw) {
+  for (const auto& [before, bust] :
+       Rows<std::vector<const char*>, bool>{{{"no10", "no5"}, false}, {{"no10", "no6"}, true}}) {
+    for (const bool opponent : {false, true}) {
+      MatchTable table({.draws = {5, 5}, .playerStarts = !opponent});
+      table.engine->Activate();
+      table.LoadTable(opponent ? Seat::Opponent : Seat::Player, before);
+      table.engine->GameTick();
+      EXPECT_EQ(table.screen.Lines({"sound"}), bust ? (Lines{"sound turn", "sound draw", "sound bust"})
+                                                    : (Lines{"sound turn", "sound draw"}))
+          << opponent;
+    }
   }
 }
 
+TEST(Sounds, APlayedCardIsHeardOnEitherSide) {
+  MatchTable table({.hand = {"ps3"}, .opponentHand = {"ps9"}, .draws = {10, 8, 2}});
+  table.strategy.turns = {PlayFirst};
+  table.Start();
+  table.Play(1);
+  table.sounds.clear();
+  table.EndTurn();
+  EXPECT_EQ(table.sounds, (Lines{"turn", "draw", "playcard", "turn", "draw"}));
+}
+
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -8,15 +8,13 @@
 #include "support/MemorySettings.h"
 #include "support/ScriptedDialogs.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
-
-using test::MatchTable;
 
 class GuideTest : public testing::Test {
  protected:
   struct Guided {
-    Guided(GuideTest& test, const test::Deal& deal)
+    Guided(GuideTest& test, const Deal& deal)
         : table(deal), guide(table.game, test.player, &test.settings, table.engine->shown()) {
       table.engine->setObserver(&guide);
     }
@@ -33,9 +31,9 @@ class GuideTest : public testing::Test {
     MatchGuide guide;
   };
 
-  test::MemorySettings store;
+  MemorySettings store;
   Settings settings{store};
-  test::ScriptedDialogs dialogs;
+  ScriptedDialogs dialogs;
   SeededRandom random{1};
   clsPlayer player{dialogs, random};
 };
@@ -72,7 +70,7 @@ TEST_F(GuideTest, IsOfferedOnceInTheFirstArcadeMatchOnly) {
 
 TEST_F(GuideTest, AnOfferThatNobodyAnswersGoesWithTheSet) {
   Guided match(*this, {.draws = {10, 9, 8}});
-  match.table.strategy.turns = {test::StandOpponent};
+  match.table.strategy.turns = {StandOpponent};
   match.Start();
   EXPECT_EQ(match.guide.now(), Guidance::Offer);
   match.table.Stand();
@@ -132,4 +130,4 @@ TEST_F(GuideTest, WhatWasNotSeenWaitsForTheNextMatch) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -2,50 +2,10 @@
 #include <gtest/gtest.h>
 
 #include "match/MatchCourse.h"
+#include "support/Rows.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
-
-using test::MatchCourse;
-using test::MatchTable;
-
-TEST(Turn, LowTotalsEndByThemselvesUnlessTheOpponentStandsBehind) {
-  MatchTable table({.draws = {4, 3, 5, 2, 7}, .options = {.turnMode = 1, .autoTurn = true}});
-  table.Start();
-  EXPECT_EQ(table.Cards(Seat::Player), "no4 no5 no7");
-  EXPECT_TRUE(table.engine->shown().controls.endTurn);
-
-  MatchTable behind({.draws = {3, 3, 1}, .options = {.turnMode = 1, .autoTurn = true}});
-  behind.strategy.turns = {test::StandOpponent};
-  behind.Start();
-  EXPECT_EQ(behind.Cards(Seat::Player), "no3 no1") << "4 against a standing 3 is the player's to decide";
-  EXPECT_TRUE(behind.engine->shown().controls.stand);
-}
-
-TEST(AutoDialogs, ConfirmAfterTheirTick) {
-  MatchTable table({.draws = {9, 5, 7}, .options = {.turnMode = 1, .autoDialogs = true}});
-  table.strategy.turns = {test::StandOpponent};
-  table.Start();
-  table.Stand();
-  EXPECT_TRUE(table.autoTimer);
-  EXPECT_FALSE(table.engine->shown().banner.buttonEnabled);
-  table.engine->Continue();
-  EXPECT_TRUE(table.engine->shown().banner.visible) << "the disabled button does nothing";
-  table.engine->AutoDialogsTick();
-  table.Run();
-  EXPECT_FALSE(table.engine->shown().banner.visible);
-  EXPECT_EQ(table.Cards(Seat::Player), "no7");
-}
-
-TEST(MainDeck, HoldsFourOfEachValue) {
-  MatchTable table({.draws = {3, 3, 3, 3, 3, 3, 8, 1}});
-  table.engine->Activate();
-  for (int i = 0; i < 4; ++i) table.engine->board().DeductDrawCard(3);
-  table.Run();
-  EXPECT_EQ(table.Cards(Seat::Player), "no8");
-  EXPECT_THROW(table.engine->board().DeductDrawCard(0), std::out_of_range);
-  EXPECT_THROW(table.engine->board().DeductDrawCard(11), std::out_of_range);
-}
 
 TEST(MainDeck, ReportedDrawsWithoutEndDoNotStopTheNext) {
   MatchTable table({.draws = {8}});
@@ -55,16 +15,18 @@ TEST(MainDeck, ReportedDrawsWithoutEndDoNotStopTheNext) {
   }
   table.Run();
   EXPECT_EQ(table.Cards(Seat::Player), "no8");
+  EXPECT_THROW(table.engine->board().DeductDrawCard(0), std::out_of_range);
+  EXPECT_THROW(table.engine->board().DeductDrawCard(11), std::out_of_range);
 }
 
 /// Who begins each of three sets: "p" the player, "o" the opponent. Every set is tied on 5.
 std::string Starters(MatchOptions options, int firstDraw, const std::string& mode = std::string(kModeArcade),
                      bool hosting = true) {
-  test::Deal deal{.draws = {}, .options = options, .mode = mode, .hosting = hosting};
+  Deal deal{.draws = {}, .options = options, .mode = mode, .hosting = hosting};
   if (firstDraw > 0) deal.draws = {firstDraw};
   deal.draws.insert(deal.draws.end(), 6, 5);
   MatchTable table(deal);
-  table.strategy.turns.assign(3, test::StandOpponent);
+  table.strategy.turns.assign(3, StandOpponent);
   if (!hosting) table.engine->peer().setPlayerStarts(true);
   const bool network = mode != kModeArcade;
   table.Start();
@@ -75,6 +37,8 @@ std::string Starters(MatchOptions options, int firstDraw, const std::string& mod
     table.Stand();
     table.PeerStands(5);
     EXPECT_EQ(table.screen.banner.text, "The set is tied.");
+    EXPECT_TRUE(table.Heard("tie"));
+    EXPECT_EQ(table.engine->shown().SetWins(Seat::Player) + table.engine->shown().SetWins(Seat::Opponent), 0);
     starters += table.screen.Lines({"light on"}).at(0) == "your light on" ? "p" : "o";
     table.screen.story.clear();
     if (starters.size() < 3) table.Continue();
@@ -101,28 +65,20 @@ TEST(Starts, AlternateInANetworkMatchWhateverTheOption) {
 }
 
 TEST(Pace, FollowsStyleAndSpeed) {
-  struct Case {
-    int speed;
-    bool ember;
-    std::vector<int> pauses;  // milliseconds, of a set that knows every pause
-  };
-  for (const Case& c : {Case{0, false, {380, 440, 374, 440, 280, 175, 440, 125, 440, 440, 280, 293}},
-                        Case{1, false, {350, 380, 323, 380, 250, 175, 380, 125, 380, 380, 250, 253}},
-                        Case{2, false, {320, 320, 272, 320, 220, 175, 320, 125, 320, 320, 220, 213}},
-                        Case{0, true, {380, 270, 229, 270, 280, 175, 270, 125, 270, 270, 280, 180}},
-                        Case{1, true, {350, 210, 178, 210, 250, 175, 210, 125, 210, 210, 250, 140}},
-                        Case{2, true, {320, 150, 127, 150, 220, 175, 150, 125, 150, 150, 220, 100}}}) {
-    MatchCourse course(std::string(kModeArcade), {.speed = c.speed, .emberStyle = c.ember});
+  // In milliseconds, of a set that knows every pause.
+  for (const auto& [speed, ember, pauses] : Rows<int, bool, std::vector<int>>{
+           {0, false, {380, 440, 374, 440, 280, 175, 440, 125, 440, 440, 280, 293}},
+           {1, false, {350, 380, 323, 380, 250, 175, 380, 125, 380, 380, 250, 253}},
+           {-1, false, {350, 380, 323, 380, 250, 175, 380, 125, 380, 380, 250, 253}},
+           {3, false, {350, 380, 323, 380, 250, 175, 380, 125, 380, 380, 250, 253}},
+           {250, false, {350, 380, 323, 380, 250, 175, 380, 125, 380, 380, 250, 253}},
+           {2, false, {320, 320, 272, 320, 220, 175, 320, 125, 320, 320, 220, 213}},
+           {0, true, {380, 270, 229, 270, 280, 175, 270, 125, 270, 270, 280, 180}},
+           {1, true, {350, 210, 178, 210, 250, 175, 210, 125, 210, 210, 250, 140}},
+           {2, true, {320, 150, 127, 150, 220, 175, 150, 125, 150, 150, 220, 100}}}) {
+    MatchCourse course(std::string(kModeArcade), {.speed = speed, .emberStyle = ember});
     course.Play();
-    EXPECT_EQ(course.table.pauses, c.pauses) << c.speed << (c.ember ? " Ember" : " Slate");
-  }
-}
-
-TEST(Pace, OfAnUnknownSpeedIsNormal) {
-  for (const int speed : {-1, 3, 250}) {
-    MatchCourse course(std::string(kModeArcade), {.speed = speed});
-    course.Play();
-    EXPECT_EQ(course.table.pauses, MatchCourse::Pauses(std::string(kModeArcade))) << speed;
+    EXPECT_EQ(course.table.pauses, pauses) << speed << (ember ? " Ember" : " Slate");
   }
 }
 
@@ -140,7 +96,7 @@ TEST(Pace, OfTheTurnsIsTheSameForBothSidesOfANetworkMatch) {
 
 TEST(Pace, AnAutomaticStandIsWaitedForOnce) {
   MatchTable table({.hand = {"ps10"}, .draws = {10, 3, 4}});
-  table.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); }, test::StandOpponent};
+  table.strategy.turns = {EndOpponent, StandOpponent};
   table.Start();
   table.pauses.clear();
   table.Play(1);
@@ -149,16 +105,11 @@ TEST(Pace, AnAutomaticStandIsWaitedForOnce) {
 }
 
 TEST(AutoTurn, EndsATurnBelowTen) {
-  struct Case {
-    int drawn;
-    bool option;
-    bool ends;
-  };
-  for (const Case& c :
-       {Case{9, true, true}, Case{10, true, false}, Case{9, false, false}, Case{1, true, true}}) {
-    MatchTable table({.draws = {c.drawn, 5, 9}, .options = {.turnMode = 1, .autoTurn = c.option}});
+  for (const auto& [drawn, option, ends] :
+       Rows<int, bool, bool>{{9, true, true}, {10, true, false}, {9, false, false}, {1, true, true}}) {
+    MatchTable table({.draws = {drawn, 5, 9}, .options = {.turnMode = 1, .autoTurn = option}});
     table.Start();
-    EXPECT_EQ(table.strategy.asked, c.ends ? 1 : 0) << c.drawn;
+    EXPECT_EQ(table.strategy.asked, ends ? 1 : 0) << drawn;
     EXPECT_TRUE(table.screen.controls.endTurn);
   }
 }
@@ -166,7 +117,7 @@ TEST(AutoTurn, EndsATurnBelowTen) {
 TEST(AutoTurn, LeavesTheTurnToAPlayerWhoIsNotBehindAStandingOpponent) {
   for (const int drawn : {4, 5, 6}) {
     MatchTable table({.draws = {5, drawn, 9}, .playerStarts = false, .options = {.autoTurn = true}});
-    table.strategy.turns = {test::StandOpponent};
+    table.strategy.turns = {StandOpponent};
     table.Start();
     EXPECT_EQ(table.engine->shown().Table(Seat::Player).size(), drawn < 5 ? 2U : 1U) << drawn << " against 5";
   }
@@ -199,8 +150,7 @@ TEST(AutoDialogs, ConfirmTheEndOfTheMatchToo) {
 
 TEST(MainDeck, AFifthCopyIsDrawnAgainAndEverySetHasAWholeDeck) {
   MatchTable table({.draws = {3, 3, 3, 3, 3, 8, 5, 3}});
-  table.strategy.turns = {[](AiOperations& side) { side.AI_EndTurn(); },
-                          [](AiOperations& side) { side.AI_EndTurn(); }, test::StandOpponent};
+  table.strategy.turns = {EndOpponent, EndOpponent, StandOpponent};
   table.Start();
   table.EndTurn();
   table.EndTurn();
@@ -230,4 +180,4 @@ TEST(MainDeck, IsOneForBothSidesOfANetworkMatch) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -3,13 +3,8 @@
 
 #include "match/MatchCourse.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
-
-using test::MatchCourse;
-using test::MatchTable;
-using test::PlaySets;
-using test::ThreeSets;
 
 const std::string kModes[] = {std::string(kModeArcade), std::string(kModeNetwork)};
 
@@ -41,6 +36,9 @@ TEST(Pauses, AForfeitInAnyOfThemIsAskedForAfterItAndEndsTheMatchOnce) {
       EXPECT_EQ(table.engine->shown().SetWins(Seat::Opponent), 3);
       EXPECT_EQ(table.screen.banner.text, "You have been defeated.");
       EXPECT_TRUE(table.screen.AllDark());
+      EXPECT_TRUE(table.screen.controls.titlebar) << "which closes the match that was given up here";
+      EXPECT_TRUE(table.Heard("losematch"));
+      EXPECT_EQ(table.screen.story.back(), "banner on");
       EXPECT_EQ(table.Sent("[Forf]"), course.network ? 1 : 0);
       const std::vector<std::string> story = table.screen.story;
       course.TryEverything();
@@ -69,6 +67,7 @@ TEST(Pauses, ThePeersForfeitInAnyOfThemWinsAtOnce) {
     EXPECT_EQ(table.screen.banner.text, "You have defeated your opponent!");
     EXPECT_TRUE(table.screen.AllDark());
     EXPECT_FALSE(table.screen.controls.titlebar);
+    EXPECT_TRUE(table.Heard("winmatch"));
     course.TryEverything();
     EXPECT_EQ(table.screen.story, story) << "the turn that was cut short goes no step further";
     EXPECT_EQ(table.sent, sent);
@@ -157,7 +156,7 @@ TEST(Forfeit, TheAnswerIsWeighedAgainstWhatHappenedBehindTheQuestion) {
     } else {
       table.Start();
     }
-    table.strategy.turns = {test::StandOpponent};
+    table.strategy.turns = {StandOpponent};
     table.inQuestion = [&] {
       table.engine->person().Stand();
       table.engine->GameTick();
@@ -216,20 +215,5 @@ TEST(Forfeit, AsABannerWaitsForThePeerGivesItsButtonBack) {
   }
 }
 
-TEST(Forfeit, AQuestionThatOutlivesTheMatchIsDropped) {
-  MatchTable table({.draws = {9, 5, 9, 5, 9, 5}});
-  for (int set = 0; set < 3; ++set) table.strategy.turns.emplace_back(test::StandOpponent);
-  table.Start();
-  table.inQuestion = [&] {
-    for (int set = 1; set <= 3; ++set) {
-      table.Stand();
-      if (set < 3) table.Continue();
-    }
-  };
-  table.engine->person().Forfeit();
-  EXPECT_EQ(table.booked, 1);
-  EXPECT_EQ(table.bookings, 1);
-}
-
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

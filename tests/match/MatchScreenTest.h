@@ -3,10 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-#include <string>
-#include <vector>
-
 #include "support/MatchScreen.h"
 #include "support/ScreenHand.h"
 
@@ -21,10 +17,21 @@ class MatchScreenTest : public testing::TestWithParam<const char*> {
   MatchScreen& Begin(std::vector<int> draws, std::vector<const char*> hand = {"ps3", "fp2", "s11", "s51"}) {
     MatchScreenSetup setup = Setup(std::move(draws));
     setup.hand = std::move(hand);
+    return Begin(setup);
+  }
+  /// The same with the player's options changed.
+  MatchScreen& BeginWith(const std::function<void(clsPlayer&)>& options, std::vector<int> draws = {4}) {
+    MatchScreenSetup setup = Setup(std::move(draws));
+    setup.options = options;
+    return Begin(setup);
+  }
+  MatchScreen& Begin(const MatchScreenSetup& setup) {
     match_ = std::make_unique<MatchScreen>(setup);
     match_->Begin();
     return *match_;
   }
+  /// On the match that was begun last.
+  [[nodiscard]] ScreenHand Hand() const { return ScreenHand(*match_->screen); }
   [[nodiscard]] int StyleIndex() const { return std::string(GetParam()) == "Ember" ? 1 : 0; }
   [[nodiscard]] const MatchGrid& grid() const {
     return kMatchGrids.at(static_cast<std::size_t>(StyleIndex()));

@@ -11,10 +11,8 @@
 #include "support/Position.h"
 #include "vantri-strength/Tournament.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
-
-using test::PositionOf;
 
 /// Plays as another strategy does and keeps the position, and the chance to come, of one of its turns.
 class Keeper final : public Strategy {
@@ -119,4 +117,4 @@ TEST(PossibleMoves, EveryCardWithEverySignThatIsWorthATry) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

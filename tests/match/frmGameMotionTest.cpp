@@ -1,9 +1,6 @@
 // What moves on the match screen: it changes nothing of the match, ends where the controls stand, and can be
 // cut off at any moment.
-#include <gtest/gtest.h>
-
 #include <QApplication>
-#include <cstdlib>
 
 #include "ai/clsAI_Ember.h"
 #include "ai/clsAI_Normal.h"
@@ -11,14 +8,10 @@
 #include "platform/QtStillStyle.h"
 #include "support/EventLog.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
-using test::MatchScreen;
-using test::MatchScreenSetup;
-using test::ScreenHand;
-
-using frmGameMotionTest = test::MatchScreenTest;
+using frmGameMotionTest = MatchScreenTest;
 
 INSTANTIATE_TEST_SUITE_P(Styles, frmGameMotionTest, testing::Values("Slate", "Ember"),
                          [](const auto& style) { return std::string(style.param); });
@@ -61,7 +54,7 @@ class ScreenLog final : public MatchObserver {
 
  private:
   MatchScreen& match_;
-  test::EventLog events_;
+  EventLog events_;
 };
 
 /// The click that accepts them is the person's own.
@@ -150,10 +143,7 @@ const std::vector<MovingMoment>& Moments() {
 struct Played {
   Played(const MovingMoment& each, const char* style)
       : match({.style = style, .hand = {"ps3", "fp2", "s399", "s299"}, .draws = each.draws}) {
-    match.strategy.turns = {[](AiOperations& side) {
-      side.AI_PlayCard(1);
-      side.AI_Stand();
-    }};
+    match.strategy.turns = {PlayFirstAndStand};
     match.Begin();
     each.act(match);
   }
@@ -210,10 +200,8 @@ TEST_P(frmGameMotionTest, TheScreenClosesInTheMiddleOfEachMotion) {
 /// The scene of a win, ended by a key that still does what it does.
 TEST_P(frmGameMotionTest, AKeyEndsTheSceneOfAWinAndGoesOn) {
   for (const bool autoDialogs : {false, true}) {
-    MatchScreenSetup setup = Setup({2});
-    setup.options = [autoDialogs](clsPlayer& player) { player.AutoDialogs_Opt = autoDialogs; };
-    MatchScreen match(setup);
-    match.Begin();
+    MatchScreen& match =
+        BeginWith([autoDialogs](clsPlayer& player) { player.AutoDialogs_Opt = autoDialogs; }, {2});
     match.engine().peer().OppForfeit();
     match.scheduler.Advance(680);
     EXPECT_EQ(match.screen->motionLayer().moving(), !autoDialogs) << "longer than marker and banner need";
@@ -255,4 +243,4 @@ TEST_P(frmGameMotionTest, ALossIsQuiet) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

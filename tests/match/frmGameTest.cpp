@@ -1,21 +1,13 @@
 // The match screen under a real pointer and real keys, on the test's own clock.
-#include <gtest/gtest.h>
-
 #include <QApplication>
-#include <QMouseEvent>
-#include <QPainter>
 
 #include "match/MatchScreenTest.h"
-#include "match/frmGame.h"
+#include "support/Rows.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
-using test::MatchScreen;
-using test::MatchScreenSetup;
-using test::ScreenHand;
-
-using frmGameTest = test::MatchScreenTest;
+using frmGameTest = MatchScreenTest;
 
 INSTANTIATE_TEST_SUITE_P(Styles, frmGameTest, testing::Values("Slate", "Ember"),
                          [](const auto& style) { return std::string(style.param); });
@@ -25,15 +17,14 @@ TEST_P(frmGameTest, OpensAsItsLayoutSays) {
   EXPECT_EQ(match.screen->size(), StyleIndex() == 0 ? QSize(786, 540) : QSize(1024, 690));
   EXPECT_FALSE(match.screen->cmdTurn().Enabled());
   match.Begin();
-  EXPECT_EQ(match.screen->titlebar().Caption(), QStringLiteral("Arcade Match"));
-  EXPECT_EQ(match.screen->lblWager().text(), QStringLiteral("Wager: 10"));
+  EXPECT_EQ(match.screen->titlebar().Caption(), "Arcade Match");
+  EXPECT_EQ(match.screen->lblWager().text(), "Wager: 10");
   EXPECT_TRUE(match.screen->cmdTurn().Enabled());
-  EXPECT_EQ(match.screen->side(Seat::Player).lblTotal().text(), QStringLiteral("7"));
+  EXPECT_EQ(match.screen->side(Seat::Player).lblTotal().text(), "7");
   const ctlCard& first = *match.screen->side(Seat::Player).table().at(0);
   EXPECT_EQ(first.pos(), QPoint(qRound(grid().table.left), qRound(grid().table.top)));
-  EXPECT_EQ(first.accessibleName(), QStringLiteral("7, your table card 1"));
-  EXPECT_EQ(match.screen->hand().ctlYourDeck(2).accessibleName(),
-            QStringLiteral("flip card, plus 2, hand card 2"));
+  EXPECT_EQ(first.accessibleName(), "7, your table card 1");
+  EXPECT_EQ(match.screen->hand().ctlYourDeck(2).accessibleName(), "flip card, plus 2, hand card 2");
   EXPECT_EQ(match.screen->side(Seat::Opponent).ctlOppDeck(4).Card(), "un");
 }
 
@@ -49,18 +40,10 @@ TEST_P(frmGameTest, NothingIsCutOffOrOutside) {
 }
 
 TEST_P(frmGameTest, ALongNameIsSetSmallerOrCutAtItsEndWithTheWholeToBeAskedFor) {
-  const struct {
-    QString name;
-    bool cut;
-  } cases[] = {{QStringLiteral("Ann"), false},
-               {QStringLiteral("Alexandra Hohenstein"), false},
-               {QStringLiteral("WWWWWWWWWWWWWWWWWWW<"), true}};
-  for (const auto& [name, cut] : cases) {
-    MatchScreenSetup setup = Setup({4});
-    setup.options = [&name = name](clsPlayer& player) { player.Name = name.toStdString(); };
-    MatchScreen match(setup);
-    match.Begin();
-    const auto& label = *match.screen->findChild<QLabel*>(QStringLiteral("lblYourName"));
+  for (const auto& [name, cut] :
+       Rows<QString, bool>{{"Ann", false}, {"Alexandra Hohenstein", false}, {"WWWWWWWWWWWWWWWWWWW<", true}}) {
+    MatchScreen& match = BeginWith([&name = name](clsPlayer& player) { player.Name = name.toStdString(); });
+    const auto& label = *match.screen->findChild<QLabel*>("lblYourName");
     EXPECT_LE(label.fontMetrics().horizontalAdvance(label.text()), label.width()) << name.toStdString();
     EXPECT_EQ(label.text() != name, cut) << name.toStdString();
     EXPECT_EQ(label.text().front(), name.front());
@@ -80,20 +63,18 @@ TEST_P(frmGameTest, CardsNamesAndPortraitsLieOnThePanelOfTheStyle) {
     EXPECT_EQ(on->parentWidget(), panel) << on->objectName().toStdString();
   }
   // A card that is dragged goes over the buttons beside the panel, which are in front of it again afterwards.
-  ScreenHand hand(*match.screen);
   const ctlCard& card = match.screen->hand().ctlYourDeck(1);
-  const QPoint over = hand.CentreOf(match.screen->cmdStand());
-  hand.Press(hand.CentreOf(card));
-  hand.MoveTo(over);
+  const QPoint over = Hand().CentreOf(match.screen->cmdStand());
+  Hand().Press(Hand().CentreOf(card));
+  Hand().MoveTo(over);
   EXPECT_EQ(match.screen->childAt(over), &card);
-  hand.Release(over);
+  Hand().Release(over);
   EXPECT_EQ(match.screen->childAt(over), &match.screen->cmdStand());
 }
 
 TEST_P(frmGameTest, AWholeSetWithTheMouse) {
   MatchScreen match(Setup({9, 5, 8, 6, 7}));
-  match.strategy.turns.assign(3, [](AiOperations& side) { side.AI_EndTurn(); });
-  match.strategy.turns.back() = [](AiOperations& side) { side.AI_Stand(); };
+  match.strategy.turns = {EndOpponent, EndOpponent, StandOpponent};
   match.Begin();
   ScreenHand hand(*match.screen);
 
@@ -108,7 +89,7 @@ TEST_P(frmGameTest, AWholeSetWithTheMouse) {
   hand.Click(match.screen->cmdStand());
   match.Settle();  // the opponent plays on to 18 and stands
   EXPECT_TRUE(match.screen->banner().isVisible());
-  EXPECT_EQ(match.screen->banner().lblBust().text(), QStringLiteral("you win the set."));
+  EXPECT_EQ(match.screen->banner().lblBust().text(), "you win the set.");
   EXPECT_EQ(match.screen->side(Seat::Player).SetWinsShown(), 1);
   match.random.Add(0.25);
   hand.Click(match.screen->banner().cmdBust());
@@ -120,12 +101,11 @@ TEST_P(frmGameTest, AWholeSetWithTheMouse) {
 
 TEST_P(frmGameTest, DragAndDrop) {
   MatchScreen& match = Begin({4}, {"ps1", "ps2", "ps3", "ps4"});
-  ScreenHand hand(*match.screen);
   const ctlCard& card = match.screen->hand().ctlYourDeck(1);
   const QPoint home = card.pos();
   const QPoint half(card.width() / 2, card.height() / 2);
 
-  hand.Click(card);
+  Hand().Click(card);
   EXPECT_EQ(match.engine().shown().Total(Seat::Player), 4) << "a single click does nothing";
   // One pixel outside each edge it comes back.
   const double middleX = (grid().dropLeft + grid().dropRight) / 2;
@@ -133,57 +113,46 @@ TEST_P(frmGameTest, DragAndDrop) {
   for (const QPointF outside :
        {QPointF(grid().dropLeft - 1, middleY), QPointF(grid().dropRight + 1.5, middleY),
         QPointF(middleX, grid().dropTop - 1), QPointF(middleX, grid().dropBottom + 1)}) {
-    hand.Drag(card, {3, 3}, outside.toPoint() - half);
+    Hand().Drag(card, {3, 3}, outside.toPoint() - half);
     EXPECT_EQ(card.pos(), home);
     EXPECT_EQ(match.engine().shown().Total(Seat::Player), 4);
   }
   // The centre exactly on the corner of the area plays it.
   QPoint corner(static_cast<int>(grid().dropLeft), static_cast<int>(grid().dropTop));
   if (card.width() % 2 == 1) corner.rx() += 1;  // the centre lies between two pixels
-  hand.Drag(card, {3, 3}, corner - half);
+  Hand().Drag(card, {3, 3}, corner - half);
   EXPECT_EQ(match.engine().shown().Total(Seat::Player), 5);
   EXPECT_FALSE(card.isVisible());
   EXPECT_EQ(card.pos(), home);
 }
 
-TEST_P(frmGameTest, EndingTheTurnInTheMiddleOfADrag) {
-  MatchScreen& match = Begin({4, 5, 6});
-  ScreenHand hand(*match.screen);
-  ctlCard& card = match.screen->hand().ctlYourDeck(1);
-  const QPoint home = card.pos();
-  hand.Press(hand.CentreOf(card) - QPoint(0, card.height() / 2 - 2));
-  hand.MoveTo({300, 200});
-  EXPECT_NE(card.pos(), home);
-  hand.Key(Qt::Key_Space);
-  EXPECT_EQ(card.pos(), home);
-  hand.Release({300, 200});
-  EXPECT_EQ(match.engine().shown().Table(Seat::Player).size(), 1u);
-  match.Settle();
-  EXPECT_TRUE(card.isVisible());
-  EXPECT_TRUE(card.Enabled());
-}
-
-TEST_P(frmGameTest, ABoxInTheMiddleOfADragSendsTheCardHome) {
-  MatchScreen& match = Begin({4});
-  ScreenHand hand(*match.screen);
-  ctlCard& card = match.screen->hand().ctlYourDeck(1);
-  const QPoint home = card.pos();
-  hand.Press(hand.CentreOf(card) - QPoint(0, card.height() / 2 - 2));
-  hand.MoveTo({300, 200});
-  // A modal box blocks the window and swallows the release of the button.
-  QEvent blocked(QEvent::WindowBlocked);
-  QCoreApplication::sendEvent(match.screen.get(), &blocked);
-  EXPECT_EQ(card.pos(), home);
-  QMouseEvent hover(QEvent::MouseMove, QPointF(10, 10), QPointF(10, 10), Qt::NoButton, Qt::NoButton, {});
-  QCoreApplication::sendEvent(&card, &hover);
-  EXPECT_EQ(card.pos(), home) << "the card does not stick to the pointer";
-  hand.Release({300, 200});
-  EXPECT_EQ(match.engine().shown().Table(Seat::Player).size(), 1u);
+TEST_P(frmGameTest, TheEndOfTheTurnOrABoxInTheMiddleOfADragSendsTheCardHome) {
+  for (const bool box : {false, true}) {
+    MatchScreen& match = Begin({4, 5, 6});
+    ctlCard& card = match.screen->hand().ctlYourDeck(1);
+    const QPoint home = card.pos();
+    Hand().Press(Hand().CentreOf(card) - QPoint(0, card.height() / 2 - 2));
+    Hand().MoveTo({300, 200});
+    EXPECT_NE(card.pos(), home);
+    if (box) {  // a modal one blocks the window and swallows the release of the button
+      QEvent blocked(QEvent::WindowBlocked);
+      QCoreApplication::sendEvent(match.screen.get(), &blocked);
+    } else {
+      Hand().Key(Qt::Key_Space);
+    }
+    EXPECT_EQ(card.pos(), home);
+    QMouseEvent hover(QEvent::MouseMove, QPointF(10, 10), QPointF(10, 10), Qt::NoButton, Qt::NoButton, {});
+    QCoreApplication::sendEvent(&card, &hover);
+    EXPECT_EQ(card.pos(), home) << "the card does not stick to the pointer";
+    Hand().Release({300, 200});
+    EXPECT_EQ(match.engine().shown().Table(Seat::Player).size(), 1u);
+    match.Settle();
+    EXPECT_TRUE(card.isVisible() && card.Enabled());
+  }
 }
 
 TEST_P(frmGameTest, FlipButtons) {
   MatchScreen& match = Begin({4}, {"ps3", "fp2", "s11", "s51"});
-  ScreenHand hand(*match.screen);
   frmGameHand& cards = match.screen->hand();
   EXPECT_FALSE(cards.imgFlip(1).isVisible());
   EXPECT_TRUE(cards.imgFlip(2).isVisible());
@@ -191,7 +160,7 @@ TEST_P(frmGameTest, FlipButtons) {
   EXPECT_TRUE(cards.imgFlip2(4).isVisible());
   EXPECT_TRUE(cards.imgFlipFooter().isVisible());
 
-  hand.MoveTo(hand.CentreOf(cards.imgFlip(2)));
+  Hand().MoveTo(Hand().CentreOf(cards.imgFlip(2)));
   EXPECT_TRUE(cards.imgFlip(2).hovered());
   // Without the rounded border, through which the panel shines.
   const auto shown = [](ctlFlip& flip) {
@@ -203,47 +172,42 @@ TEST_P(frmGameTest, FlipButtons) {
   EXPECT_EQ(shown(cards.imgFlip(2)), pictured(cards.imgFlip(2), cards.imgFlip_On()));
   EXPECT_NE(shown(cards.imgFlip(3)), pictured(cards.imgFlip(3), cards.imgFlip_On())) << "a plain one";
   EXPECT_NE(shown(cards.imgFlip2(4)), pictured(cards.imgFlip2(4), cards.imgFlip2_On()));
-  hand.Click(cards.imgFlip(2));
+  Hand().Click(cards.imgFlip(2));
   EXPECT_EQ(cards.ctlYourDeck(2).Card(), "fm2");
-  hand.Click(cards.imgFlip2(4));
+  Hand().Click(cards.imgFlip2(4));
   EXPECT_EQ(cards.ctlYourDeck(4).Card(), "s52");
-  hand.Key(Qt::Key_3, Qt::ShiftModifier);
+  Hand().Key(Qt::Key_3, Qt::ShiftModifier);
   EXPECT_EQ(cards.ctlYourDeck(3).Card(), "s1-1");
-  hand.Key(Qt::Key_F);
+  Hand().Key(Qt::Key_F);
   EXPECT_EQ(cards.ctlYourDeck(4).Card(), "s51");
-  hand.MoveTo({5, match.screen->height() / 2});
+  Hand().MoveTo({5, match.screen->height() / 2});
   EXPECT_FALSE(cards.imgFlip(2).hovered());
 
-  hand.Key(Qt::Key_4);
+  Hand().Key(Qt::Key_4);
   EXPECT_FALSE(cards.imgFlip2Footer().isVisible()) << "no button of the row is left";
   EXPECT_FALSE(cards.imgFlip2(4).isVisible());
 }
 
 TEST_P(frmGameTest, KeysEndAndStandAndNothingElse) {
   MatchScreen& match = Begin({4, 5, 6});
-  ScreenHand hand(*match.screen);
-  hand.Key(Qt::Key_X);
-  hand.Key(Qt::Key_F5);
+  Hand().Key(Qt::Key_X);
+  Hand().Key(Qt::Key_F5);
   EXPECT_TRUE(match.screen->cmdTurn().Enabled());
-  hand.Key(Qt::Key_Space);
+  Hand().Key(Qt::Key_Space);
   EXPECT_FALSE(match.screen->cmdTurn().Enabled());
-  hand.Key(Qt::Key_Space);  // not the player's turn
-  hand.Key(Qt::Key_1);
+  Hand().Key(Qt::Key_Space);  // not the player's turn
+  Hand().Key(Qt::Key_1);
   EXPECT_EQ(match.engine().shown().Table(Seat::Player).size(), 1u);
   match.Settle();
-  hand.Key(Qt::Key_Tab);
+  Hand().Key(Qt::Key_Tab);
   EXPECT_TRUE(match.engine().shown().Stood(Seat::Player));
 }
 
 TEST_P(frmGameTest, EverythingByFocusWhenTheGameKeysAreOff) {
-  MatchScreenSetup setup = Setup({4});
-  setup.options = [](clsPlayer& player) { player.KeysEn = false; };
-  MatchScreen match(setup);
-  match.Begin();
-  ScreenHand hand(*match.screen);
+  MatchScreen& match = BeginWith([](clsPlayer& player) { player.KeysEn = false; });
   std::vector<const QWidget*> reached;
   for (int i = 0; i < 14; ++i) {
-    hand.Key(Qt::Key_Tab);
+    Hand().Key(Qt::Key_Tab);
     if (const QWidget* widget = QApplication::focusWidget()) reached.push_back(widget);
   }
   const auto has = [&](const QWidget& widget) {
@@ -254,7 +218,7 @@ TEST_P(frmGameTest, EverythingByFocusWhenTheGameKeysAreOff) {
   EXPECT_TRUE(has(match.screen->hand().ctlYourDeck(1)));
   EXPECT_TRUE(has(match.screen->hand().imgFlip(2)));
   match.screen->hand().ctlYourDeck(1).setFocus();
-  hand.Key(Qt::Key_Return);
+  Hand().Key(Qt::Key_Return);
   EXPECT_EQ(match.engine().shown().Total(Seat::Player), 7);
 }
 
@@ -265,8 +229,8 @@ TEST_P(frmGameTest, NoKeyDoesAnythingInANetworkMatch) {
   match.engine().peer().setPlayerStarts(true);
   match.ready = true;
   match.Begin();
-  EXPECT_EQ(match.screen->lblWager().text(), QStringLiteral("Wager: 10\nBonus: 1"));
-  EXPECT_EQ(match.screen->titlebar().Caption(), QStringLiteral("Network Match"));
+  EXPECT_EQ(match.screen->lblWager().text(), "Wager: 10\nBonus: 1");
+  EXPECT_EQ(match.screen->titlebar().Caption(), "Network Match");
   ScreenHand hand(*match.screen);
   // It is the player's turn: in any other match each of these would act.
   ASSERT_TRUE(match.engine().shown().controls.hand && match.engine().shown().controls.flips);
@@ -283,33 +247,31 @@ TEST_P(frmGameTest, NoKeyDoesAnythingInANetworkMatch) {
 
 TEST_P(frmGameTest, PortraitsAndLights) {
   MatchScreen& match = Begin({4});
-  ScreenHand hand(*match.screen);
   FadeTarget& yours = match.screen->side(Seat::Player).portrait();
   FadeTarget& theirs = match.screen->side(Seat::Opponent).portrait();
-  hand.Click(yours);
+  Hand().Click(yours);
   EXPECT_TRUE(yours.isVisible());
   EXPECT_FALSE(match.screen->side(Seat::Player).shuttered());
-  hand.DoubleClick(yours);
+  Hand().DoubleClick(yours);
   EXPECT_FALSE(yours.isVisible());
   EXPECT_TRUE(match.screen->side(Seat::Player).shuttered()) << "no lit frame stands empty";
-  hand.Click(theirs);
+  Hand().Click(theirs);
   EXPECT_FALSE(theirs.isVisible());
   EXPECT_TRUE(match.screen->side(Seat::Opponent).shuttered());
 
   EXPECT_TRUE(match.globals.effects.fading());
-  hand.Click(match.screen->cmdTurn());
+  Hand().Click(match.screen->cmdTurn());
   EXPECT_FALSE(match.globals.effects.fading()) << "both lights are off between the turns";
 }
 
 TEST_P(frmGameTest, CardsPulseInOneStyleOnly) {
   MatchScreen& match = Begin({4});
-  ScreenHand hand(*match.screen);
   const ctlCard& card = match.screen->hand().ctlYourDeck(1);
-  hand.MoveTo(hand.CentreOf(card));
+  Hand().MoveTo(Hand().CentreOf(card));
   EXPECT_EQ(match.globals.effects.pulsingCard() != nullptr, StyleIndex() == 1);
-  hand.MoveTo({5, match.screen->height() / 2});
+  Hand().MoveTo({5, match.screen->height() / 2});
   EXPECT_EQ(match.globals.effects.pulsingCard(), nullptr);
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

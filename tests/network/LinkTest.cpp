@@ -4,7 +4,7 @@
 #include "network/Link.h"
 #include "support/LoopbackSocket.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 class LinkTest : public testing::Test {
@@ -27,10 +27,10 @@ class LinkTest : public testing::Test {
     clock.Advance(10);
   }
 
-  test::HandScheduler clock;
-  test::LoopbackNet net{clock};
-  test::LoopbackSocket socket{net, "10.0.0.1"};
-  test::LoopbackSocket peer{net, "10.0.0.9"};
+  HandScheduler clock;
+  LoopbackNet net{clock};
+  LoopbackSocket socket{net, "10.0.0.1"};
+  LoopbackSocket peer{net, "10.0.0.9"};
   std::string heard;
   std::vector<std::string> messages;
   std::vector<std::string> log;
@@ -194,4 +194,4 @@ TEST_F(LinkTest, NobodyListens) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -1,83 +1,59 @@
-// What is a message and what is not; what a person types in the lobby.
+// What is a message and what is not, and what a person types in the lobby; what a side concludes of its peer,
+// and that the document tells the same table as the code.
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+#include <map>
+#include <sstream>
+#include <vector>
 
 #include "network/Address.h"
 #include "network/ChatLog.h"
 #include "network/Framing.h"
 #include "network/Message.h"
+#include "network/PeerPlace.h"
 #include "platform/Random.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 TEST(Message, TakesOnlyWhatItsCommandCanCarry) {
-  for (const char* valid :
-       {"[Acpt]",        "[Back]",          "[Card]no1",   "[Card]no10",  "[Mode]1",          "[Mode]False",
-        "[Chat]",        "[Chat]<b>hi</b>", "[Forf]",      "[Hand]1ps6",  "[Hand]4ms-6",      "[Hand]2ms3",
-        "[Hand]2fp3",    "[Hand]3fm3",      "[Hand]1s11",  "[Hand]1s1-1", "[Hand]1s299",      "[Hand]1s399",
-        "[Hand]1s499",   "[Hand]1s5-2",     "[Name]Ann",   "[Play]",      "[Rset]",           "[File]0",
-        "[File]ann.vnt", "[Port]0",         "[Port]65",    "[Quit]",      "[Stnd]",           "[Turn]",
-        "[TAck]",        "[Vers]1.2.9",     "[Vers]1.3.0", "[Wage]0",     "[Wage]2000000000", "[WhoS]True",
-        "[WhoS]0"}) {
-    EXPECT_TRUE(ParseMessage(valid)) << valid;
+  const std::map<std::string, std::vector<const char*>> valid = {
+      {"[Card]", {"no1", "no10"}},
+      {"[Chat]", {"", "<b>hi</b>"}},
+      {"[File]", {"0", "ann.vnt"}},
+      {"[Hand]",
+       {"1ps6", "4ms-6", "2ms3", "2fp3", "3fm3", "1s11", "1s1-1", "1s299", "1s399", "1s499", "1s5-2"}},
+      {"[Mode]", {"1", "False"}},
+      {"[Name]", {"Ann"}},
+      {"[Port]", {"0", "65"}},
+      {"[Vers]", {"1.2.9", "1.3.0"}},
+      {"[Wage]", {"0", "2000000000"}},
+      {"[WhoS]", {"True", "0"}},
+  };
+  const std::map<std::string, std::vector<const char*>> invalid = {
+      {"", {"", "[Pla", "[play]", "[Play]1", "[Quit] ", "[Xyzw]hello"}},
+      {"[Card]", {"", "no0", "no11", "no07", "no-3", "NO3", "ps3"}},
+      {"[File]", {"", "../ann.vnt", "a\\b.vnt", "/etc/passwd", ".vnt", "*.vnt", "C:a.vnt", "a\n.vnt"}},
+      {"[Hand]", {"", "0ps3", "5ps3", "1", "1ps", "1ps0", "1ps7", "1ps-3", "1ps03", "1no7", "1fl3"}},
+      {"[Hand]1", {"s199", "s23", "s53", "un", "00", "pi3"}},
+      {"[Mode]", {"", "2", "true"}},
+      {"[Name]", {"", "   ", "\n"}},
+      {"[Port]", {"", "66", "-1", "7x", "99999999999"}},
+      {"[Wage]", {"", "-1", "2000000001", "5 ", "+5"}},
+      {"[WhoS]", {"", "yes"}},
+  };
+  for (const auto* rows : {&valid, &invalid}) {
+    for (const auto& [command, bodies] : *rows) {
+      for (const char* body : bodies) {
+        EXPECT_EQ(ParseMessage(command + body).has_value(), rows == &valid) << command << body;
+      }
+    }
   }
-  for (const char* invalid : {"",
-                              "[Pla",
-                              "[play]",
-                              "[Play]1",
-                              "[Quit] ",
-                              "[Xyzw]hello",
-                              "[Card]",
-                              "[Card]no0",
-                              "[Card]no11",
-                              "[Card]no07",
-                              "[Card]no-3",
-                              "[Card]NO3",
-                              "[Card]ps3",
-                              "[Mode]",
-                              "[Mode]2",
-                              "[Mode]true",
-                              "[Hand]",
-                              "[Hand]0ps3",
-                              "[Hand]5ps3",
-                              "[Hand]1",
-                              "[Hand]1ps",
-                              "[Hand]1ps0",
-                              "[Hand]1ps7",
-                              "[Hand]1ps-3",
-                              "[Hand]1ps03",
-                              "[Hand]1no7",
-                              "[Hand]1fl3",
-                              "[Hand]1s199",
-                              "[Hand]1s23",
-                              "[Hand]1s53",
-                              "[Hand]1un",
-                              "[Hand]100",
-                              "[Hand]1pi3",
-                              "[Name]",
-                              "[Name]   ",
-                              "[Name]\n",
-                              "[File]",
-                              "[File]../ann.vnt",
-                              "[File]a\\b.vnt",
-                              "[File]/etc/passwd",
-                              "[File].vnt",
-                              "[File]*.vnt",
-                              "[File]C:a.vnt",
-                              "[File]a\n.vnt",
-                              "[Port]",
-                              "[Port]66",
-                              "[Port]-1",
-                              "[Port]7x",
-                              "[Port]99999999999",
-                              "[Wage]",
-                              "[Wage]-1",
-                              "[Wage]2000000001",
-                              "[Wage]5 ",
-                              "[Wage]+5",
-                              "[WhoS]",
-                              "[WhoS]yes"}) {
-    EXPECT_FALSE(ParseMessage(invalid)) << invalid;
+  for (const char* bare :
+       {"[Acpt]", "[Back]", "[Forf]", "[Play]", "[Rset]", "[Quit]", "[Stnd]", "[Turn]", "[TAck]"}) {
+    EXPECT_TRUE(ParseMessage(bare)) << bare;
   }
   EXPECT_FALSE(ParseMessage("[Name]" + std::string(65, 'n')));
   EXPECT_EQ(std::get<msg::File>(*ParseMessage("[File]ann.vnt")).baseName, "ann");
@@ -124,23 +100,18 @@ TEST(Framing, AMessageTooLongBreaksTheStream) {
   EXPECT_EQ(framing.Feed("[Play]\x87").size(), 1u);
 }
 
-TEST(Address, IsFourGroupsOfDigits) {
+TEST(Address, IsFourGroupsOfDigitsAndAPortOneToFive) {
   for (const char* valid : {"192.168.0.12", "999.1.1.1", "1.2.3.4"}) EXPECT_TRUE(IsValidIP(valid)) << valid;
   for (const char* invalid :
        {"", "192.168.0", "1.2.3.4.5", "1..2.3", ".1.2.3", "1.2.3.", "1.2.3.x", "1.2.3. 4"}) {
     EXPECT_FALSE(IsValidIP(invalid)) << invalid;
   }
-}
-
-TEST(Address, APortIsOneToFiveDigits) {
   EXPECT_EQ(PortOf("7000"), 7000);
   EXPECT_EQ(PortOf("  65535 "), 65535);
   for (const char* invalid : {"", " ", "0", "65536", "abc", "7 0", "-1", "000001"}) {
     EXPECT_FALSE(PortOf(invalid)) << invalid;
   }
-}
-
-TEST(Address, OfSixRowsThoseAreListedThatOthersCanUse) {
+  // Of six rows those are listed that others can use.
   const std::vector<std::string> rows = {"0.0.0.0",  "127.0.0.1", "10.0.0.1", "10.0.0.2",
                                          "10.0.0.3", "10.0.0.4",  "10.0.0.5"};
   EXPECT_EQ(UsableAddresses(rows), std::vector<std::string>(rows.begin() + 2, rows.begin() + 6));
@@ -155,5 +126,133 @@ TEST(ChatLog, KeepsTheLastLineHoweverLongItIs) {
   EXPECT_LT(log.text().size(), 3 * wide.size()) << "the oldest go";
 }
 
+std::string Word(Verdict verdict) {
+  static constexpr std::array kWords = {"take", "keep", "late", "ahead", "fault"};
+  return kWords.at(static_cast<std::size_t>(verdict));
+}
+
+/// The cells of a table row of the document, without blanks and code marks.
+std::vector<std::string> Cells(const std::string& line) {
+  std::vector<std::string> cells;
+  std::istringstream row(line.substr(1));
+  for (std::string cell; std::getline(row, cell, '|');) {
+    std::erase_if(cell, [](char c) { return c == ' ' || c == '`'; });
+    cells.push_back(cell);
+  }
+  return cells;
+}
+
+TEST(PeerPlace, TheDocumentTellsTheSameTable) {
+  std::ifstream document(KV_SOURCE_DIR "/docs/protocol.md");
+  std::size_t kind = 0;
+  bool inTable = false;
+  for (std::string line; std::getline(document, line);) {
+    if (line.starts_with("| message | lobby |")) inTable = true;
+    if (!inTable || !line.starts_with("| `[")) continue;
+    const std::vector<std::string> cells = Cells(line);
+    ASSERT_EQ(cells.size(), static_cast<std::size_t>(kPlaces) + 1) << line;
+    // A message with this command is the kind of this row.
+    static constexpr std::array kExamples = {"",        "",  "no7", "1", "hello", "", "1ps3",  "Ann", "",
+                                             "ann.vnt", "7", "",    "",  "",      "", "1.2.4", "5",   "True"};
+    const auto message = ParseMessage(cells[0] + kExamples.at(kind));
+    ASSERT_TRUE(message.has_value()) << line;
+    ASSERT_EQ(message->index(), kind) << line;
+    for (int place = 0; place < kPlaces; ++place) {
+      EXPECT_EQ(cells.at(static_cast<std::size_t>(place) + 1),
+                Word(TableVerdict(kind, static_cast<Place>(place))))
+          << line << " column " << place;
+    }
+    ++kind;
+    if (kind == std::variant_size_v<Message>) return;
+  }
+  FAIL() << "rows found: " << kind;
+}
+
+TEST(PeerPlace, ConcludesFromTheOrderOfMessages) {
+  PeerPlace peer;
+  EXPECT_FALSE(peer.Ready(Place::Lobby));
+  peer.SaysStart();
+  peer.Plays(false);
+  EXPECT_TRUE(peer.Ready(Place::Lobby)) << "it has pressed Start";
+  EXPECT_FALSE(peer.Ready(Place::Cards));
+  peer.Plays(false);
+  EXPECT_TRUE(peer.Ready(Place::Cards));
+  EXPECT_FALSE(peer.Ready(Place::Opening));
+  peer.OwnTable();
+  peer.Plays(false);
+  EXPECT_TRUE(peer.Ready(Place::Opening));
+  peer.OwnSetDecided();
+  EXPECT_FALSE(peer.Ready(Place::Banner)) << "it has not gone on from the first set yet";
+  peer.Plays(false);
+  EXPECT_TRUE(peer.Ready(Place::Banner));
+  peer.OwnSetDecided();
+  EXPECT_FALSE(peer.Ready(Place::Over));
+  peer.InLobby();
+  EXPECT_TRUE(peer.Ready(Place::Over)) << "it has left the table";
+}
+
+TEST(PeerPlace, WhatWasSaidBeforeAReturnIsLate) {
+  PeerPlace peer;
+  peer.SaysStart();
+  peer.Plays(true);
+  peer.OwnLobby(Place::Desk);  // back from the cards while the peer is on its way there
+  EXPECT_EQ(peer.at(), PeerPlace::At::Returning);
+  EXPECT_EQ(peer.PlayMeans(), PeerPlace::Play::Nothing);
+  EXPECT_FALSE(peer.Ready(Place::Lobby)) << "its Start is used up";
+  const auto card = ParseMessage("[Card]no7")->index();
+  EXPECT_EQ(peer.CourseOf(card, Place::Lobby, false), Course::Ignore);
+  peer.InLobby();
+  EXPECT_EQ(peer.CourseOf(card, Place::Lobby, false), Course::Refuse) << "now it should know";
+  peer.SaysStart();
+  peer.Plays(true);
+  EXPECT_TRUE(peer.Ready(Place::Lobby));
+  peer.OwnModeChange();
+  EXPECT_FALSE(peer.Ready(Place::Lobby)) << "a mode change takes both Starts back";
+  peer.InLobby();
+  peer.SaysStart();
+  peer.OwnModeChange();
+  peer.Plays(true);
+  EXPECT_FALSE(peer.Ready(Place::Lobby)) << "also one that had only been announced";
+  peer.SaysStart();
+  peer.Plays(true);
+  EXPECT_TRUE(peer.Ready(Place::Lobby));
+}
+
+TEST(PeerPlace, AnEndOutOfOrderWaitsForTheRightPlay) {
+  PeerPlace before;
+  for (int play = 0; play < 3; ++play) {
+    if (play == 0) before.SaysStart();
+    before.Plays(false);
+  }
+  before.OwnTable();
+  before.OwnSetDecided();
+  PeerPlace forfeited = before;  // at the first banner, from which the peer may still go on
+  forfeited.OwnForfeit(Place::Banner);
+  forfeited.Plays(false);
+  EXPECT_FALSE(forfeited.Ready(Place::Over)) << "that may have been the set's";
+  forfeited.Plays(false);
+  EXPECT_TRUE(forfeited.Ready(Place::Over));
+  PeerPlace won = before;  // the peer forfeits: its next one leaves
+  won.Forfeits();
+  EXPECT_FALSE(won.Ready(Place::Over));
+  won.Plays(false);
+  EXPECT_TRUE(won.Ready(Place::Over));
+}
+
+TEST(PeerPlace, WhatIsEarlyWaitsOnlyForWhatThisSideIsAboutToDo) {
+  PeerPlace peer;
+  const auto card = ParseMessage("[Card]no7")->index();
+  EXPECT_EQ(peer.CourseOf(card, Place::Handover, false), Course::Wait);
+  EXPECT_EQ(peer.CourseOf(card, Place::Theirs, false), Course::Act);
+  EXPECT_EQ(peer.CourseOf(card, Place::Ours, false), Course::Refuse);
+  peer.OwnTable();
+  peer.OwnSetDecided();
+  EXPECT_EQ(peer.CourseOf(card, Place::Banner, true), Course::Refuse) << "the peer has not gone on";
+  peer.SaysStart();
+  for (int play = 0; play < 4; ++play) peer.Plays(false);
+  EXPECT_EQ(peer.CourseOf(card, Place::Banner, true), Course::Wait);
+  EXPECT_EQ(peer.CourseOf(card, Place::Banner, false), Course::Refuse) << "this side has not gone on";
+}
+
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -25,10 +25,12 @@ class NetworkFixture : public testing::Test, protected TwoPrograms {
     EXPECT_EQ(Complaints(player, message), before + 1) << message;
   }
   [[nodiscard]] static std::size_t Complaints(NetworkPlayer& player, const std::string& message) {
-    const std::string line = "<< Unknown command: " + message + " - report as bug >>";
-    const std::string& log = player.program->network()->chatLog();
+    return Count(player.program->network()->chatLog(),
+                 "<< Unknown command: " + message + " - report as bug >>");
+  }
+  [[nodiscard]] static std::size_t Count(const std::string& text, const std::string& part) {
     std::size_t found = 0;
-    for (auto at = log.find(line); at != std::string::npos; at = log.find(line, at + 1)) ++found;
+    for (auto at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) ++found;
     return found;
   }
   /// To the card screens, and with `settled` until the stake is agreed upon.

@@ -25,9 +25,8 @@ int FreePort() {
 class Peer {
  public:
   explicit Peer(const QStringList& arguments) {
-    process_.start(
-        QCoreApplication::applicationDirPath() + QStringLiteral("/../bin/vantri-peer"),
-        arguments + QStringList{QStringLiteral("--hurry"), QStringLiteral("20"), QStringLiteral("--trace")});
+    process_.start(QCoreApplication::applicationDirPath() + "/../bin/vantri-peer",
+                   arguments + QStringList{"--hurry", "20", "--trace"});
   }
   ~Peer() {
     process_.kill();
@@ -50,11 +49,8 @@ class Peer {
 struct Pair {
   explicit Pair(const QStringList& hostOptions, const QStringList& guestOptions) {
     const QString port = QString::number(FreePort());
-    host = std::make_unique<Peer>(
-        QStringList{QStringLiteral("--host"), QStringLiteral("127.0.0.1:") + port, QStringLiteral("--once")} +
-        hostOptions);
-    guest = std::make_unique<Peer>(QStringList{QStringLiteral("--join"), QStringLiteral("127.0.0.1:") + port,
-                                               QStringLiteral("--from"), QStringLiteral("127.0.0.2")} +
+    host = std::make_unique<Peer>(QStringList{"--host", "127.0.0.1:" + port, "--once"} + hostOptions);
+    guest = std::make_unique<Peer>(QStringList{"--join", "127.0.0.1:" + port, "--from", "127.0.0.2"} +
                                    guestOptions);
   }
   std::unique_ptr<Peer> host;
@@ -72,9 +68,9 @@ std::vector<std::string> MatchIn(const std::string& output) {
 }
 
 TEST(PeerProcess, PairsAgreeOnTheResultAndTheCredits) {
-  const QStringList one{QStringLiteral("--matches"), QStringLiteral("1")};
-  const QStringList arcade{QStringLiteral("--mode"), QStringLiteral("Network_Arcade")};
-  const QStringList ember{QStringLiteral("--strategy"), QStringLiteral("ember")};
+  const QStringList one{"--matches", "1"};
+  const QStringList arcade{"--mode", "Network_Arcade"};
+  const QStringList ember{"--strategy", "ember"};
   std::array pairs = {Pair(one, one + ember), Pair(one + arcade, one)};
   for (Pair& pair : pairs) {
     const bool staked = &pair == pairs.begin();
@@ -109,9 +105,8 @@ TEST(PeerProcess, MisplaysCostTheOtherSideWhatTheRulesSay) {
   };
   std::vector<std::unique_ptr<Pair>> pairs;
   for (const Row& row : kRows) {
-    pairs.push_back(
-        std::make_unique<Pair>(QStringList{QStringLiteral("--matches"), QStringLiteral("1")},
-                               QStringList{QStringLiteral("--misplay"), QString::fromUtf8(row.misplay)}));
+    pairs.push_back(std::make_unique<Pair>(QStringList{"--matches", "1"},
+                                           QStringList{"--misplay", QString::fromUtf8(row.misplay)}));
   }
   for (std::size_t i = 0; i < kRows.size(); ++i) {
     const std::string wrote = pairs[i]->host->Output();

@@ -93,6 +93,11 @@ class NetworkPlayer {
   [[nodiscard]] clsPlayer& record() { return *program->player(); }
   [[nodiscard]] frmGame* match() { return program->screenAs<frmGame>(); }
 
+  /// Gives up the match and says yes to the question.
+  void GiveUp() {
+    dialogs.answers = {true};
+    match()->engine().person().Forfeit();
+  }
   /// Does one thing that a person could do now on the card or match screen.
   void Act(int stake) {
     if (!acts) return;

@@ -1,22 +1,15 @@
-// Whole network games between two programs: every match ends alike on both sides, and both book it.
-#include <gtest/gtest.h>
+// Whole network games between two programs: every match ends alike on both sides, both book it, and what one
+// side did is, on the other, what the peer did.
 
-#include <array>
 #include <cstdio>
-#include <cstdlib>
-#include <fstream>
 
-#include "history/MatchRecorder.h"
 #include "history/MatchReplay.h"
 #include "match/Dealing.h"
-#include "network/TwoPrograms.h"
+#include "network/NetworkFixture.h"
 #include "support/EventLog.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
-
-using test::NetworkPlayer;
-using test::TwoPrograms;
 
 /// What a match did to one player: checked against the sets it saw.
 struct Account {
@@ -37,7 +30,7 @@ struct Account {
 
 /// Records the match of one side from its first event on.
 struct Recorded {
-  explicit Recorded(NetworkPlayer& who) : player(who) {}
+  explicit Recorded(NetworkPlayer& who, bool asPeer = false) : player(who), mirrored(asPeer), log(asPeer) {}
   void Listen() {
     if (player.match() == nullptr || heard != nullptr) return;
     heard = player.match();
@@ -50,7 +43,7 @@ struct Recorded {
     }
   }
   void CheckReplay() const {
-    test::EventLog again;
+    EventLog again(mirrored);
     EXPECT_TRUE(PlayAgain(recorder.record(),
                           [&](const MatchEvent& event, const MatchShown&) { again.Happened(event); }));
     EXPECT_GT(log.lines.size(), 10u);
@@ -60,9 +53,20 @@ struct Recorded {
     ASSERT_FALSE(lines.empty());
     EXPECT_EQ(history.Load(lines.front().id)->sets, recorder.record().sets);
   }
+  /// The lines that both can know: flips are one's own, and credits too.
+  [[nodiscard]] std::vector<std::string> Shared() const {
+    std::vector<std::string> shared;
+    for (const std::string& line : log.lines) {
+      const bool own = line.find(" flips ") != std::string::npos || line.starts_with("booked") ||
+                       line.starts_with("match for");
+      if (!own) shared.push_back(line);
+    }
+    return shared;
+  }
   NetworkPlayer& player;
+  bool mirrored;
   frmGame* heard = nullptr;
-  test::EventLog log;
+  EventLog log;
   MatchRecorder recorder{{}};
 };
 
@@ -97,13 +101,15 @@ TEST(WholeMatch, EndsAlikeOnBothSidesHoweverTheStreamIsCut) {
       const auto hostBefore = counters(both.host.record());
       const auto guestBefore = counters(both.guest.record());
       both.repeatTurns = &chance;
-      std::array recorded = {Recorded(both.host), Recorded(both.guest)};
+      std::array recorded = {Recorded(both.host), Recorded(both.guest, true)};
       both.eachTick = [&recorded] {
         for (Recorded& each : recorded) each.Listen();
       };
       both.PlayMatch(stake);
       both.eachTick = {};
       for (const Recorded& each : recorded) each.CheckReplay();
+      EXPECT_EQ(recorded[0].Shared(), recorded[1].Shared());
+      EXPECT_EQ(recorded[0].log.wrongTotals + recorded[1].log.wrongTotals, 0);
       both.Pass(30000);
       ASSERT_EQ(both.host.results.size(), both.guest.results.size());
       const auto& seen = both.host.results.back();
@@ -137,5 +143,56 @@ TEST(WholeMatch, CanBeReadAsATranscript) {
   if (const char* file = std::getenv("KV_TRANSCRIPT")) std::ofstream(file) << transcript;
 }
 
+class MatchEventsTwice : public NetworkFixture {
+ protected:
+  /// Hears the match that has just been opened, before its first set.
+  void Listen() {
+    for (const auto& [player, log] : {std::pair{&host, &hosts}, std::pair{&guest, &guests}}) {
+      frmGame* match = player->match();
+      if (match == nullptr || match == heard[log]) continue;
+      heard[log] = match;
+      match->observers().Add(*log);
+    }
+  }
+  void ToMatch() {
+    for (NetworkPlayer* each : {&host, &guest}) each->record().Credits_MP->Value = 100;
+    Meet();
+    ToCards(true);
+    PlayUntil([this] {
+      Listen();
+      return heard.size() == 2;
+    });
+  }
+
+  EventLog hosts;
+  EventLog guests{true};
+  std::map<EventLog*, frmGame*> heard;
+};
+
+TEST_F(MatchEventsTwice, WhoLeavesHasGivenUpAndWhoStaysHasWon) {
+  ToMatch();
+  PlayUntil([this] { return host.match()->engine().shown().controls.endTurn; });
+  host.acts = guest.acts = false;
+  Pass(2000);
+  host.Say("/disconnect");
+  Pass(3000);
+  using Lines = std::vector<std::string>;
+  const auto last = [](const EventLog& log) { return Lines(log.lines.end() - 3, log.lines.end()); };
+  EXPECT_EQ(last(hosts),
+            (Lines{"player gives up", "opponent wins the match 0:0", "booked lost 50: 50 to 50"}));
+  EXPECT_EQ(last(guests), (Lines{"peer gone", "opponent wins the match 0:0", "booked won 50: 50 to 155"}))
+      << "told as the host sees it";
+}
+
+TEST_F(MatchEventsTwice, AMatchWhoseLineIsLostIsToldAsBrokenOff) {
+  ToMatch();
+  PlayUntil([this] { return host.match()->engine().shown().controls.endTurn; });
+  host.socket->Close();
+  host.acts = guest.acts = false;
+  Pass(20000);
+  const std::vector<std::string> end(guests.lines.end() - 2, guests.lines.end());
+  EXPECT_EQ(end, (std::vector<std::string>{"peer gone", "booked broken off 50: 50 to 75"}));
+}
+
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -1,40 +1,24 @@
+// Files by name and their whole replacement, and the settings that stand in one.
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <csignal>
+#include <iostream>
 
+#include "platform/FileSettings.h"
 #include "platform/Files.h"
+#include "support/HandScheduler.h"
+#include "support/Limits.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
-namespace fs = std::filesystem;
-using test::OpenFiles;
-using test::TempFolder;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// Lowers one of the process's limits for the life of the object.
-class Limit {
- public:
-  Limit(int what, rlim_t value) : what_(what) {
-    ::getrlimit(static_cast<__rlimit_resource>(what_), &old_);
-    const rlimit lowered{value, old_.rlim_max};
-    ::setrlimit(static_cast<__rlimit_resource>(what_), &lowered);
-  }
-  Limit(const Limit&) = delete;
-  Limit& operator=(const Limit&) = delete;
-  ~Limit() { ::setrlimit(static_cast<__rlimit_resource>(what_), &old_); }
-
- private:
-  int what_;
-  rlimit old_{};
-};
+namespace fs = std::filesystem;
 
 TEST(Files, ReadsWholeFilesUpToTheLimit) {
   const TempFolder folder;
@@ -125,12 +109,11 @@ TEST(Files, AFailedWriteLeavesTheOldFileAndNothingElse) {
   folder.Put("file", "old");
   fs::create_directory(folder / "sub");
   const int before = OpenFiles();
-  EXPECT_NE(AtomicWrite(folder / "sub", "new"), "");
-  EXPECT_NE(AtomicWrite(folder / "missing/file", "new"), "");
-  EXPECT_NE(AtomicWrite(folder / "file/inside", "new"), "");
-  EXPECT_NE(AtomicWrite(folder / std::string(256, 'n'), "new"), "");
-  EXPECT_NE(AtomicWrite("", "new"), "");
-  EXPECT_NE(AtomicWrite((folder / "file") + std::string("\0x", 2), "new"), "");
+  for (const std::string& path :
+       {folder / "sub", folder / "missing/file", folder / "file/inside", folder / std::string(256, 'n'),
+        std::string(), (folder / "file") + std::string("\0x", 2)}) {
+    EXPECT_NE(AtomicWrite(path, "new"), "") << path;
+  }
   {
     const Limit noDescriptors(RLIMIT_NOFILE, 0);
     EXPECT_NE(AtomicWrite(folder / "file", "new"), "");
@@ -148,18 +131,16 @@ TEST(Files, AFullDiskAtAnyPointLeavesTheOldFile) {
   const TempFolder folder;
   folder.Put("file", "old");
   const std::string bytes(3000, 'n');
-  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
   for (const rlim_t room : {0U, 1U, 1500U, 2999U}) {
     std::string error;
     {
-      const Limit disk(RLIMIT_FSIZE, room);
+      const FullDisk disk(room);
       error = AtomicWrite(folder / "file", bytes);
     }
     EXPECT_NE(error, "") << room;
     EXPECT_EQ(folder.Get("file"), "old") << room;
     EXPECT_EQ(folder.Count(), 1) << room;
   }
-  std::signal(SIGXFSZ, handler);
   EXPECT_EQ(AtomicWrite(folder / "file", bytes), "");
   EXPECT_EQ(folder.Get("file"), bytes);
 }
@@ -193,5 +174,103 @@ TEST(Files, AKilledWriterLeavesAWholeFile) {
   }
 }
 
+namespace fs = std::filesystem;
+
+class FileSettingsTest : public testing::Test {
+ protected:
+  [[nodiscard]] FileSettings Open() { return {path, scheduler}; }
+  /// True when a text that is written now is there for the next start.
+  [[nodiscard]] bool Keeps() {
+    Open().Write("volume", "40");
+    return Open().Read("volume") == "40";
+  }
+
+  const TempFolder folder;
+  const std::string path = folder / "own/settings.ini";  // a folder that is not there yet
+  HandScheduler scheduler;
+};
+
+TEST_F(FileSettingsTest, AChangeStandsOnTheDiskSoonAndNothingTicksAfterwards) {
+  FileSettings settings = Open();
+  EXPECT_EQ(settings.Read("size"), std::nullopt);
+  for (int place = 0; place < 100; ++place) {
+    settings.Write("place.x", std::to_string(place));
+    scheduler.Advance(10);
+  }
+  EXPECT_TRUE(FileSettings(path, scheduler).Read("place.x")) << "written at the end of a long drag only";
+  scheduler.Advance(500);
+  EXPECT_EQ(Open().Read("place.x"), "99");
+  EXPECT_EQ(scheduler.RunningTimers(), 0);
+
+  // What is as it was is not written again.
+  fs::remove(path);
+  settings.Write("place.x", "99");
+  scheduler.Advance(500);
+  EXPECT_FALSE(fs::exists(path));
+}
+
+TEST_F(FileSettingsTest, KeepsWhatALaterVersionHasWrittenAndAnyText) {
+  fs::create_directory(folder / "own");
+  folder.Put("own/settings.ini", "[head]\r\n# note\nnew.thing=a=b\n=\nvolume=7\nlast");
+  Open().Write("last_player", "Zoë = \"1\"");
+  EXPECT_EQ(Open().Read("new.thing"), "a=b");
+  EXPECT_EQ(Open().Read("volume"), "7");
+  EXPECT_EQ(Open().Read("last_player"), "Zoë = \"1\"");
+  Open().Write("last_player", "two\nvolume=9");
+  EXPECT_EQ(Open().Read("volume"), "7");
+}
+
+TEST_F(FileSettingsTest, DamageCostsOnlyWhatItHit) {
+  fs::create_directory(folder / "own");
+  std::string rubbish;
+  for (int i = 0; i < 60000; ++i) rubbish += static_cast<char>(i * 7919 >> 3);
+  for (const std::string& bytes : {std::string(), rubbish, std::string(200000, 'x'), std::string(9, '\0')}) {
+    folder.Put("own/settings.ini", bytes);
+    EXPECT_EQ(Open().Read("volume"), std::nullopt);
+    EXPECT_TRUE(Keeps());
+  }
+  folder.Put("own/settings.ini", "volume=\x01\nsi\0ze=75\nfull_screen=yes\n");
+  EXPECT_EQ(Open().Read("volume"), std::nullopt);
+}
+
+TEST_F(FileSettingsTest, SomethingElseInItsPlaceIsNoStop) {
+  testing::internal::CaptureStderr();
+  fs::create_directories(path);
+  {
+    FileSettings settings = Open();
+    for (const char* volume : {"1", "2", "3"}) {
+      settings.Write("volume", volume);
+      scheduler.Advance(500);
+    }
+    EXPECT_EQ(settings.Read("volume"), "3");
+  }
+  EXPECT_TRUE(fs::is_directory(path));
+  const std::string noted = testing::internal::GetCapturedStderr();
+  EXPECT_EQ(std::ranges::count(noted, '\n'), 1) << noted;
+
+  fs::remove(path);
+  ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
+  EXPECT_TRUE(Keeps()) << "a pipe would be waited at for ever";
+  testing::internal::CaptureStderr();
+  fs::remove_all(folder / "own");
+  folder.Put("own", "a file where the folder should be");
+  EXPECT_FALSE(Keeps());
+  EXPECT_EQ(folder.Get("own"), "a file where the folder should be");
+  (void)testing::internal::GetCapturedStderr();
+}
+
+TEST_F(FileSettingsTest, AFullDiskLeavesTheOldFile) {
+  ASSERT_TRUE(Keeps());
+  testing::internal::CaptureStderr();
+  {
+    const FullDisk full(0);
+    Open().Write("volume", "90");
+  }
+  std::cerr.clear();  // its own file was full, too
+  (void)testing::internal::GetCapturedStderr();
+  EXPECT_EQ(Open().Read("volume"), "40");
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder / "own"), {}), 1);
+}
+
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -1,18 +1,17 @@
-// Where the game looks for its own files and for the player's, whatever the system says or leaves out.
+// Where the game looks for its own files and for the player's, whatever the system says or leaves out; and
+// what the desktop's settings say against motion, as its programs write them.
 #include <gtest/gtest.h>
 #include <pwd.h>
 #include <unistd.h>
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <optional>
-#include <string>
 
 #include "platform/Folders.h"
+#include "platform/StillDesktop.h"
+#include "support/Rows.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -43,27 +42,21 @@ class Variable {
 
 TEST(UserFolder, FollowsTheConventionAndElseTheListOfUsers) {
   const std::string listed = getpwuid(getuid())->pw_dir;
-  const struct {
-    const char* data;
-    const char* home;
-    std::string folder;
-  } cases[] = {
-      {"/data", "/home/mara", "/data/kelm-vantri"},
-      {"data", "/home/mara", "/home/mara/.local/share/kelm-vantri"},  // relative: as if it were not set
-      {nullptr, "/home/mara", "/home/mara/.local/share/kelm-vantri"},
-      {nullptr, nullptr, listed + "/.local/share/kelm-vantri"},
-      {nullptr, "", listed + "/.local/share/kelm-vantri"},
-      {"", "mara", listed + "/.local/share/kelm-vantri"},
-  };
-  for (const auto& one : cases) {
-    const Variable data("XDG_DATA_HOME", one.data);
-    const Variable home("HOME", one.home);
-    EXPECT_EQ(UserFolder(), one.folder);
+  for (const auto& [dataHome, userHome, folder] : Rows<const char*, const char*, std::string>{
+           {"/data", "/home/mara", "/data/kelm-vantri"},
+           {"data", "/home/mara", "/home/mara/.local/share/kelm-vantri"},  // relative: as if it were not set
+           {nullptr, "/home/mara", "/home/mara/.local/share/kelm-vantri"},
+           {nullptr, nullptr, listed + "/.local/share/kelm-vantri"},
+           {nullptr, "", listed + "/.local/share/kelm-vantri"},
+           {"", "mara", listed + "/.local/share/kelm-vantri"}}) {
+    const Variable data("XDG_DATA_HOME", dataHome);
+    const Variable home("HOME", userHome);
+    EXPECT_EQ(UserFolder(), folder);
   }
 }
 
 TEST(DataFolder, IsBesideTheProgramOrWhereItWasInstalledWhereverThatWasMovedTo) {
-  const test::TempFolder folder;
+  const TempFolder folder;
   const fs::path prefix = fs::path(folder.path()) / "moved";
   const fs::path bin = prefix / "bin";
   const fs::path share = prefix / "share" / "kelm-vantri";
@@ -77,5 +70,23 @@ TEST(DataFolder, IsBesideTheProgramOrWhereItWasInstalledWhereverThatWasMovedTo) 
   EXPECT_EQ(DataFolder(bin.string(), "vntdata.dat"), bin.string());
 }
 
+TEST(StillDesktopTest, OnlyAClearNoAsksForStillness) {
+  for (const auto& [file, text, still] : Rows<const char*, const char*, bool>{
+           {"gtk-3.0/settings.ini", "[Settings]\ngtk-theme-name=Breeze\ngtk-enable-animations=false\n", true},
+           {"gtk-4.0/settings.ini", "[Settings]\r\ngtk-enable-animations = 0\r\n", true},
+           {"gtk-3.0/settings.ini", "[Settings]\ngtk-enable-animations=true\n", false},
+           {"gtk-3.0/settings.ini", "gtk-enable-animations=", false},
+           {"kdeglobals", "[KDE]\nAnimationDurationFactor=0\n", true},
+           {"kdeglobals", "[KDE]\nAnimationDurationFactor=0.0", true},
+           {"kdeglobals", "[KDE]\nAnimationDurationFactor=0.5\n", false},
+           {"settings.ini", "gtk-enable-animations=0\n", false}}) {
+    const TempFolder config;
+    for (const char* folder : {"gtk-3.0", "gtk-4.0"}) std::filesystem::create_directory(config / folder);
+    EXPECT_FALSE(DesktopWishesStillness(config.path()));
+    config.Put(file, text);
+    EXPECT_EQ(DesktopWishesStillness(config.path()), still) << file << ": " << text;
+  }
+}
+
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -1,12 +1,85 @@
+// The event loop: pauses, timers and boxes, and the signals that end the program as events of it.
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QCoreApplication>
+#include <QEventLoop>
+#include <QInputDialog>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QTimer>
+#include <csignal>
 
+#include "platform/QtDialogs.h"
 #include "platform/QtScheduler.h"
+#include "platform/QtSignals.h"
 
 namespace kv::test {
 namespace {
+
+class QtDialogsTest : public testing::Test {
+ protected:
+  /// Acts on the box that is opened next, once it stands.
+  template <typename Box>
+  void WhenOpen(std::function<void(Box&)> act) {
+    QTimer::singleShot(0, QCoreApplication::instance(), [this, act] {
+      EXPECT_EQ(scheduler.PauseDepth(), 1);
+      auto* box = dynamic_cast<Box*>(QApplication::activeModalWidget());
+      ASSERT_NE(box, nullptr);
+      act(*box);
+    });
+  }
+  static void Escape(QWidget& box) {
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QCoreApplication::sendEvent(&box, &press);
+  }
+
+  QtScheduler scheduler;
+  QtDialogs dialogs{scheduler};
+};
+
+TEST_F(QtDialogsTest, ShowsTextTitleAndIconAsTheyAre) {
+  WhenOpen<QMessageBox>([](QMessageBox& box) {
+    EXPECT_EQ(box.text(), "<b>5 < 6</b> & more");
+    EXPECT_EQ(box.textFormat(), Qt::PlainText);
+    EXPECT_EQ(box.windowTitle(), "Kelm Vantri: Error");
+    EXPECT_FALSE(box.iconPixmap().isNull());
+    EXPECT_GT(box.width(), QFontMetrics(box.font()).horizontalAdvance(box.windowTitle()));
+    Escape(box);
+  });
+  dialogs.Message("<b>5 < 6</b> & more", "Kelm Vantri: Error", DialogIcon::Critical);
+  EXPECT_EQ(scheduler.PauseDepth(), 0);
+}
+
+TEST_F(QtDialogsTest, OnlyYesIsYes) {
+  const auto ask = [this] { return dialogs.AskYesNo("Sure?", "Kelm Vantri", DialogIcon::Question); };
+  WhenOpen<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); });
+  EXPECT_TRUE(ask());
+  WhenOpen<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::No)->click(); });
+  EXPECT_FALSE(ask());
+  WhenOpen<QMessageBox>([](QMessageBox& box) { Escape(box); });
+  EXPECT_FALSE(ask());
+}
+
+TEST_F(QtDialogsTest, AsksForTextWithAPreset) {
+  WhenOpen<QInputDialog>([](QInputDialog& box) {
+    EXPECT_EQ(box.textValue(), "6000");
+    box.setTextValue("Zoë");
+    box.accept();
+  });
+  EXPECT_EQ(dialogs.AskText("Port:", "Kelm Vantri", "6000"), "Zo\u00eb");
+  WhenOpen<QInputDialog>([](QInputDialog& box) { Escape(box); });
+  EXPECT_EQ(dialogs.AskText("Port:", "Kelm Vantri", "6000"), std::nullopt);
+}
+
+TEST_F(QtDialogsTest, ABoxWhoseWindowGoesAnswersNo) {
+  auto* window = new QWidget;
+  window->show();
+  QApplication::setActiveWindow(window);
+  WhenOpen<QMessageBox>([window](QMessageBox&) { delete window; });
+  EXPECT_FALSE(dialogs.AskYesNo("Sure?", "Kelm Vantri", DialogIcon::None));
+}
 
 constexpr int kLong = 60'000;  // a pause that only its end by force can bring back in time
 
@@ -91,6 +164,39 @@ TEST(QtSchedulerTest, ATimerMayStopRestartOrDestroyItselfInItsTick) {
   single->setInterval(5);
   EXPECT_FALSE(single->Enabled());
   EXPECT_EQ(single->Interval(), 5);
+}
+
+constexpr int kPatience = 5000;  // milliseconds
+
+TEST(QtSignals, EachEndsTheProgramAlsoInsideANestedLoop) {
+  QtSignals ends;
+  for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+    QEventLoop box;
+    int told = 0;
+    ends.Ended = [&] {
+      ++told;
+      box.quit();
+    };
+    QTimer::singleShot(0, &box, [signal] {
+      std::raise(signal);
+      std::raise(signal);
+    });
+    QTimer::singleShot(kPatience, &box, &QEventLoop::quit);
+    box.exec();
+    EXPECT_EQ(told, 1) << signal;
+  }
+  EXPECT_TRUE(ends.ended());
+}
+
+TEST(QtSignals, AProgramThatIsToOutliveItsTerminalDoes) {
+  std::signal(SIGHUP, SIG_IGN);
+  {
+    const QtSignals ends;
+    std::raise(SIGHUP);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(ends.ended());
+  }
+  EXPECT_EQ(std::signal(SIGHUP, SIG_DFL), SIG_IGN);
 }
 
 }  // namespace

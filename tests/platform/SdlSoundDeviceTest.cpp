@@ -1,19 +1,16 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <chrono>
 #include <csignal>
-#include <cstdlib>
 #include <cstring>
 #include <thread>
-#include <vector>
 
 #include "platform/SdlSoundDevice.h"
 #include "platform/Waves.h"
 #include "support/HandScheduler.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 /// Polls, for at most some seconds: the device takes from a thread of its own.
@@ -62,8 +59,8 @@ class SdlSoundDeviceTest : public testing::Test {
     return samples;
   }
 
-  const test::TempFolder folder;
-  test::HandScheduler scheduler;
+  const TempFolder folder;
+  HandScheduler scheduler;
 };
 
 TEST_F(SdlSoundDeviceTest, TheSignalsThatEndTheProgramStayItsOwn) {
@@ -198,4 +195,4 @@ TEST_F(SdlSoundDeviceTest, ADamagedWaveIsNotedAndHarmsNoOther) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

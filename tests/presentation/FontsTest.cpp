@@ -1,13 +1,10 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <filesystem>
 
 #include "presentation/Fonts.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 using testing::ElementsAre;
@@ -57,9 +54,9 @@ class InstallFontTest : public testing::Test {
     return told;
   }
 
-  const test::TempFolder files;
+  const TempFolder files;
   StepLog fonts;
-  test::ScriptedDialogs dialogs;
+  ScriptedDialogs dialogs;
   std::string noted;
 };
 
@@ -110,4 +107,4 @@ TEST_F(InstallFontTest, TheCurrentFolderEndsInOneSlash) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

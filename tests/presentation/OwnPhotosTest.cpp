@@ -1,24 +1,22 @@
 // Photos as a telephone or a camera makes them: they become portraits, or the player is told why not.
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QBuffer>
 #include <QImage>
 #include <QImageReader>
 #include <QImageWriter>
 #include <QPainter>
-#include <cstdlib>
 
 #include "presentation/BmpBands.h"
 #include "presentation/JpegMeans.h"
 #include "presentation/PictureDecoder.h"
 #include "presentation/Portraits.h"
+#include "support/Rows.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
-using test::TempFolder;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
@@ -111,21 +109,14 @@ TEST(OwnPhotosTest, OnlyWholeMeansAreTaken) {
 }
 
 TEST(OwnPhotosTest, LargePicturesBecomePortraits) {
-  struct Case {
-    const char* name;
-    std::string bytes;
-    QSize stored;
-  };
-  const std::vector<Case> cases = {
-      {"48 million pixels", Written(Scene(8000, 6000), "jpg"), {8000, 6000}},
-      {"12 million pixels, progressive", Written(Scene(4000, 3000), "jpg", true, 98), {4000, 3000}},
-      {"a long one, progressive", Written(Scene(8000, 1200), "jpg", true), {8000, 1200}},
-      {"BMP", Written(Scene(3840, 2160), "bmp"), {3840, 2160}},
-      {"BMP with a palette",
-       Written(Scene(3840, 2160).convertToFormat(QImage::Format_Indexed8), "bmp"),
-       {3840, 2160}},
-  };
-  for (const auto& [name, bytes, stored] : cases) {
+  for (const auto& [name, bytes, stored] : Rows<const char*, std::string, QSize>{
+           {"48 million pixels", Written(Scene(8000, 6000), "jpg"), {8000, 6000}},
+           {"12 million pixels, progressive", Written(Scene(4000, 3000), "jpg", true, 98), {4000, 3000}},
+           {"a long one, progressive", Written(Scene(8000, 1200), "jpg", true), {8000, 1200}},
+           {"BMP", Written(Scene(3840, 2160), "bmp"), {3840, 2160}},
+           {"BMP with a palette",
+            Written(Scene(3840, 2160).convertToFormat(QImage::Format_Indexed8), "bmp"),
+            {3840, 2160}}}) {
     constexpr int kSide = 224;
     const SquarePicture square = DecodeSquare(BytesOf(bytes), kSide);
     ASSERT_EQ(square.fault, PictureFault::None) << name;
@@ -191,4 +182,4 @@ TEST(OwnPhotosTest, WhatIsRefusedIsTold) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

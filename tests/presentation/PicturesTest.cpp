@@ -1,6 +1,8 @@
+// The data file and its pictures, and the viewer that shows what is in it.
 #include <gtest/gtest.h>
 
 #include <QImage>
+#include <QTreeWidget>
 #include <array>
 #include <cstdio>
 #include <cstring>
@@ -11,14 +13,14 @@
 #include "presentation/PictureSizes.h"
 #include "presentation/Pictures.h"
 #include "presentation/PicturesAhead.h"
+#include "presentation/frmResViewer.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 using datafile::Bytes;
 using datafile::Groups;
-using test::TempFolder;
 
 std::string DataFile() {
   return std::string(std::getenv("KV_ASSETS")) + "/" + kDataFileName;
@@ -86,14 +88,9 @@ TEST(Pictures, ThatAreDecodedAheadAreTheSame) {
     EXPECT_EQ(pictures.getPic(number).image()->devicePixelRatio(), 1) << number;
   }
   EXPECT_TRUE(ahead.Take(400).isNull());
-}
-
-TEST(Pictures, AreNoneAheadWithoutADataFile) {
-  PicturesAhead ahead("/nowhere/vntdata.dat", {400});
-  Pictures pictures(1);
-  EXPECT_FALSE(pictures.OpenDataFile(ahead));
-  EXPECT_TRUE(pictures.getPic(400).empty());
-  EXPECT_TRUE(ahead.Take(400).isNull());
+  PicturesAhead none("/nowhere/vntdata.dat", {400});
+  EXPECT_FALSE(Pictures(1).OpenDataFile(none));
+  EXPECT_TRUE(none.Take(400).isNull());
 }
 
 TEST(DataFile, OtherToolsListAndExtractIt) {
@@ -197,25 +194,44 @@ TEST(Pictures, NoFileOrNoModuleMeansNoPictures) {
   EXPECT_TRUE(one.pictures.getPic(105).empty());  // there is no second group
 }
 
-TEST(Pictures, TheTreeExpandsTwoTypesAndHoldsPlacesForTheOthers) {
-  SmallFile file({{"AAA", {{1, {1}}}}, {"GIF", {{2, {1}}, {10, {1}}}}, {"TXT", {{3, {1}}}}});
-  ResourceTree tree;
-  file.pictures.LoadResourceTree(tree, "Vntdata.dat", file.folder_ / "some.dat");
-  EXPECT_EQ(tree.title, "Vntdata.dat");
-  ASSERT_EQ(tree.types.size(), 3U);
-  EXPECT_EQ(tree.types[1].names.at(1).text, "10");
-  EXPECT_EQ(tree.types[1].names.at(1).number, 10);
-  EXPECT_FALSE(tree.types[2].expanded);
-  ASSERT_EQ(tree.types[2].names.size(), 1U);
-  EXPECT_EQ(tree.types[2].names[0].text, "Dummy");
-  file.pictures.ExpandType(tree.types[2]);
-  ASSERT_EQ(tree.types[2].names.size(), 1U);
-  EXPECT_EQ(tree.types[2].names[0].text, "3");
+TEST(Pictures, TypesHaveTheirTexts) {
   EXPECT_EQ(ResourceTypeText("10"), "#10");
   EXPECT_EQ(ResourceTypeText("JPG"), "JPG");
   EXPECT_TRUE(IsPictureType("jpeg"));
   EXPECT_FALSE(IsPictureType("TXT"));
 }
 
+TEST(frmResViewer, ShowsTypesNamesAndWhatAPictureIs) {
+  QImage image(30, 20, QImage::Format_RGB32);
+  image.fill(Qt::green);
+  const datafile::Groups groups = {{"GIF", {{201, datafile::EncodeGif(image)}, {202, {1, 2}}}},
+                                   {"JPG", {{105, datafile::EncodeJpeg(image, 80)}}},
+                                   {"TXT", {{1, {'a'}}, {2, {'b'}}}}};
+  const datafile::Bytes bytes = datafile::WriteModule(groups, datafile::SmallestSize(groups)).value();
+  const TempFolder folder;
+  folder.Put("some.dat", {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+  frmResViewer viewer;
+  ASSERT_TRUE(viewer.LoadFile(folder / "some.dat"));
+
+  QTreeWidgetItem* root = viewer.TreeView1()->topLevelItem(0);
+  EXPECT_EQ(root->text(0), QStringLiteral("Vntdata.dat"));
+  ASSERT_EQ(root->childCount(), 3);
+  EXPECT_TRUE(root->child(1)->isExpanded());
+  QTreeWidgetItem* text = root->child(2);
+  EXPECT_FALSE(text->isExpanded());
+  ASSERT_EQ(text->childCount(), 1);
+  EXPECT_EQ(text->child(0)->text(0), QStringLiteral("Dummy"));
+  text->setExpanded(true);
+  ASSERT_EQ(text->childCount(), 2);
+  EXPECT_EQ(text->child(1)->text(0), QStringLiteral("2"));
+
+  viewer.NodeClick(root->child(1)->child(0));
+  EXPECT_EQ(viewer.InfoText(), QStringLiteral("Image info:\nType: Bitmap (*.bmp)\nSyze: 30 x 20"));
+  viewer.TreeView1()->setCurrentItem(root->child(0)->child(1));  // broken bytes
+  EXPECT_EQ(viewer.InfoText(), QStringLiteral("Image info:\nType: None\nSyze: 0 x 0"));
+  viewer.NodeClick(text->child(0));
+  EXPECT_EQ(viewer.InfoText(), QString());
+}
+
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

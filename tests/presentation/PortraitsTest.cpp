@@ -1,3 +1,4 @@
+// The portraits of the game and the players' own.
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -5,15 +6,18 @@
 #include <QBuffer>
 #include <QImage>
 #include <array>
+#include <map>
 
+#include "packing/Catalogue.h"
+#include "portraits/Table.h"
 #include "presentation/PictureSizes.h"
+#include "presentation/Pictures.h"
 #include "presentation/Portraits.h"
+#include "support/Rows.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
-
-using test::TempFolder;
 
 class PortraitsTest : public testing::Test {
  protected:
@@ -110,37 +114,30 @@ std::string Gif(std::uint32_t screen, std::uint32_t frame) {
 TEST_F(PortraitsTest, HostileFilesFallBackToTheBuiltInPortrait) {
   const std::string small = Jpeg(40, 20);
   const std::string large = Jpeg(4000, 3000);
-  struct Case {
-    const char* name;
-    std::string bytes;
-    bool found;
-  };
-  const std::vector<Case> cases = {
-      {"a.jpg", small, true},
-      {"b.jpg", large, true},
-      {"photo.jpg", Jpeg(4800, 300), true},
-      {"beyond.jpg", Forged(small, '\xC0', 8190, 1), false},
-      {"empty.jpg", "", false},
-      {"text.bmp", "BM no picture", false},
-      {"script.gif", "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>", false},
-      {"cut.jpg", small.substr(0, small.size() / 3), false},
-      {"side.jpg", Forged(small, '\xC0', 30000, 1), false},
-      {"several.jpg", Forged(large, '\xC2', 0, 1), false},
-      {"scans.jpg", Forged(small, '\xC2', 0, 5000), false},
-      {"work.jpg", Forged(small, '\xC2', 2800, 60), false},
-      {"wide.bmp", Bmp(30000, 30000, 1), false},
-      {"packed.bmp", Bmp(4000, 4000, 8, 1), false},
-      {"negative.bmp", Bmp(0x80000000U, 0x80000000U, 24), false},
-      {"overflow.bmp", Bmp(0x10001, 0x10001, 32), false},
-      {"screen.gif", Gif(65535, 1), false},
-      {"frame.gif", Gif(1, 65535), true},  // cut to its screen
-      {"unset.gif", Gif(0, 65535), false},
-      {"fine.gif", Gif(1, 1), true},
-      {"fat.bmp", std::string(41 << 20, 'B'), false},
-  };
-  for (const Case& c : cases) {
-    folder.Put(c.name, c.bytes);
-    EXPECT_EQ(Found(7, std::filesystem::path(c.name).stem().string()), c.found) << c.name;
+  for (const auto& [name, bytes, found] : Rows<const char*, std::string, bool>{
+           {"a.jpg", small, true},
+           {"b.jpg", large, true},
+           {"photo.jpg", Jpeg(4800, 300), true},
+           {"beyond.jpg", Forged(small, '\xC0', 8190, 1), false},
+           {"empty.jpg", "", false},
+           {"text.bmp", "BM no picture", false},
+           {"script.gif", "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>", false},
+           {"cut.jpg", small.substr(0, small.size() / 3), false},
+           {"side.jpg", Forged(small, '\xC0', 30000, 1), false},
+           {"several.jpg", Forged(large, '\xC2', 0, 1), false},
+           {"scans.jpg", Forged(small, '\xC2', 0, 5000), false},
+           {"work.jpg", Forged(small, '\xC2', 2800, 60), false},
+           {"wide.bmp", Bmp(30000, 30000, 1), false},
+           {"packed.bmp", Bmp(4000, 4000, 8, 1), false},
+           {"negative.bmp", Bmp(0x80000000U, 0x80000000U, 24), false},
+           {"overflow.bmp", Bmp(0x10001, 0x10001, 32), false},
+           {"screen.gif", Gif(65535, 1), false},
+           {"frame.gif", Gif(1, 65535), true},  // cut to its screen
+           {"unset.gif", Gif(0, 65535), false},
+           {"fine.gif", Gif(1, 1), true},
+           {"fat.bmp", std::string(41 << 20, 'B'), false}}) {
+    folder.Put(name, bytes);
+    EXPECT_EQ(Found(7, std::filesystem::path(name).stem().string()), found) << name;
   }
 }
 
@@ -179,13 +176,48 @@ TEST_F(PortraitsTest, APeersNameCannotLeaveTheFolderOrMatchAnything) {
        {std::string("*"), std::string("Player?"), "../" + inside + "/Player1", std::string("..\\x")}) {
     EXPECT_FALSE(Found(10, name)) << name;
   }
-}
-
-TEST_F(PortraitsTest, AFileNameTooShortForAnExtensionHasNoOwnPicture) {
   PutPicture("abc.jpg", "jpg");
   owner = {"abc", 7};
-  EXPECT_FALSE(Found(-1, ""));
+  EXPECT_FALSE(Found(-1, "")) << "a file's name too short for an extension";
+}
+
+constexpr int kTileSide = 50;  // of the portrait picker
+
+std::map<int, QImage> Tiles() {
+  Pictures pictures;
+  std::map<int, QImage> tiles;
+  if (!pictures.OpenDataFile(std::string(std::getenv("KV_ASSETS")) + "/" + kDataFileName)) return tiles;
+  for (const int number : datafile::AllNumbers()) {
+    if (number < kPortraitBase || number >= kPortraitBase + 100) continue;
+    tiles[number] = pictures.getPic(number)
+                        .image()
+                        ->scaled(kTileSide, kTileSide, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                        .convertToFormat(QImage::Format_Grayscale8);
+  }
+  return tiles;
+}
+
+double MeanDifference(const QImage& a, const QImage& b) {
+  long sum = 0;
+  for (int y = 0; y < kTileSide; ++y)
+    for (int x = 0; x < kTileSide; ++x) sum += std::abs(a.constScanLine(y)[x] - b.constScanLine(y)[x]);
+  return static_cast<double>(sum) / (kTileSide * kTileSide);
+}
+
+TEST(PortraitPictures, NobodyIsTakenForAnotherInThePickerEvenWithoutColours) {
+  const std::map<int, QImage> tiles = Tiles();
+  ASSERT_EQ(tiles.size(), 62U);
+  constexpr double kLeast = 10;  // mean grey levels
+  for (const auto& [number, tile] : tiles) {
+    for (auto other = tiles.upper_bound(number); other != tiles.end(); ++other)
+      EXPECT_GT(MeanDifference(tile, other->second), kLeast) << number << " and " << other->first;
+  }
+}
+
+TEST(PortraitPictures, AreTheSameInEveryRun) {
+  const datafile::Catalogue catalogue(datafile::ReadBusts().rows);
+  for (const int number : {301, 345}) EXPECT_EQ(catalogue.Paint(number), catalogue.Paint(number)) << number;
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

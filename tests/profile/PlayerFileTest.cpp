@@ -1,7 +1,8 @@
 #include "profile/PlayerFile.h"
 #include "profile/ProfileFixture.h"
+#include "support/Rows.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 using testing::ElementsAre;
@@ -115,45 +116,42 @@ TEST_F(PlayerFileTest, AWrongPinIsRefusedInSilence) {
 }
 
 TEST_F(PlayerFileTest, VersionsAreThreeDigits) {
-  EXPECT_EQ(VersionNumber("1.2.4"), 124);
-  EXPECT_EQ(VersionNumber("1.0.3"), 103);
-  EXPECT_EQ(VersionNumber("0.0.1"), 1);
-  EXPECT_EQ(VersionNumber("2.5.5"), 255);
-  EXPECT_EQ(VersionNumber("1.2.10"), 120);
+  for (const auto& [text, number] : Rows<const char*, int>{
+           {"1.2.4", 124}, {"1.0.3", 103}, {"0.0.1", 1}, {"2.5.5", 255}, {"1.2.10", 120}}) {
+    EXPECT_EQ(VersionNumber(text), number);
+  }
   for (const char* text : {"", "1", "1.", "a.b.c", "2.5.6", "9.9.9", "-.1.2"}) {
     EXPECT_FALSE(VersionNumber(text)) << text;
   }
 }
 
 TEST_F(PlayerFileTest, OldFilesKeepDefaultsForWhatTheyLackAndAreRewritten) {
-  struct Case {
-    const char* version;
-    int number;
-    bool wins, arcadeDeck, minimize, speed, arcade, keys;  // which late fields it holds
-  };
-  for (const Case& old : {Case{"1.0.0", 100, false, false, false, false, false, false},
-                          Case{"1.0.1", 101, true, false, false, false, false, false},
-                          Case{"1.0.3", 103, true, true, false, false, false, false},
-                          Case{"1.1.5", 115, true, true, true, true, false, false},
-                          Case{"1.2.0", 120, true, true, true, true, true, false},
-                          Case{"1.2.3", 123, true, true, true, true, true, true}}) {
+  // Which late fields a file of that version holds.
+  for (const auto& [version, number, wins, arcadeDeck, minimize, speed, arcade, keys] :
+       Rows<const char*, int, bool, bool, bool, bool, bool, bool>{
+           {"1.0.0", 100, false, false, false, false, false, false},
+           {"1.0.1", 101, true, false, false, false, false, false},
+           {"1.0.3", 103, true, true, false, false, false, false},
+           {"1.1.5", 115, true, true, true, true, false, false},
+           {"1.2.0", 120, true, true, true, true, true, false},
+           {"1.2.3", 123, true, true, true, true, true, true}}) {
     SampleFile sample;
-    sample.setVersion(old.version);
-    test::ScriptedDialogs boxes;
+    sample.setVersion(version);
+    ScriptedDialogs boxes;
     clsPlayer loaded(boxes, random);
     loaded.PIN = kPin;
-    ASSERT_FALSE(LoadBytes(loaded, sample.Bytes(kPin, old.number))) << old.version;
-    EXPECT_EQ(loaded.H6J8_Wins->Value, old.wins ? 16 : 0);
-    EXPECT_EQ(loaded.ArcadeDeck->Value(1).text(), old.arcadeDeck ? "ps1" : "s199");
-    EXPECT_EQ(loaded.ShowMinimize_Opt, !old.minimize);
-    EXPECT_EQ(loaded.GameSpeed_Opt, old.speed ? 3 : 1);
-    EXPECT_EQ(loaded.ArcadeAI_Opt, old.arcade ? 1 : 0);
-    EXPECT_EQ(loaded.KeysEn, old.keys);
-    EXPECT_EQ(loaded.Keys->Value(1, 1), old.keys ? 101 : 32);
+    ASSERT_FALSE(LoadBytes(loaded, sample.Bytes(kPin, number))) << version;
+    EXPECT_EQ(loaded.H6J8_Wins->Value, wins ? 16 : 0);
+    EXPECT_EQ(loaded.ArcadeDeck->Value(1).text(), arcadeDeck ? "ps1" : "s199");
+    EXPECT_EQ(loaded.ShowMinimize_Opt, !minimize);
+    EXPECT_EQ(loaded.GameSpeed_Opt, speed ? 3 : 1);
+    EXPECT_EQ(loaded.ArcadeAI_Opt, arcade ? 1 : 0);
+    EXPECT_EQ(loaded.KeysEn, keys);
+    EXPECT_EQ(loaded.Keys->Value(1, 1), keys ? 101 : 32);
     EXPECT_EQ(loaded.Cards_MP->Value(4, 6), -32745) << "records after the missing ones stay in step";
     EXPECT_EQ(loaded.Version, "1.2.4");
     EXPECT_THAT(Told(boxes), ElementsAre("i Kelm Vantri: Your player file has been updated from v" +
-                                         std::string(old.version) + " to v1.2.4."));
+                                         std::string(version) + " to v1.2.4."));
 
     player.PIN = kPin;
     ASSERT_FALSE(player.LoadPlayerFile(path));  // now a file of today
@@ -180,4 +178,4 @@ TEST_F(PlayerFileTest, NewerFilesAreRefusedWithAMessage) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -3,12 +3,12 @@
 #include "profile/Settings.h"
 #include "support/MemorySettings.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 class SettingsTest : public testing::Test {
  protected:
-  test::MemorySettings store;
+  MemorySettings store;
   Settings settings{store};
 };
 
@@ -38,22 +38,8 @@ TEST_F(SettingsTest, WhatWasSetIsReadAgain) {
 }
 
 TEST_F(SettingsTest, AnAbsurdValueIsAsGoodAsNone) {
-  const char* const absurd[] = {"",
-                                "999999",
-                                "-75",
-                                "1e2",
-                                "75 ",
-                                " 75",
-                                "0x64",
-                                "nan",
-                                "inf",
-                                "-0.1",
-                                "1.0001",
-                                "maybe",
-                                "99999999999999999999",
-                                "\xFF\xFE",
-                                "YES"};
-  for (const std::string text : absurd) {
+  for (const std::string text : {"", "999999", "-75", "1e2", "75 ", " 75", "0x64", "nan", "inf", "-0.1",
+                                 "1.0001", "maybe", "99999999999999999999", "\xFF\xFE", "YES"}) {
     for (const char* key : {"size", "volume", "place.x", "full_screen", "hints", "hint_seen.keys"}) {
       store.texts[key] = text;
     }
@@ -83,4 +69,4 @@ TEST_F(SettingsTest, AnAbsurdWishIsNotStored) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

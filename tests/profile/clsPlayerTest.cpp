@@ -1,13 +1,9 @@
-#include <sys/resource.h>
-
-#include <csignal>
-
 #include "profile/FileEntries.h"
 #include "profile/ProfileFixture.h"
-#include "profile/clsPlayer.h"
+#include "support/Limits.h"
 #include "support/ScriptedRandom.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 using testing::ElementsAre;
@@ -78,7 +74,7 @@ TEST_F(Player, CipherRepeatsTheKey) {
 }
 
 TEST_F(Player, EncodePadsAndScramblesUnderThePin) {
-  test::ScriptedRandom draws({0.0, 0.05, 0.9999999, 0.9999999, 0.0, 0.0});
+  ScriptedRandom draws({0.0, 0.05, 0.9999999, 0.9999999, 0.0, 0.0});
   clsPlayer scripted(dialogs, draws);
   scripted.PIN = "31";
   EXPECT_EQ(clsPlayer::Cipher(scripted.Encode("hi"), "317"), "%hi05");
@@ -107,7 +103,7 @@ TEST_F(Player, CardCodesOfASideDeck) {
 TEST_F(Player, AFailedSaveTellsAndChangesNothing) {
   ASSERT_FALSE(LoadBytes(player, SampleFile().Bytes("")));
   const std::string file = folder.Get("p.vnt");
-  const int filesOpen = test::OpenFiles();
+  const int filesOpen = OpenFiles();
   std::filesystem::create_directory(folder / "dir.vnt");
   for (const std::string& bad : {folder / "gone/p.vnt", folder / "dir.vnt", folder / std::string(300, 'n'),
                                  path + "/x.vnt", std::string()}) {
@@ -126,28 +122,8 @@ TEST_F(Player, AFailedSaveTellsAndChangesNothing) {
   EXPECT_THAT(Told(dialogs), ElementsAre(kSaveFailed));
   EXPECT_EQ(folder.Get("p.vnt"), file);
   EXPECT_EQ(folder.Count(), 2);
-  EXPECT_EQ(test::OpenFiles(), filesOpen);
+  EXPECT_EQ(OpenFiles(), filesOpen);
 }
-
-/// While it lives no file of this process may have more than `bytes` bytes: a disk that is full.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-    ::getrlimit(RLIMIT_FSIZE, &old_);
-    const rlimit full{bytes, old_.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &full);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-  ~FullDisk() {
-    ::setrlimit(RLIMIT_FSIZE, &old_);
-    std::signal(SIGXFSZ, handler_);
-  }
-
- private:
-  rlimit old_{};
-  void (*handler_)(int);
-};
 
 TEST_F(Player, AnUpdateThatCannotBeSavedStillLoadsAndClaimsNothing) {
   SampleFile sample;
@@ -193,4 +169,4 @@ TEST_F(Player, ASaveWaitsForTheOneUnderWay) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -5,13 +5,12 @@
 #include <QTextDocument>
 
 #include "presentation/LayoutText.h"
-#include "profile/clsPlayer.h"
 #include "screens/frmHelp.h"
 #include "support/MatchTable.h"
+#include "support/OneScreen.h"
 #include "support/ProgramStage.h"
-#include "support/ScreenStage.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 TEST(HelpPages, HoldTheReadMesChaptersWithoutItsPicturesAndLinks) {
@@ -32,7 +31,7 @@ TEST(HelpPages, HoldTheReadMesChaptersWithoutItsPicturesAndLinks) {
 
 TEST(HelpExamples, ComeOutAsInAMatch) {
   for (const HelpExample& example : HelpExamples()) {
-    test::MatchTable table({});
+    MatchTable table({});
     table.engine->Activate();
     table.LoadTable(Seat::Player, example.table);
     table.engine->board().PlayFromHand(Seat::Player, 1, CardCode(example.played));
@@ -43,22 +42,16 @@ TEST(HelpExamples, ComeOutAsInAMatch) {
   }
 }
 
-class HelpScenesTest : public testing::TestWithParam<const char*> {
+class HelpScenesTest : public testing::TestWithParam<const char*>, protected OneScreen<frmHelp> {
  protected:
+  HelpScenesTest() : OneScreen(GetParam()) {}
   frmHelp& OpenCards(bool moves) {
-    help_ = std::make_unique<frmHelp>(stage.services(), GetParam(), HelpPages(LayoutText("README"), nullptr),
-                                      moves);
-    help_->Open();
-    stage.Settle(50);
-    help_->lstPages().setCurrentRow(1);
-    return *help_;
+    Show(std::make_unique<frmHelp>(services(), GetParam(), HelpPages(LayoutText("README"), nullptr), moves),
+         50);
+    screen->lstPages().setCurrentRow(1);
+    return *screen;
   }
-  [[nodiscard]] QImage Now() { return help_->grab().toImage(); }
-
-  test::ScreenStage stage{GetParam()};
-
- private:
-  std::unique_ptr<frmHelp> help_;
+  [[nodiscard]] QImage Now() { return screen->grab().toImage(); }
 };
 INSTANTIATE_TEST_SUITE_P(Styles, HelpScenesTest, testing::Values("Slate", "Ember"),
                          [](const auto& style) { return std::string(style.param); });
@@ -71,45 +64,43 @@ TEST_P(HelpScenesTest, AnExamplePlaysOnceAndEndsAsThePictureOnThePage) {
   QImage last;
   while (help.motionLayer().moving()) {
     before = std::exchange(last, Now());
-    stage.Settle(16);
+    Settle(16);
   }
   EXPECT_NE(begun, last);
   EXPECT_EQ(last, Now()) << "nothing jumps at the end";
   EXPECT_EQ(before, Now());
-  stage.globals.effects.StopEffects();
-  EXPECT_EQ(stage.scheduler.RunningTimers(), 0);
-  test::ScreenHand(help.lstPages()).Key(Qt::Key_Return);
+  globals.effects.StopEffects();
+  EXPECT_EQ(scheduler.RunningTimers(), 0);
+  ScreenHand(help.lstPages()).Key(Qt::Key_Return);
   EXPECT_TRUE(help.motionLayer().moving()) << "again";
   help.txtPage().verticalScrollBar()->setValue(help.txtPage().verticalScrollBar()->maximum());
   EXPECT_TRUE(help.motionLayer().moving()) << "what comes into view for the first time";
-  stage.Settle(8000);
+  Settle(8000);
   help.txtPage().verticalScrollBar()->setValue(0);
   EXPECT_FALSE(help.motionLayer().moving()) << "all were seen";
   help.lstPages().setCurrentRow(0);
-  test::ScreenHand(help.lstPages()).Key(Qt::Key_Return);
+  ScreenHand(help.lstPages()).Key(Qt::Key_Return);
   EXPECT_FALSE(help.motionLayer().moving()) << "no example on this page";
 }
 
 TEST_P(HelpScenesTest, NothingPlaysWithoutEffects) {
   frmHelp& help = OpenCards(false);
-  test::ScreenHand(help.lstPages()).Key(Qt::Key_Return);
+  ScreenHand(help.lstPages()).Key(Qt::Key_Return);
   EXPECT_FALSE(help.motionLayer().moving());
-  EXPECT_FALSE(help.txtPage().toPlainText().contains(QStringLiteral("plays it again")));
+  EXPECT_FALSE(help.txtPage().toPlainText().contains("plays it again"));
 }
 
-class HelpTest : public testing::Test, protected test::ProgramStage {
+class HelpTest : public testing::Test, protected ProgramStage {
  protected:
   [[nodiscard]] frmHelp* Help() {
-    return program->stage().findChild<frmHelp*>(QStringLiteral("frmHelp"), Qt::FindDirectChildrenOnly);
+    return program->stage().findChild<frmHelp*>("frmHelp", Qt::FindDirectChildrenOnly);
   }
 };
 
 TEST_F(HelpTest, OpensInFrontOfAMatchThatGoesOnBehindIt) {
-  MakePlayer("ann");
-  Start();
-  EnterMenu("ann");
+  EnterMenuAs("ann");
   Click("cmdArcade");
-  Control<QLineEdit>("txtWager").setText(QStringLiteral("10"));
+  Control<QLineEdit>("txtWager").setText("10");
   Click("cmdWager");
   Settle(500);
   Click("cmdContinue");
@@ -123,16 +114,16 @@ TEST_F(HelpTest, OpensInFrontOfAMatchThatGoesOnBehindIt) {
   for (int page = 0; page < Help()->lstPages().count(); ++page) Help()->lstPages().setCurrentRow(page);
   Help()->lstPages().setCurrentRow(1);
   const QVariant picture =
-      Help()->txtPage().document()->resource(QTextDocument::ImageResource, QUrl(QStringLiteral("card:ps3")));
+      Help()->txtPage().document()->resource(QTextDocument::ImageResource, QUrl("card:ps3"));
   EXPECT_FALSE(picture.value<QImage>().isNull());
-  EXPECT_EQ(Help()->txtPage().toHtml().count(QStringLiteral("<img src=\"card:")), 8);
-  EXPECT_EQ(Help()->txtPage().toHtml().count(QStringLiteral("<img src=\"scene:")), 8);
+  EXPECT_EQ(Help()->txtPage().toHtml().count("<img src=\"card:"), 8);
+  EXPECT_EQ(Help()->txtPage().toHtml().count("<img src=\"scene:"), 8);
   const bool mine = match.engine().shown().Light(Seat::Player);
   match.engine().person().Stand();
   Settle(6000);
   EXPECT_TRUE(mine);
   EXPECT_TRUE(match.engine().shown().banner.visible || match.engine().shown().Stood(Seat::Player));
-  test::ScreenHand(*Help()).Key(Qt::Key_Escape);
+  ScreenHand(*Help()).Key(Qt::Key_Escape);
   Settle(500);
   EXPECT_EQ(Help(), nullptr);
   EXPECT_EQ(ScreenName(), "frmGame");
@@ -150,4 +141,4 @@ TEST_F(HelpTest, GoesWithTheProgramWhileItIsOpen) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -3,7 +3,6 @@
 
 #include <QAccessible>
 #include <QCheckBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRadioButton>
@@ -12,39 +11,24 @@
 #include "screens/frmOptions.h"
 #include "screens/modgetKeyName.h"
 #include "support/MemorySettings.h"
-#include "support/ScreenHand.h"
-#include "support/ScreenStage.h"
-#include "support/TempFolder.h"
+#include "support/OneScreen.h"
+#include "support/Rows.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
-using test::ScreenHand;
-
-class OptionsStage : public test::ScreenStage {
+class OptionsStage : public OneScreen<frmOptions> {
  public:
-  explicit OptionsStage(const std::string& style = "Slate") : ScreenStage(style) {
-    player.FileName = folder.path() + "/player.vnt";
+  explicit OptionsStage(const std::string& style = "Slate") : OneScreen(style) {
+    player.FileName = folder / "player.vnt";
   }
+  ~OptionsStage() { screen.reset(); }
 
   void Open() {
-    screen = std::make_unique<frmOptions>(
-        services(),
-        frmOptionsServices{player, remembered, [this](int percent) { sound.setVolume(percent); }});
-    screen->Open();
-    Settle(10);
-    hand = std::make_unique<ScreenHand>(*screen);
-  }
-  template <typename Widget = QWidget>
-  Widget& Find(const char* control) {
-    auto* widget = dynamic_cast<Widget*>(screen->findChild<QWidget*>(QString::fromUtf8(control)));
-    if (widget == nullptr) throw std::out_of_range(control);
-    return *widget;
-  }
-  ctlButton& Button(const char* control) { return Find<ctlButton>(control); }
-  void Click(const char* control) {
-    hand->Click(Find(control));
-    Settle(10);
+    Show(std::make_unique<frmOptions>(
+             services(),
+             frmOptionsServices{player, remembered, [this](int percent) { sound.setVolume(percent); }}),
+         10);
   }
   void OpenKeys() {
     player.KeysEn = true;
@@ -56,14 +40,11 @@ class OptionsStage : public test::ScreenStage {
     Click(control);
     hand->Key(key);
   }
-  std::string Title() { return Find<QLabel>("lblKeysTitle").text().toStdString(); }
+  std::string Title() { return Text("lblKeysTitle"); }
   bool Saved() { return std::filesystem::exists(player.FileName); }
 
-  test::TempFolder folder;
-  test::MemorySettings store;
+  MemorySettings store;
   Settings remembered{store};
-  std::unique_ptr<frmOptions> screen;
-  std::unique_ptr<ScreenHand> hand;
 };
 
 TEST(frmOptionsTest, EveryCheckBoxEditsItsField) {
@@ -114,13 +95,13 @@ TEST(frmOptionsTest, ListsAndTurnSystemEditTheirFields) {
     QTest::mouseClick(stage.screen->windowHandle(), Qt::LeftButton, {}, middle);
     EXPECT_EQ(list.currentRow(), row) << control;
   };
-  choose("lstInterface", QStringLiteral("Ember"), 0);
-  choose("lstSpeed", QStringLiteral("Fast!"), 0);
-  choose("lstArcadeOpp", QStringLiteral("Orrin Vaal"), 1);
-  choose("lstArcadeAI", QStringLiteral("Kelm Vantri"), 1);
+  choose("lstInterface", "Ember", 0);
+  choose("lstSpeed", "Fast!", 0);
+  choose("lstArcadeOpp", "Orrin Vaal", 1);
+  choose("lstArcadeAI", "Kelm Vantri", 1);
   stage.Click("optTurnSystem(0)");
   EXPECT_EQ(stage.sound.Count("check"), 5);
-  choose("lstArcadeAI", QStringLiteral("Ember"), 1);
+  choose("lstArcadeAI", "Ember", 1);
   stage.Find("lstSpeed").setFocus();
   stage.hand->Key(Qt::Key_Down);
   EXPECT_EQ(stage.sound.Count("check"), 7) << "by pointer and by keyboard";
@@ -142,25 +123,20 @@ TEST(frmOptionsTest, ListsAndTurnSystemEditTheirFields) {
   EXPECT_EQ(stage.player.TurnMode_Opt, 0);
 }
 
-TEST(frmOptionsTest, AnEntryThatAScreenReaderSelectsIsTheOneThatIsStored) {
-  OptionsStage stage;
-  stage.Open();
-  // It selects an entry without moving to it.
-  stage.Find<QListWidget>("lstInterface").item(1)->setSelected(true);
-  stage.Click("cmdOK");
-  EXPECT_EQ(stage.player.Interface_Opt, "Ember");
-}
-
-TEST(frmOptionsTest, ValuesThatNoControlShowsAreKept) {
-  OptionsStage stage;
-  stage.player.TurnMode_Opt = 9;
-  stage.player.GameSpeed_Opt = 200;
-  stage.player.Interface_Opt = "Copper";
-  stage.Open();
-  stage.Click("cmdOK");
-  EXPECT_EQ(stage.player.TurnMode_Opt, 9);
-  EXPECT_EQ(stage.player.GameSpeed_Opt, 200);
-  EXPECT_EQ(stage.player.Interface_Opt, "Copper");
+TEST(frmOptionsTest, ValuesThatNoControlShowsAreKeptAndWhatAScreenReaderSelectsIsStored) {
+  for (const bool reader : {false, true}) {
+    OptionsStage stage;
+    stage.player.TurnMode_Opt = 9;
+    stage.player.GameSpeed_Opt = 200;
+    stage.player.Interface_Opt = "Copper";
+    stage.Open();
+    // It selects an entry without moving to it.
+    if (reader) stage.Find<QListWidget>("lstInterface").item(1)->setSelected(true);
+    stage.Click("cmdOK");
+    EXPECT_EQ(stage.player.TurnMode_Opt, 9);
+    EXPECT_EQ(stage.player.GameSpeed_Opt, 200);
+    EXPECT_EQ(stage.player.Interface_Opt, reader ? "Ember" : "Copper");
+  }
 }
 
 TEST(frmOptionsTest, TheExtraOpponentIsLockedUntilTheFifthWin) {
@@ -179,62 +155,57 @@ TEST(frmOptionsTest, TheNameLosesLeadingBlanksAndMustNotBeEmpty) {
   name.setFocus();
   name.setCursorPosition(0);
   stage.hand->Key(Qt::Key_Space);
-  EXPECT_EQ(name.text(), QStringLiteral("Player"));
+  EXPECT_EQ(name.text(), "Player");
   name.selectAll();
   stage.hand->Key(Qt::Key_Delete);
   EXPECT_FALSE(stage.Button("cmdOK").Enabled());
   stage.hand->Key(Qt::Key_Space);
   EXPECT_FALSE(stage.Button("cmdOK").Enabled());
-  QTest::keyClicks(&name, QStringLiteral("Ann of the green gables "));
+  QTest::keyClicks(&name, "Ann of the green gables ");
   EXPECT_EQ(name.text().size(), 20);
-  name.setText(QStringLiteral("Ann  "));
+  name.setText("Ann  ");
   name.insert(QString::fromUtf8("Ł"));
-  EXPECT_EQ(name.text(), QStringLiteral("Ann  "));
+  EXPECT_EQ(name.text(), "Ann  ");
   EXPECT_EQ(stage.announcer.Last(), "Cannot be stored: Ł");
+  stage.player.FileName = "/nowhere/at/all.vnt";
   stage.Click("cmdOK");
   EXPECT_EQ(stage.player.Name, "Ann");
+  EXPECT_EQ(stage.dialogs.boxes.size(), 1u) << "that it could not be saved";
+  EXPECT_EQ(stage.recorded.Count("OpenMenu"), 1);
 }
 
-struct PINCase {
-  const char* before;
-  const char* typed;
-  const char* question;  // empty when none is asked
-};
-
 TEST(frmOptionsTest, AChangedPINIsAskedAbout) {
-  constexpr PINCase kCases[] = {
-      {"12", "12", ""},
-      {"", "", ""},
-      {"12", "345", "Are you sure you want to change your PIN?"},
-      {"", "7", "Are you sure you want to change your PIN?"},
-      {"12", "", "Are you sure you want to remove your PIN?"},
-  };
-  for (const PINCase& pin : kCases) {
-    const bool asked = *pin.question != '\0';
+  for (const auto& [before, typed, question] :
+       Rows<const char*, const char*, const char*>{{"12", "12", ""},
+                                                   {"", "", ""},
+                                                   {"12", "345", "Are you sure you want to change your PIN?"},
+                                                   {"", "7", "Are you sure you want to change your PIN?"},
+                                                   {"12", "", "Are you sure you want to remove your PIN?"}}) {
+    const bool asked = *question != '\0';
     OptionsStage stage;
-    stage.player.PIN = pin.before;
+    stage.player.PIN = before;
     stage.Open();
     auto& box = stage.Find<QLineEdit>("txtPIN");
-    EXPECT_EQ(box.text().toStdString(), pin.before);
+    EXPECT_EQ(box.text().toStdString(), before);
     box.setFocus();
     box.clear();
-    QTest::keyClicks(&box, QString::fromUtf8(pin.typed));
-    stage.Find<QLineEdit>("txtName").setText(QStringLiteral("Ann"));
+    QTest::keyClicks(&box, QString::fromUtf8(typed));
+    stage.Find<QLineEdit>("txtName").setText("Ann");
     if (asked) {
       stage.dialogs.answers = {false, true};
       stage.Click("cmdOK");
       ASSERT_EQ(stage.dialogs.boxes.size(), 1u);
-      EXPECT_EQ(stage.dialogs.boxes[0].text, pin.question);
+      EXPECT_EQ(stage.dialogs.boxes[0].text, question);
       EXPECT_EQ(stage.dialogs.boxes[0].title, "Kelm Vantri: Confirmation");
       EXPECT_EQ(stage.dialogs.boxes[0].icon, DialogIcon::Exclamation);
-      EXPECT_EQ(stage.player.PIN, pin.before);
+      EXPECT_EQ(stage.player.PIN, before);
       EXPECT_EQ(stage.player.Name, "Player");
       EXPECT_FALSE(stage.Saved());
       EXPECT_TRUE(stage.recorded.calls.empty());
     }
     stage.Click("cmdOK");
     EXPECT_EQ(stage.dialogs.boxes.size(), asked ? 2u : 0u);
-    EXPECT_EQ(stage.player.PIN, pin.typed);
+    EXPECT_EQ(stage.player.PIN, typed);
     EXPECT_EQ(stage.player.Name, "Ann");
     EXPECT_EQ(stage.recorded.Count("OpenMenu"), 1);
   }
@@ -253,17 +224,6 @@ TEST(frmOptionsTest, AScreenThatClosesUnderItsQuestionStoresNothing) {
   EXPECT_TRUE(stage.recorded.calls.empty());
 }
 
-TEST(frmOptionsTest, AFailedSaveIsToldAndLeadsToTheMenu) {
-  OptionsStage stage;
-  stage.player.FileName = "/nowhere/at/all.vnt";
-  stage.Open();
-  stage.Find<QLineEdit>("txtName").setText(QStringLiteral("Ann"));
-  stage.Click("cmdOK");
-  EXPECT_EQ(stage.dialogs.boxes.size(), 1u);
-  EXPECT_EQ(stage.player.Name, "Ann");
-  EXPECT_EQ(stage.recorded.Count("OpenMenu"), 1);
-}
-
 TEST(frmOptionsTest, EveryOtherWayOutLeavesTheRecordAsItWas) {
   const std::pair<const char*, std::function<void(OptionsStage&)>> ways[] = {
       {"OpenMenu", [](OptionsStage& stage) { stage.Click("cmdCancel"); }},
@@ -280,7 +240,7 @@ TEST(frmOptionsTest, EveryOtherWayOutLeavesTheRecordAsItWas) {
     EXPECT_EQ(stage.recorded.Count("OpenPortraits"), 1);
     stage.player.Portrait = 20;  // as the picker does
     stage.screen->PortraitChosen(stage.pictures.getPic(320));
-    stage.Find<QLineEdit>("txtName").setText(QStringLiteral("Ann"));
+    stage.Find<QLineEdit>("txtName").setText("Ann");
     stage.Click("chkKeys");
     EXPECT_FALSE(stage.Button("cmdKeys").Enabled());
     leave(stage);
@@ -313,7 +273,7 @@ TEST(frmOptionsTest, AKeyOfTwoActionsIsMarkedAndTheDefaultsAreOneButtonAway) {
   stage.Click("cmdKeysDefaults");
   stage.Click("cmdKeysDefaults");
   EXPECT_EQ(name("cmdKeysStand"), "Key for Stand: Tab");
-  EXPECT_EQ(stage.Button("cmdKeysFlip1(0)").Caption(), QStringLiteral("Q"));
+  EXPECT_EQ(stage.Button("cmdKeysFlip1(0)").Caption(), "Q");
   stage.Click("cmdKeysDone");
   EXPECT_EQ(stage.player.Keys->Value(3, 1), 'Q');
   stage.Click("cmdOK");
@@ -324,7 +284,7 @@ TEST(frmOptionsTest, EveryKeyIsCaught) {
   OptionsStage stage;
   stage.OpenKeys();
   EXPECT_FALSE(stage.Find("frmeOptions").isEnabled());
-  EXPECT_EQ(stage.Button("cmdKeysTurn").Caption(), QStringLiteral("Space"));
+  EXPECT_EQ(stage.Button("cmdKeysTurn").Caption(), "Space");
   struct {
     const char* control;
     Qt::Key key;
@@ -336,8 +296,11 @@ TEST(frmOptionsTest, EveryKeyIsCaught) {
       {"cmdKeysPlay(2)", Qt::Key_Left, 37, 2, 3},   {"cmdKeysPlay(3)", Qt::Key_Escape, -1, 2, 4},
       {"cmdKeysFlip1(0)", Qt::Key_F5, 116, 3, 1},   {"cmdKeysFlip1(3)", Qt::Key_Z, 'Z', 3, 4},
       {"cmdKeysFlip2(1)", Qt::Key_Shift, 16, 4, 2}, {"cmdKeysFlip2(3)", Qt::Key_Comma, 188, 4, 4},
+      {"cmdKeysFlip2(0)", Qt::Key_Alt, 18, 4, 1},  // the last one: it is warned of
   };
+  stage.dialogs.whileOpen = [&stage] { EXPECT_EQ(stage.Title(), "Push key...(esc = none)"); };
   for (const auto& caught : kCaught) {
+    EXPECT_TRUE(stage.dialogs.boxes.empty());
     stage.Click(caught.control);
     EXPECT_EQ(stage.Title(), "Push key...(esc = none)");
     EXPECT_FALSE(stage.Button("cmdKeysDone").isEnabled());
@@ -350,6 +313,9 @@ TEST(frmOptionsTest, EveryKeyIsCaught) {
     EXPECT_EQ(stage.Button(caught.control).Color_Style().toStdString(),
               caught.code < 0 ? "Ember" : "Ember_Menu");
   }
+  ASSERT_EQ(stage.dialogs.boxes.size(), 1u);
+  EXPECT_EQ(stage.dialogs.boxes[0].title, "Kelm Vantri: Alt Key Warning");
+  EXPECT_EQ(stage.dialogs.boxes[0].icon, DialogIcon::Critical);
   EXPECT_TRUE(stage.Find("frmeKeys").isVisible());
   EXPECT_EQ(stage.player.Keys->Value(1, 1), 32) << "nothing is stored before OK";
   stage.Click("cmdKeysDone");
@@ -363,25 +329,13 @@ TEST(frmOptionsTest, EveryKeyIsCaught) {
   EXPECT_EQ(stage.player.Keys->Value(3, 2), 'W');
 }
 
-TEST(frmOptionsTest, AltIsWarnedOfAndStays) {
-  OptionsStage stage;
-  stage.OpenKeys();
-  stage.dialogs.whileOpen = [&stage] { EXPECT_EQ(stage.Title(), "Push key...(esc = none)"); };
-  stage.Catch("cmdKeysTurn", Qt::Key_Alt);
-  ASSERT_EQ(stage.dialogs.boxes.size(), 1u);
-  EXPECT_EQ(stage.dialogs.boxes[0].title, "Kelm Vantri: Alt Key Warning");
-  EXPECT_EQ(stage.dialogs.boxes[0].icon, DialogIcon::Critical);
-  EXPECT_EQ(stage.Button("cmdKeysTurn").Caption(), QStringLiteral("Alt"));
-  EXPECT_EQ(stage.Title(), "Configure Keys");
-}
-
 TEST(frmOptionsTest, TheKeyThatClicksIsNotCaught) {
   OptionsStage stage;
   stage.OpenKeys();
   stage.Find("cmdKeysTurn").setFocus();
   QWindow* window = stage.screen->windowHandle();
   QTest::keyPress(window, Qt::Key_Return);
-  QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, QStringLiteral("\r"), true);
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, "\r", true);
   QCoreApplication::sendEvent(window, &held);
   EXPECT_TRUE(stage.screen->WaitsForKey());
   QTest::keyRelease(window, Qt::Key_Return);
@@ -410,7 +364,7 @@ TEST(frmOptionsTest, TheVolumeIsHeardAtOnceAndOutlivesCancel) {
     stage.Open();
     auto& slider = stage.Find<QSlider>("sldVolume");
     const auto& label = stage.Find<QLabel>("lblVolume");
-    EXPECT_EQ(label.text(), QStringLiteral("Volume 80 %"));
+    EXPECT_EQ(label.text(), "Volume 80 %");
     EXPECT_FALSE(slider.accessibleName().isEmpty());
     QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(&slider);
     ASSERT_NE(reader->valueInterface(), nullptr);
@@ -427,7 +381,7 @@ TEST(frmOptionsTest, TheVolumeIsHeardAtOnceAndOutlivesCancel) {
     EXPECT_EQ(stage.sound.Count("check"), 1) << "nobody hears how loud it is now";
     slider.setValue(43);
     EXPECT_EQ(stage.sound.volume, 45);
-    EXPECT_EQ(label.text(), QStringLiteral("Volume 45 %"));
+    EXPECT_EQ(label.text(), "Volume 45 %");
     stage.Click("cmdCancel");
     EXPECT_EQ(stage.remembered.volume(), 45);
     EXPECT_FALSE(stage.Saved());
@@ -435,4 +389,4 @@ TEST(frmOptionsTest, TheVolumeIsHeardAtOnceAndOutlivesCancel) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

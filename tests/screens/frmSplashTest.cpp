@@ -1,8 +1,6 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 
@@ -10,41 +8,37 @@
 #include "screens/PlayerFiles.h"
 #include "screens/frmSplash.h"
 #include "screens/modShowPIN.h"
-#include "support/ScreenHand.h"
-#include "support/ScreenStage.h"
-#include "support/TempFolder.h"
+#include "support/OneScreen.h"
+#include "support/Rows.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
-using test::ScreenHand;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class frmSplashTest : public testing::Test {
+class frmSplashTest : public testing::Test, protected OneScreen<frmSplash> {
  protected:
   void Open() {
-    splash = std::make_unique<frmSplash>(
-        stage.services(),
-        frmSplashServices{
-            folder.path(),
-            [this] { return std::make_unique<clsPlayer>(stage.dialogs, stage.padding); },
-            lastPlayer,
-            {[this](const std::string& path) { return Trash(path); },
-             [](const std::string& path) {
-               return std::vector{path + ".log", path + ".more"};
-             },
-             [this](const std::string& from, const std::string& to) { renamed = from + " to " + to; }}});
-    splash->Open();
-    stage.Settle(2);
-    hand = std::make_unique<ScreenHand>(*splash);
+    Show(std::make_unique<frmSplash>(
+             services(), frmSplashServices{folder.path(),
+                                           [this] { return std::make_unique<clsPlayer>(dialogs, padding); },
+                                           lastPlayer,
+                                           {[this](const std::string& path) { return Trash(path); },
+                                            [](const std::string& path) {
+                                              return std::vector{path + ".log", path + ".more"};
+                                            },
+                                            [this](const std::string& from, const std::string& to) {
+                                              renamed = from + " to " + to;
+                                            }}}),
+         2);
   }
   void PutPlayer(const std::string& file, const std::string& pin) {
-    clsPlayer player(stage.dialogs, stage.padding);
-    player.Name = file;
-    player.PIN = pin;
-    player.FileName = folder / file;
-    player.WritePlayerFile();
+    clsPlayer made(dialogs, padding);
+    made.Name = file;
+    made.PIN = pin;
+    made.FileName = folder / file;
+    made.WritePlayerFile();
   }
   /// A trash that takes nothing of the name `stuck`.
   bool Trash(const std::string& path) {
@@ -58,58 +52,45 @@ class frmSplashTest : public testing::Test {
     List().setFocus();
     hand->Key(Qt::Key_Delete);
   }
-  template <typename T = QLineEdit>
-  T& Find(const char* name) {
-    return *splash->findChild<T*>(QString::fromLatin1(name));
-  }
-  ctlButton& Button(const char* name) { return dynamic_cast<ctlButton&>(Find<QAbstractButton>(name)); }
-  std::string Text(const char* box) { return Find(box).text().toStdString(); }
-  std::string Info() { return Find<QLabel>("lblCreateInfo").text().toStdString(); }
+  QLineEdit& Box(const char* name) { return Find<QLineEdit>(name); }
+  std::string Typed(const char* box) { return Box(box).text().toStdString(); }
+  std::string Info() { return Text("lblCreateInfo"); }
   std::vector<std::string> Entries() {
     std::vector<std::string> entries;
     for (int row = 0; row < List().count(); ++row) entries.push_back(List().item(row)->text().toStdString());
     return entries;
   }
   QListWidget& List() { return Find<QListWidget>("lstPlayers"); }
-  void Type(const char* text) { QTest::keyClicks(splash->focusWidget(), QString::fromLatin1(text)); }
+  void Type(const char* text) { QTest::keyClicks(screen->focusWidget(), QString::fromLatin1(text)); }
   void Enter() { hand->Key(Qt::Key_Return); }
 
-  test::TempFolder folder;
-  test::TempFolder trash;
+  TempFolder trash;
   std::string stuck;
   std::string renamed;
-  test::ScreenStage stage;
   std::string lastPlayer;
-  std::unique_ptr<frmSplash> splash;
-  std::unique_ptr<ScreenHand> hand;
 };
 
-TEST_F(frmSplashTest, TheLastPlayerIsSelectedAndADoubleClickGoesOn) {
-  for (const char* name : {"alice.vnt", "Bob.vnt", "carol.vnt"}) PutPlayer(name, "");
+TEST_F(frmSplashTest, ThePlayersAreListedByNameTheLastIsSelectedAndADoubleClickGoesOn) {
+  for (const char* name : {"carol.vnt", "Bob.VNT", "alice.vnt"}) PutPlayer(name, "");
+  folder.Put("notes.txt", "");
+  std::filesystem::create_directory(folder / "folder.vnt");
   lastPlayer = "gone";
   Open();
-  EXPECT_EQ(List().currentRow(), 0);
-  lastPlayer = "Bob";
-  Open();
-  EXPECT_EQ(List().currentRow(), 1);
-  const QPoint carol = List().viewport()->mapTo(splash.get(), List().visualItemRect(List().item(2)).center());
-  QTest::mouseDClick(splash->windowHandle(), Qt::LeftButton, {}, carol);
-  stage.Settle(20);
-  EXPECT_THAT(stage.recorded.calls, ElementsAre("PlayerLoaded", "OpenMenu"));
-  EXPECT_EQ(stage.recorded.loaded->Name, "carol.vnt");
-}
-
-TEST_F(frmSplashTest, ThePlayerFilesAreListedByNameAndTheFirstIsSelected) {
-  for (const char* name : {"zed.vnt", "Bob.VNT", "alice.vnt", "notes.txt"}) folder.Put(name, "");
-  std::filesystem::create_directory(folder / "folder.vnt");
-  Open();
-  EXPECT_THAT(Entries(), ElementsAre("alice", "Bob", "zed"));
+  EXPECT_THAT(Entries(), ElementsAre("alice", "Bob", "carol"));
   EXPECT_EQ(List().currentRow(), 0);
   Type("12");
   hand->Key(Qt::Key_Down);  // from the PIN box
   EXPECT_EQ(List().currentRow(), 1);
-  EXPECT_EQ(Text("txtPIN"), "");
+  EXPECT_EQ(Typed("txtPIN"), "");
   EXPECT_TRUE(Button("cmdContinue").Enabled());
+  lastPlayer = "Bob";
+  Open();
+  EXPECT_EQ(List().currentRow(), 1);
+  const QPoint carol = List().viewport()->mapTo(screen.get(), List().visualItemRect(List().item(2)).center());
+  QTest::mouseDClick(screen->windowHandle(), Qt::LeftButton, {}, carol);
+  Settle(20);
+  EXPECT_THAT(recorded.calls, ElementsAre("PlayerLoaded", "OpenMenu"));
+  EXPECT_EQ(recorded.loaded->Name, "carol.vnt");
 }
 
 TEST_F(frmSplashTest, ANewPlayerIsCreatedWithTheEnterKeyAloneAndThenLoaded) {
@@ -117,44 +98,39 @@ TEST_F(frmSplashTest, ANewPlayerIsCreatedWithTheEnterKeyAloneAndThenLoaded) {
   EXPECT_FALSE(List().isEnabled());
   EXPECT_FALSE(Button("cmdContinue").Enabled());
   Enter();
-  EXPECT_EQ(Find<QLabel>("lblHeader").text().toStdString(), "Enter a player name:");
+  EXPECT_EQ(Text("lblHeader"), "Enter a player name:");
   EXPECT_FALSE(Button("cmdNewName").Enabled());
   Enter();  // not without a name
-  EXPECT_TRUE(Find("txtPlayer").isVisible());
+  EXPECT_TRUE(Box("txtPlayer").isVisible());
   Type("  Bob the Marshal of Kelm");
-  EXPECT_EQ(Text("txtPlayer"), "Bob the Marshal of K");
+  EXPECT_EQ(Typed("txtPlayer"), "Bob the Marshal of K");
   EXPECT_EQ(Info(), "- max length reached (20)\n");
   Enter();
-  EXPECT_EQ(Find<QLabel>("lblHeader").text().toStdString(), "Enter a filename for your player:");
-  EXPECT_EQ(Text("txtName"), "bob the marshal of k");
-  Find("txtName").clear();
+  EXPECT_EQ(Text("lblHeader"), "Enter a filename for your player:");
+  EXPECT_EQ(Typed("txtName"), "bob the marshal of k");
+  Box("txtName").clear();
   Type(" bob ");
-  Find("txtNewPIN").setFocus();
-  EXPECT_EQ(Text("txtName"), "bob");
+  Box("txtNewPIN").setFocus();
+  EXPECT_EQ(Typed("txtName"), "bob");
   Type("42");
   Enter();
   EXPECT_THAT(Entries(), ElementsAre("bob"));
-  EXPECT_EQ(Text("txtPIN"), "42");
-  for (const char* box : {"txtPlayer", "txtName", "txtNewPIN"}) EXPECT_EQ(Text(box), "") << box;
-  stage.sound.played.clear();
+  EXPECT_EQ(Typed("txtPIN"), "42");
+  for (const char* box : {"txtPlayer", "txtName", "txtNewPIN"}) EXPECT_EQ(Typed(box), "") << box;
+  sound.played.clear();
   Enter();
-  EXPECT_THAT(stage.recorded.calls, ElementsAre("PlayerLoaded"));
+  EXPECT_THAT(recorded.calls, ElementsAre("PlayerLoaded"));
   EXPECT_EQ(Button("cmdContinue").Caption().toStdString(), "loading...");
   Enter();
-  stage.Settle(20);
-  EXPECT_THAT(stage.recorded.calls, ElementsAre("PlayerLoaded", "OpenMenu"));
-  EXPECT_EQ(stage.recorded.loaded->Name, "Bob the Marshal of K");
-  EXPECT_EQ(stage.recorded.loaded->PIN, "42");
-  EXPECT_EQ(stage.sound.Count("click"), 1);
-  EXPECT_THAT(stage.dialogs.boxes, IsEmpty());
+  Settle(20);
+  EXPECT_THAT(recorded.calls, ElementsAre("PlayerLoaded", "OpenMenu"));
+  EXPECT_EQ(recorded.loaded->Name, "Bob the Marshal of K");
+  EXPECT_EQ(recorded.loaded->PIN, "42");
+  EXPECT_EQ(sound.Count("click"), 1);
+  EXPECT_THAT(dialogs.boxes, IsEmpty());
 }
 
 TEST_F(frmSplashTest, AFileNameIsCheckedAtEveryChange) {
-  struct Case {
-    const char* name;
-    const char* info;
-    bool enabled;
-  };
   constexpr const char* kInvalid = "- invalid char: \\  /  :  *  ?  \"  <  >  |\n";
   constexpr const char* kExists = "- file of already exists\n";
   folder.Put("Bob.VNT", "");
@@ -164,21 +140,32 @@ TEST_F(frmSplashTest, AFileNameIsCheckedAtEveryChange) {
   hand->Click(Button("cmdCreate"));
   Type("x");
   hand->Click(Button("cmdNewName"));
-  for (const Case& c :
-       {Case{"", "", false}, Case{"bob", kExists, false}, Case{"BOB ", kExists, false},
-        Case{"place", kExists, false}, Case{"link", kExists, false}, Case{"bo", "", true},
-        Case{"bo b", "", true}, Case{".bob", "", true}, Case{"j\xC3\xBCrg", "", true},
-        Case{"who?", kInvalid, false}, Case{"../bob", kInvalid, false}, Case{"a\\b", kInvalid, false},
-        Case{".", kInvalid, false}, Case{"..", kInvalid, false}, Case{"bob.", kInvalid, false},
-        Case{"a\tb", kInvalid, false}, Case{"a\x7F", kInvalid, false},
-        Case{"12345678901234567890", "- max length reached (20)\n", true},
-        Case{"1234567890123456789|",
-             "- invalid char: \\  /  :  *  ?  \"  <  >  |\n- max length reached (20)\n", false}}) {
-    Find("txtName").setText(QString::fromUtf8(c.name));
-    EXPECT_EQ(Info(), c.info) << c.name;
-    EXPECT_EQ(Button("cmdNewFile").Enabled(), c.enabled) << c.name;
+  for (const auto& [name, info, enabled] : Rows<const char*, const char*, bool>{
+           {"", "", false},
+           {"bob", kExists, false},
+           {"BOB ", kExists, false},
+           {"place", kExists, false},
+           {"link", kExists, false},
+           {"bo", "", true},
+           {"bo b", "", true},
+           {".bob", "", true},
+           {"j\xC3\xBCrg", "", true},
+           {"who?", kInvalid, false},
+           {"../bob", kInvalid, false},
+           {"a\\b", kInvalid, false},
+           {".", kInvalid, false},
+           {"..", kInvalid, false},
+           {"bob.", kInvalid, false},
+           {"a\tb", kInvalid, false},
+           {"a\x7F", kInvalid, false},
+           {"12345678901234567890", "- max length reached (20)\n", true},
+           {"1234567890123456789|",
+            "- invalid char: \\  /  :  *  ?  \"  <  >  |\n- max length reached (20)\n", false}}) {
+    Box("txtName").setText(QString::fromUtf8(name));
+    EXPECT_EQ(Info(), info) << name;
+    EXPECT_EQ(Button("cmdNewFile").Enabled(), enabled) << name;
   }
-  Find("txtName").setText(QStringLiteral("bob"));
+  Box("txtName").setText(QStringLiteral("bob"));
   Enter();
   EXPECT_EQ(folder.Get("Bob.VNT"), "");
   EXPECT_FALSE(IsValidFileName(std::string(252, 'x')));
@@ -197,11 +184,11 @@ TEST_F(frmSplashTest, AnotherFileIsNeverReplacedAndAFailedSaveLeavesNothing) {
   EXPECT_EQ(folder.Get("bob.vnt"), "appeared meanwhile");
   EXPECT_EQ(Info(), "- file of already exists\n");
   EXPECT_FALSE(Button("cmdNewFile").Enabled());
-  EXPECT_THAT(stage.dialogs.boxes, IsEmpty());
+  EXPECT_THAT(dialogs.boxes, IsEmpty());
   hand->Key(Qt::Key_Escape);
   hand->Key(Qt::Key_Escape);
   EXPECT_TRUE(List().isVisible());
-  EXPECT_EQ(Text("txtPlayer"), "");
+  EXPECT_EQ(Typed("txtPlayer"), "");
 
   std::filesystem::remove(folder / "bob.vnt");
   toFileName();
@@ -212,8 +199,8 @@ TEST_F(frmSplashTest, AnotherFileIsNeverReplacedAndAFailedSaveLeavesNothing) {
   Enter();
   std::filesystem::remove_all(folder.path());
   Enter();
-  ASSERT_EQ(stage.dialogs.boxes.size(), 1U);
-  EXPECT_EQ(stage.dialogs.boxes[0].text.substr(0, 25), "Error saving player file!");
+  ASSERT_EQ(dialogs.boxes.size(), 1U);
+  EXPECT_EQ(dialogs.boxes[0].text.substr(0, 25), "Error saving player file!");
   EXPECT_THAT(Entries(), IsEmpty());
   EXPECT_TRUE(Button("cmdCreate").Enabled());
   EXPECT_FALSE(Button("cmdContinue").Enabled());
@@ -231,12 +218,12 @@ TEST_F(frmSplashTest, BackLeadsThroughTheStepsToTheListAndItsSelection) {
   Type("Cleo");
   EXPECT_TRUE(enter.isEnabled());
   enter.click();
-  Find("txtName").setText(QStringLiteral("ann"));
+  Box("txtName").setText(QStringLiteral("ann"));
   EXPECT_FALSE(enter.isEnabled());
   hand->Click(Button("cmdBack"));
-  EXPECT_TRUE(Find("txtPlayer").isVisible() && Find("txtPlayer").hasFocus());
-  EXPECT_EQ(Text("txtPlayer"), "Cleo");
-  EXPECT_EQ(Find<QLabel>("lblHeader").text().toStdString(), "Enter a player name:");
+  EXPECT_TRUE(Box("txtPlayer").isVisible() && Box("txtPlayer").hasFocus());
+  EXPECT_EQ(Typed("txtPlayer"), "Cleo");
+  EXPECT_EQ(Text("lblHeader"), "Enter a player name:");
   EXPECT_EQ(Info(), "");
   EXPECT_TRUE(Button("cmdNewName").Enabled());
   hand->Click(Button("cmdBack"));
@@ -244,33 +231,30 @@ TEST_F(frmSplashTest, BackLeadsThroughTheStepsToTheListAndItsSelection) {
   EXPECT_FALSE(Button("cmdBack").isVisible());
   EXPECT_EQ(List().currentRow(), 1);
   hand->Click(Button("cmdCreate"));
-  EXPECT_EQ(Text("txtPlayer"), "");
+  EXPECT_EQ(Typed("txtPlayer"), "");
 }
 
 TEST_F(frmSplashTest, ALetterThatCannotBeStoredIsRefusedWithALine) {
   Open();
   hand->Click(Button("cmdCreate"));
-  Find("txtPlayer").insert(QStringLiteral("\u0141"));
+  Box("txtPlayer").insert(QStringLiteral("\u0141"));
   EXPECT_FALSE(Button("cmdNewName").Enabled());
   EXPECT_EQ(Info(), "- cannot be stored: \xC5\x81\n");
   Type("ukasz");
   EXPECT_EQ(Info(), "- cannot be stored: \xC5\x81\n") << "it is still there when the person looks up";
-  Find("txtPlayer").insert(QStringLiteral("\u0105"));
+  Box("txtPlayer").insert(QStringLiteral("\u0105"));
   Type(" the Great of Kel");
   EXPECT_EQ(Info(), "- cannot be stored: \xC5\x81\xC4\x85\n- max length reached (20)\n");
   Enter();
   EXPECT_EQ(Info(), "- max length reached (20)\n");
   hand->Click(Button("cmdBack"));
-  Find("txtPlayer").setText(QStringLiteral("J\u00FCrg"));
+  Box("txtPlayer").setText(QStringLiteral("J\u00FCrg"));
   EXPECT_EQ(Info(), "");
 }
 
 TEST_F(frmSplashTest, AFileThatCannotBeLoadedLeavesTheScreenUsable) {
   PutPlayer("a pin.vnt", "1234");
-  folder.Put("b empty.vnt", "");
   folder.Put("c foreign.vnt", std::string(70'000, 'x'));
-  folder.Put("d huge.vnt", "");
-  std::filesystem::resize_file(folder / "d huge.vnt", 1ULL << 33);
   PutPlayer("e gone.vnt", "");
   const std::string before = folder.Get("a pin.vnt");
   Open();
@@ -278,34 +262,34 @@ TEST_F(frmSplashTest, AFileThatCannotBeLoadedLeavesTheScreenUsable) {
   for (int row = 0; row < List().count(); ++row) {
     List().setCurrentRow(row);
     for (const char* pin : {"", "12"}) {
-      Find<PinBox>("txtPIN").setPIN(pin);
-      stage.dialogs.boxes.clear();
+      TypePIN(pin);
+      dialogs.boxes.clear();
       hand->Click(Button("cmdContinue"));
-      ASSERT_EQ(stage.dialogs.boxes.size(), 1U);
-      EXPECT_EQ(stage.dialogs.boxes[0].text, "Player file corrupted, or incorrect PIN");
-      EXPECT_EQ(stage.dialogs.boxes[0].title, "Kelm Vantri: Error");
-      EXPECT_EQ(stage.dialogs.boxes[0].icon, DialogIcon::Critical);
+      ASSERT_EQ(dialogs.boxes.size(), 1U);
+      EXPECT_EQ(dialogs.boxes[0].text, "Player file corrupted, or incorrect PIN");
+      EXPECT_EQ(dialogs.boxes[0].title, "Kelm Vantri: Error");
+      EXPECT_EQ(dialogs.boxes[0].icon, DialogIcon::Critical);
       EXPECT_EQ(Button("cmdContinue").Caption().toStdString(), "continue");
       EXPECT_TRUE(Button("cmdContinue").Enabled() && Button("cmdCreate").Enabled() && List().isEnabled());
-      EXPECT_TRUE(Find("txtPIN").hasFocus());
+      EXPECT_TRUE(Box("txtPIN").hasFocus());
     }
   }
-  EXPECT_THAT(stage.recorded.calls, IsEmpty());
+  EXPECT_THAT(recorded.calls, IsEmpty());
   EXPECT_EQ(folder.Get("a pin.vnt"), before);
   List().setCurrentRow(0);
-  Find<PinBox>("txtPIN").setPIN("1234");
+  TypePIN("1234");
   Enter();
-  EXPECT_THAT(stage.recorded.calls, ElementsAre("PlayerLoaded"));
+  EXPECT_THAT(recorded.calls, ElementsAre("PlayerLoaded"));
 }
 
 TEST_F(frmSplashTest, ClosedBehindABoxItTouchesNothingMore) {
   folder.Put("bob.vnt", "");
   Open();
-  stage.dialogs.whileOpen = [this] { splash->CloseScreen(); };
+  dialogs.whileOpen = [this] { screen->CloseScreen(); };
   Enter();
-  stage.Settle();
+  Settle();
   EXPECT_EQ(Button("cmdContinue").Caption().toStdString(), "loading...");
-  EXPECT_THAT(stage.recorded.calls, IsEmpty());
+  EXPECT_THAT(recorded.calls, IsEmpty());
 }
 
 TEST_F(frmSplashTest, ADeletedPlayerGoesToTheTrashWithWhatLiesBesideHim) {
@@ -314,23 +298,23 @@ TEST_F(frmSplashTest, ADeletedPlayerGoesToTheTrashWithWhatLiesBesideHim) {
   const std::string before = folder.Get("bob.vnt");
   Open();
   List().setCurrentRow(1);
-  stage.dialogs.answers = {false, true};
+  dialogs.answers = {false, true};
   PressDelete();
   EXPECT_EQ(folder.Count(), 4) << "a no leaves everything";
   hand->Click(Find<QAbstractButton>("lnkDelete"));
-  EXPECT_EQ(stage.dialogs.boxes.back().text,
+  EXPECT_EQ(dialogs.boxes.back().text,
             "Move the player file \"bob\" and the matches kept with it to the trash?");
   EXPECT_THAT(Entries(), ElementsAre("ann", "cleo"));
   EXPECT_EQ(List().currentRow(), 1) << "the hand stays where it was";
   EXPECT_EQ(trash.Get("bob.vnt"), before);
   EXPECT_EQ(trash.Get("bob.vnt.log"), "matches");
-  stage.dialogs.answers = {true, true};
+  dialogs.answers = {true, true};
   PressDelete();
   PressDelete();
   EXPECT_FALSE(Find<QAbstractButton>("lnkDelete").isEnabled());
   EXPECT_FALSE(Button("cmdContinue").Enabled());
   hand->Key(Qt::Key_F2);
-  EXPECT_TRUE(stage.dialogs.answers.empty() && stage.dialogs.texts.empty());
+  EXPECT_TRUE(dialogs.answers.empty() && dialogs.texts.empty());
 }
 
 TEST_F(frmSplashTest, ATrashThatRefusesCostsNothingAndIsTold) {
@@ -338,15 +322,15 @@ TEST_F(frmSplashTest, ATrashThatRefusesCostsNothingAndIsTold) {
   folder.Put("ann.vnt.log", "matches");
   Open();
   stuck = "ann.vnt";
-  stage.dialogs.answers = {true, true};
+  dialogs.answers = {true, true};
   PressDelete();
-  EXPECT_EQ(stage.dialogs.boxes.back().text,
+  EXPECT_EQ(dialogs.boxes.back().text,
             "The player file \"ann\" could not be moved to the trash. Nothing was deleted.");
   EXPECT_EQ(folder.Count(), 2);
   EXPECT_THAT(Entries(), ElementsAre("ann"));
   stuck = "ann.vnt.log";
   PressDelete();
-  EXPECT_THAT(stage.dialogs.boxes.back().text, testing::HasSubstr("could not be moved."));
+  EXPECT_THAT(dialogs.boxes.back().text, testing::HasSubstr("could not be moved."));
   EXPECT_EQ(folder.Get("ann.vnt.log"), "matches");
 }
 
@@ -359,14 +343,14 @@ TEST_F(frmSplashTest, APlayerWithAPINIsLeftAloneWithoutIt) {
     PressDelete();
     hand->Key(Qt::Key_F2);
   }
-  ASSERT_EQ(stage.dialogs.boxes.size(), 6U);
-  for (const auto& box : stage.dialogs.boxes) EXPECT_EQ(box.text, "Player file corrupted, or incorrect PIN");
-  EXPECT_TRUE(Find("txtPIN").hasFocus());
+  ASSERT_EQ(dialogs.boxes.size(), 6U);
+  for (const auto& box : dialogs.boxes) EXPECT_EQ(box.text, "Player file corrupted, or incorrect PIN");
+  EXPECT_TRUE(Box("txtPIN").hasFocus());
   EXPECT_EQ(folder.Count(), 2);
   hand->Key(Qt::Key_Delete);  // in the box it is the text's
-  EXPECT_EQ(stage.dialogs.boxes.size(), 6U);
+  EXPECT_EQ(dialogs.boxes.size(), 6U);
   TypePIN("0042");
-  stage.dialogs.answers = {true, true};
+  dialogs.answers = {true, true};
   PressDelete();
   PressDelete();
   EXPECT_EQ(folder.Count(), 0) << "no PIN opens a broken file: it is nobody's secret";
@@ -381,14 +365,14 @@ TEST_F(frmSplashTest, ARenamedPlayerKeepsEverythingAndReplacesNothing) {
   const std::string other = folder.Get("bob.vnt");
   Open();
   TypePIN("7");
-  stage.dialogs.texts = {"BOB", "../ann", "an ann of more than twenty", "zoe", std::nullopt};
+  dialogs.texts = {"BOB", "../ann", "an ann of more than twenty", "zoe", std::nullopt};
   hand->Key(Qt::Key_F2);
-  EXPECT_EQ(stage.dialogs.boxes.size(), 9U) << "each is refused with a reason, and can be mended";
-  EXPECT_EQ(stage.dialogs.boxes[2].preset, "BOB");
+  EXPECT_EQ(dialogs.boxes.size(), 9U) << "each is refused with a reason, and can be mended";
+  EXPECT_EQ(dialogs.boxes[2].preset, "BOB");
   EXPECT_EQ(folder.Get("bob.vnt") + folder.Get("zoe.vnt.more"), other + "another's");
   EXPECT_EQ(folder.Get("ann.vnt"), before);
   EXPECT_EQ(renamed, "");
-  stage.dialogs.texts = {" cleo "};
+  dialogs.texts = {" cleo "};
   hand->Click(Find<QAbstractButton>("lnkRename"));
   EXPECT_THAT(Entries(), ElementsAre("bob", "cleo"));
   EXPECT_EQ(List().currentRow(), 1);
@@ -396,7 +380,7 @@ TEST_F(frmSplashTest, ARenamedPlayerKeepsEverythingAndReplacesNothing) {
   EXPECT_EQ(folder.Get("cleo.vnt.log"), "matches");
   EXPECT_EQ(folder.Count(), 4);
   EXPECT_EQ(renamed, "ann to cleo");
-  stage.dialogs.texts = {"Cleo"};
+  dialogs.texts = {"Cleo"};
   hand->Key(Qt::Key_F2);
   EXPECT_EQ(folder.Get("Cleo.vnt"), before) << "its own name in other letters is not taken";
 }
@@ -412,23 +396,18 @@ TEST_F(frmSplashTest, TheNameInsideAFileStandsBesideItUnlessItHasAPIN) {
 }
 
 TEST_F(frmSplashTest, APINBoxTakesDigitsOnlyAndShowsThemForASecond) {
-  struct Case {
-    const char* typed;
-    const char* text;
-    int caret;
-  };
   Open();
   hand->Click(Button("cmdCreate"));
   Type("bob");
   Enter();
   auto& box = Find<PinBox>("txtNewPIN");
   box.setFocus();
-  for (const Case& c :
-       {Case{"12a", "12", 2}, Case{"x", "", 0}, Case{"12345", "1234", 4}, Case{"1-2", "12", 2}}) {
+  for (const auto& [typed, text, caret] : Rows<const char*, const char*, int>{
+           {"12a", "12", 2}, {"x", "", 0}, {"12345", "1234", 4}, {"1-2", "12", 2}}) {
     box.clear();
-    Type(c.typed);
-    EXPECT_EQ(box.PIN(), c.text) << c.typed;
-    EXPECT_EQ(box.cursorPosition(), c.caret) << c.typed;
+    Type(typed);
+    EXPECT_EQ(box.PIN(), text) << typed;
+    EXPECT_EQ(box.cursorPosition(), caret) << typed;
   }
   box.setPIN("12");
   box.setCursorPosition(1);
@@ -440,7 +419,7 @@ TEST_F(frmSplashTest, APINBoxTakesDigitsOnlyAndShowsThemForASecond) {
 
   auto& reveal = Find<QAbstractButton>("lblPINReveal");
   EXPECT_EQ(box.displayText().toStdString(), "##");
-  stage.scheduler.At(999, [&] {
+  scheduler.At(999, [&] {
     EXPECT_EQ(box.displayText().toStdString(), "12");
     hand->Click(reveal);  // one is running already
   });
@@ -448,56 +427,56 @@ TEST_F(frmSplashTest, APINBoxTakesDigitsOnlyAndShowsThemForASecond) {
   EXPECT_EQ(box.displayText().toStdString(), "##");
   box.clear();
   hand->Click(reveal);
-  EXPECT_THAT(stage.scheduler.pauses, ElementsAre(1000));
+  EXPECT_THAT(scheduler.pauses, ElementsAre(1000));
   box.setPIN("12");
-  stage.scheduler.At(500, [this] { splash->CloseScreen(); });
+  scheduler.At(500, [this] { screen->CloseScreen(); });
   hand->Click(reveal);
-  EXPECT_EQ(stage.scheduler.timeGetTime(), 1502U);
+  EXPECT_EQ(scheduler.timeGetTime(), 1502U);
 }
 
 TEST_F(frmSplashTest, AGlowThatNobodyLooksAtRestsAfterAMinute) {
   Open();
-  stage.Settle(60000);
-  EXPECT_TRUE(stage.globals.effects.fading());
-  stage.Settle(10000);
-  EXPECT_FALSE(stage.globals.effects.fading());
-  EXPECT_EQ(stage.scheduler.RunningTimers(), 0) << "something still wakes the processor";
+  Settle(60000);
+  EXPECT_TRUE(globals.effects.fading());
+  Settle(10000);
+  EXPECT_FALSE(globals.effects.fading());
+  EXPECT_EQ(scheduler.RunningTimers(), 0) << "something still wakes the processor";
   hand->Key(Qt::Key_Down);
-  stage.Settle(200);
-  EXPECT_TRUE(stage.globals.effects.fading());
+  Settle(200);
+  EXPECT_TRUE(globals.effects.fading());
 }
 
 TEST_F(frmSplashTest, TheTitleLightsUpAndGlowsUntilItIsClicked) {
   Open();
   auto& title = dynamic_cast<FadeTarget&>(Find<QWidget>("imgFadeText_Target"));
-  stage.Settle(5000);
-  EXPECT_TRUE(stage.globals.effects.fading());
+  Settle(5000);
+  EXPECT_TRUE(globals.effects.fading());
   const int before = title.alpha();
-  stage.Settle(100);
+  Settle(100);
   EXPECT_NE(title.alpha(), before);
   hand->Press(hand->CentreOf(title));
   hand->MoveTo(hand->CentreOf(title) + QPoint(60, 0));
   hand->Release(hand->CentreOf(title) + QPoint(60, 0));
-  EXPECT_TRUE(stage.globals.effects.fading());  // that was a drag
+  EXPECT_TRUE(globals.effects.fading());  // that was a drag
   hand->Click(title);
   EXPECT_EQ(title.alpha(), 255);
-  stage.Settle(5000);
-  EXPECT_FALSE(stage.globals.effects.fading());
-  EXPECT_EQ(stage.scheduler.RunningTimers(), 0);
+  Settle(5000);
+  EXPECT_FALSE(globals.effects.fading());
+  EXPECT_EQ(scheduler.RunningTimers(), 0);
 }
 
 TEST_F(frmSplashTest, LinkAndWindowButtonsDoWhatTheySay) {
   Open();
-  EXPECT_EQ(Find<QLabel>("lblVersion").text().toStdString(), "v1.2.4");
+  EXPECT_EQ(Text("lblVersion"), "v1.2.4");
   EXPECT_EQ(Find<QAbstractButton>("lblURL").text().toStdString(), "Web: kelm-vantri.example");
   hand->Click(Find<QAbstractButton>("lblURL"));
-  EXPECT_THAT(stage.recorded.calls, ElementsAre("OpenHelp"));
+  EXPECT_THAT(recorded.calls, ElementsAre("OpenHelp"));
   hand->Click(Find<QAbstractButton>("cmdQuit"));
-  EXPECT_THAT(stage.recorded.calls, ElementsAre("OpenHelp", "EndProgram"));
+  EXPECT_THAT(recorded.calls, ElementsAre("OpenHelp", "EndProgram"));
   hand->Key(Qt::Key_Escape);
-  EXPECT_THAT(stage.recorded.calls, ElementsAre("OpenHelp", "EndProgram", "EndProgram"));
+  EXPECT_THAT(recorded.calls, ElementsAre("OpenHelp", "EndProgram", "EndProgram"));
   hand->Click(Find<QAbstractButton>("cmdMini"));
-  EXPECT_TRUE(splash->isMinimized());
+  EXPECT_TRUE(screen->isMinimized());
 }
 
 TEST_F(frmSplashTest, TheFocusOfTheCreationGoesStraightToWhatIsTypedNext) {
@@ -505,8 +484,8 @@ TEST_F(frmSplashTest, TheFocusOfTheCreationGoesStraightToWhatIsTypedNext) {
   Open();
   std::vector<std::string> had;
   const auto watch =
-      QObject::connect(qApp, &QApplication::focusChanged, splash.get(), [&](QWidget*, QWidget* now) {
-        if (now != nullptr && now != splash.get()) had.push_back(now->objectName().toStdString());
+      QObject::connect(qApp, &QApplication::focusChanged, screen.get(), [&](QWidget*, QWidget* now) {
+        if (now != nullptr && now != screen.get()) had.push_back(now->objectName().toStdString());
       });
   hand->Click(Button("cmdCreate"));
   Type("bob");
@@ -514,9 +493,9 @@ TEST_F(frmSplashTest, TheFocusOfTheCreationGoesStraightToWhatIsTypedNext) {
   Enter();
   QObject::disconnect(watch);
   EXPECT_THAT(had, ElementsAre("txtPlayer", "txtName", "txtPIN"));
-  EXPECT_EQ(stage.announcer.Last(), "bob is selected.");
+  EXPECT_EQ(announcer.Last(), "bob is selected.");
   hand->Key(Qt::Key_Up);
-  EXPECT_EQ(stage.announcer.Last(), "ann is selected.") << "the keys are in the box beside the list";
+  EXPECT_EQ(announcer.Last(), "ann is selected.") << "the keys are in the box beside the list";
 }
 
 TEST_F(frmSplashTest, WhatIsWrongWithANameIsTold) {
@@ -526,13 +505,13 @@ TEST_F(frmSplashTest, WhatIsWrongWithANameIsTold) {
   EXPECT_EQ(Find<QLabel>("lblCreateInfo").accessibleName(), QStringLiteral("Notes: none"));
   Enter();
   Type("/");
-  EXPECT_THAT(stage.announcer.Last(), testing::HasSubstr("- invalid char"));
+  EXPECT_THAT(announcer.Last(), testing::HasSubstr("- invalid char"));
   EXPECT_THAT(Find<QLabel>("lblCreateInfo").accessibleName().toStdString(),
               testing::HasSubstr("- invalid char"));
-  const std::size_t told = stage.announcer.told.size();
+  const std::size_t told = announcer.told.size();
   Type("/");
-  EXPECT_EQ(stage.announcer.told.size(), told) << "it is said once";
+  EXPECT_EQ(announcer.told.size(), told) << "it is said once";
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <deque>
 #include <functional>
 #include <memory>
@@ -22,8 +23,19 @@
 
 namespace kv::test {
 
-/// What a scripted opponent does in a turn: it stands.
+/// What a scripted opponent does in a turn.
 inline void StandOpponent(AiOperations& side) {
+  side.AI_Stand();
+}
+inline void EndOpponent(AiOperations& side) {
+  side.AI_EndTurn();
+}
+inline void PlayFirst(AiOperations& side) {
+  side.AI_PlayCard(1);
+  side.AI_EndTurn();
+}
+inline void PlayFirstAndStand(AiOperations& side) {
+  side.AI_PlayCard(1);
   side.AI_Stand();
 }
 
@@ -164,20 +176,7 @@ class MatchTable final : public MatchView,
   }
   void BannerChanged() override { screen.TellBanner(engine->shown().banner); }
   void RunTimer(MatchTimer timer, bool run) override {
-    switch (timer) {
-      case MatchTimer::Game:
-        gameTimer = run;
-        break;
-      case MatchTimer::AutoDialogs:
-        autoTimer = run;
-        break;
-      case MatchTimer::NetWait:
-        netTimer = run;
-        break;
-      case MatchTimer::Quiet:
-        quietTimer = run;
-        break;
-    }
+    *std::array{&gameTimer, &autoTimer, &netTimer, &quietTimer}.at(static_cast<std::size_t>(timer)) = run;
   }
   void PlaySound(std::string_view effect) override {
     sounds.emplace_back(effect);

@@ -59,6 +59,12 @@ class ProgramStage {
     program->Start();
     Settle(1000);
   }
+  /// A player of this name comes to the menu.
+  void EnterMenuAs(const std::string& file, const std::function<void(clsPlayer&)>& change = {}) {
+    MakePlayer(file, change);
+    Start();
+    EnterMenu(file);
+  }
   /// Chooses the player on the start screen and waits for the menu.
   void EnterMenu(const std::string& file) {
     auto& list = Control<QListWidget>("lstPlayers");

@@ -1,17 +1,15 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QImage>
 #include <array>
 #include <cstdio>
-#include <filesystem>
 
 #include "packing/Art.h"
 #include "presentation/PictureSizes.h"
 #include "presentation/Pictures.h"
 #include "support/TempFolder.h"
 
-namespace kv {
+namespace kv::test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -80,7 +78,7 @@ class ArtFolder : public testing::Test {
     return fault;
   }
 
-  const test::TempFolder folder;
+  const TempFolder folder;
 };
 
 TEST_F(ArtFolder, APictureOfEachKindTakesItsPaintersPlace) {
@@ -166,4 +164,4 @@ TEST_F(ArtFolder, TellsWhatIsWrongWithASound) {
 }
 
 }  // namespace
-}  // namespace kv
+}  // namespace kv::test

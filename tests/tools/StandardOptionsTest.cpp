@@ -30,8 +30,8 @@ Ended Start(const QString& program, const QStringList& words, const char* displa
   QProcess process;
   process.setWorkingDirectory(home.path());
   QProcessEnvironment environment;
-  environment.insert(QStringLiteral("HOME"), home.path());
-  environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QString::fromLatin1(display));
+  environment.insert("HOME", home.path());
+  environment.insert("QT_QPA_PLATFORM", QString::fromLatin1(display));
   // How the sanitizers of a checked build are set goes on to the programs.
   const char* sanitizers = "ASAN_OPTIONS";
   environment.insert(QString::fromLatin1(sanitizers), qEnvironmentVariable(sanitizers));
@@ -44,33 +44,23 @@ Ended Start(const QString& program, const QStringList& words, const char* displa
 }
 
 QString PathOf(const char* program) {
-  return QCoreApplication::applicationDirPath() + QStringLiteral("/../bin/") + QString::fromLatin1(program);
+  return QCoreApplication::applicationDirPath() + "/../bin/" + QString::fromLatin1(program);
 }
 
 class EveryProgram : public testing::TestWithParam<const char*> {};
 
-TEST_P(EveryProgram, TellsItsVersion) {
-  const Ended end = Start(PathOf(GetParam()), {QStringLiteral("--version")});
-  EXPECT_EQ(end.code, 0) << end.errors;
-  EXPECT_EQ(end.output, std::string(GetParam()) + " " KV_VERSION "\n");
-  EXPECT_EQ(end.errors, "");
-  EXPECT_FALSE(end.leftFiles);
-}
-
-TEST_P(EveryProgram, TellsItsOptions) {
-  const Ended end = Start(PathOf(GetParam()), {QStringLiteral("--help")});
-  EXPECT_EQ(end.code, 0) << end.errors;
-  EXPECT_TRUE(end.output.starts_with(std::string("usage: ") + GetParam() + " ")) << end.output;
-  EXPECT_EQ(end.errors, "");
-  EXPECT_FALSE(end.leftFiles);
-}
-
-TEST_P(EveryProgram, RefusesAnOptionThatItDoesNotKnow) {
-  const Ended end = Start(PathOf(GetParam()), {QStringLiteral("--no-such-option")}, "offscreen");
-  EXPECT_EQ(end.code, 2);
-  EXPECT_NE(end.errors, "");
-  EXPECT_EQ(end.output, "");
-  EXPECT_FALSE(end.leftFiles);
+TEST_P(EveryProgram, TellsItsVersionAndItsOptionsAndRefusesOnesThatItDoesNotKnow) {
+  const Ended version = Start(PathOf(GetParam()), {"--version"});
+  EXPECT_EQ(version.output, std::string(GetParam()) + " " KV_VERSION "\n");
+  const Ended help = Start(PathOf(GetParam()), {"--help"});
+  EXPECT_TRUE(help.output.starts_with(std::string("usage: ") + GetParam() + " ")) << help.output;
+  const Ended refused = Start(PathOf(GetParam()), {"--no-such-option"}, "offscreen");
+  EXPECT_EQ(refused.output, "");
+  for (const Ended* end : {&version, &help, &refused}) {
+    EXPECT_EQ(end->code, end == &refused ? 2 : 0) << end->errors;
+    EXPECT_EQ(end->errors.empty(), end != &refused) << end->errors;
+    EXPECT_FALSE(end->leftFiles);
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(Programs, EveryProgram, testing::ValuesIn(kPrograms), [](const auto& program) {
